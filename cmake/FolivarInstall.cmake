@@ -1,0 +1,38 @@
+# Installs the libraries, the public headers, the CMake package and the pkg-config file.
+
+include(CMakePackageConfigHelpers)
+include(GNUInstallDirs)
+
+list(TRANSFORM folivar_kinds PREPEND folivar_ OUTPUT_VARIABLE libraries)
+set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/Folivar")
+
+install(
+  TARGETS ${libraries}
+  EXPORT FolivarTargets
+  FILE_SET HEADERS)
+install(
+  EXPORT FolivarTargets
+  NAMESPACE Folivar::
+  DESTINATION "${package_folder}")
+
+configure_package_config_file(
+  "${PROJECT_SOURCE_DIR}/cmake/FolivarConfig.cmake.in" "${PROJECT_BINARY_DIR}/FolivarConfig.cmake"
+  INSTALL_DESTINATION "${package_folder}" NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/FolivarConfigVersion.cmake"
+                                 COMPATIBILITY SameMinorVersion)
+install(FILES "${PROJECT_BINARY_DIR}/FolivarConfig.cmake"
+              "${PROJECT_BINARY_DIR}/FolivarConfigVersion.cmake" DESTINATION "${package_folder}")
+
+# From the folder of folivar.pc back to the prefix, so that an installed tree may be moved.
+file(RELATIVE_PATH pc_prefix "/prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/prefix")
+set(pc_cflags)
+if(WIN32 AND BUILD_SHARED_LIBS)
+  set(pc_cflags -DFOLIVAR_SHARED)
+endif()
+configure_file("${PROJECT_SOURCE_DIR}/cmake/folivar.pc.in" "${PROJECT_BINARY_DIR}/folivar.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/folivar.pc"
+        DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+
+# The metrics travel inside the library, and their notice must travel with them.
+install(FILES "${PROJECT_SOURCE_DIR}/folivar/fonts/afm/NOTICE.txt"
+        DESTINATION "${CMAKE_INSTALL_DOCDIR}")

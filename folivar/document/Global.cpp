@@ -1,0 +1,189 @@
+#include "folivar/document/Global.h"
+
+#include <algorithm>
+#include <array>
+#include <cfloat>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+#include "folivar/document/CaseFold.h"
+#include "folivar/document/Decimal.h"
+#include "folivar/document/Error.h"
+#include "folivar/document/PDFText.h"
+
+namespace folivar {
+namespace {
+
+// Every stored float and every operation is rounded to its own type: no extended precision.
+static_assert(FLT_EVAL_METHOD == 0);
+
+constexpr double kScale = 10000;  // four decimals
+constexpr std::int64_t kScaledLimit = (std::int64_t{1} << 31) * 10000;
+
+// Whether a * 10000 lies below (-1), at (0) or above (1) `product`, that product rounded to double.
+// The halves of `a` have at most 27 bits, so their products are exact, and so is the difference of
+// two numbers so near each other.
+int SideOfProduct(double a, double product) {
+  constexpr double kSplit = 134217729;  // 2^27 + 1
+  const double shifted = a * kSplit;
+  const double high = shifted - (shifted - a);
+  const double low = a - high;
+  const double highDifference = high * kScale - product;
+  const double lowProduct = -(low * kScale);
+  return highDifference < lowProduct ? -1 : highDifference > lowProduct ? 1 : 0;
+}
+
+Error CannotWrite(double x) {
+  std::array<char, 32> digits{};
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), x).ptr;
+  return Error::Overflow("a value of " + std::string(digits.data(), end) +
+                         " cannot be written: PDF numbers are below 2^31");
+}
+
+// |x| in ten thousandths, exact ties to even.
+std::int64_t TenThousandths(double x) {
+  const double magnitude = std::fabs(x);
+  if (!(magnitude < 2147483648.0)) throw CannotWrite(x);
+  const double product = magnitude * kScale;
+  const double rounded = RoundHalfToEven(product);
+  auto result = static_cast<std::int64_t>(rounded);
+  const double rest = product - rounded;
+  if (rest == 0.5 || rest == -0.5) {
+    // A tie, unless the product was rounded onto it.
+    const int side = SideOfProduct(magnitude, product);
+    if (side > 0 && rest > 0) ++result;
+    if (side < 0 && rest < 0) --result;
+  }
+  if (result >= kScaledLimit) throw CannotWrite(x);
+  return result;
+}
+
+void SortRange(std::vector<std::u16string>& folded, std::vector<Text>& strings, std::int64_t lo,
+               std::int64_t hi) {
+  const auto at = [](std::int64_t index) { return static_cast<std::size_t>(index); };
+  while (lo < hi) {
+    const std::u16string pivot =
+        folded[at(static_cast<std::int64_t>(RoundHalfToEven(static_cast<double>(lo + hi) / 2)))];
+    std::int64_t i = lo;
+    std::int64_t j = hi;
+    while (i <= j) {
+      while (folded[at(i)] < pivot && i < hi) ++i;
+      while (folded[at(j)] > pivot && j > lo) --j;
+      if (i <= j) {
+        std::swap(folded[at(i)], folded[at(j)]);
+        std::swap(strings[at(i)], strings[at(j)]);
+        ++i;
+        --j;
+      }
+    }
+    // The shorter part by recursion, the longer one here: the stack stays shallow.
+    if (j - lo < hi - i) {
+      SortRange(folded, strings, lo, j);
+      lo = i;
+    } else {
+      SortRange(folded, strings, i, hi);
+      hi = j;
+    }
+  }
+}
+
+}  // namespace
+
+double RoundHalfToEven(double x) {
+  // Adding 2^52 leaves no bits for a fraction; the sum is rounded to even.
+  constexpr double kNoFraction = 4503599627370496.0;
+  if (!(std::fabs(x) < kNoFraction)) return x;
+  return x < 0 ? (x - kNoFraction) + kNoFraction : (x + kNoFraction) - kNoFraction;
+}
+
+char* WriteReal(char* out, double x) {
+  const std::int64_t scaled = TenThousandths(x);
+  if (x < 0 && scaled != 0) *out++ = '-';
+  out = WriteDecimal(out, static_cast<std::uint32_t>(scaled / 10000));
+  auto fraction = static_cast<std::uint32_t>(scaled % 10000);
+  if (fraction != 0) {
+    *out++ = '.';
+    out = WriteFourDigits(out, fraction);
+    while (out[-1] == '0') --out;
+  }
+  *out++ = ' ';
+  return out;
+}
+
+std::string FormatReal(double x) {
+  std::array<char, kLongestReal> digits;
+  return {digits.data(), WriteReal(digits.data(), x)};
+}
+
+const Text& MaxOf(const Text& a, const Text& b) { return CompareIgnoringCase(a, b) >= 0 ? a : b; }
+const Text& MinOf(const Text& a, const Text& b) { return CompareIgnoringCase(a, b) <= 0 ? a : b; }
+
+std::int16_t FindLastInRange(TextView s, TextView find, std::int16_t start, std::int16_t stop) {
+  const std::u16string text = FoldCase(s);
+  const std::u16string wanted = FoldCase(find);
+  std::size_t end = stop < 0 ? 0 : static_cast<std::size_t>(stop);
+  if (stop == 0 || end > text.size()) end = text.size();
+  const std::size_t begin = start < 1 ? 0 : static_cast<std::size_t>(start) - 1;
+  std::size_t found = begin;
+  if (begin < end) {
+    const std::size_t place = std::u16string_view(text).substr(begin, end - begin).rfind(wanted);
+    if (place != std::u16string_view::npos) found = begin + std::min(place + 1, end - begin);
+  }
+  if (found > 32767) throw Error::Overflow("A position in a text does not fit into 16 bits");
+  return static_cast<std::int16_t>(found);
+}
+
+bool FileExists(TextView path) noexcept {
+  try {
+    std::error_code error;
+    return std::filesystem::exists(std::filesystem::path(Text(path).Utf16()), error);
+  } catch (...) {
+    return false;
+  }
+}
+
+std::int64_t CeilDiv(std::int64_t a, std::int64_t b) {
+  if (b == 0) throw Error::DivisionByZero("CeilDiv: division by zero");
+  return a / b + (a % b != 0 ? 1 : 0);
+}
+
+ColorShares SharesOf(std::int32_t color) {
+  const auto bits = static_cast<std::uint32_t>(color);
+  return {(bits & 0xFF) / 255.0, ((bits >> 8) & 0xFF) / 255.0, ((bits >> 16) & 0xFF) / 255.0};
+}
+
+std::string StrokeColorOp(std::int32_t color) {
+  const ColorShares shares = SharesOf(color);
+  return FormatReal(shares.red) + FormatReal(shares.green) + FormatReal(shares.blue) + "RG\n";
+}
+
+std::string FillColorOp(std::int32_t color) {
+  const ColorShares shares = SharesOf(color);
+  return FormatReal(shares.red) + FormatReal(shares.green) + FormatReal(shares.blue) + "rg\n";
+}
+
+std::string_view PdfBool(bool flag) { return flag ? "true" : "false"; }
+
+void SortStrings(std::vector<Text>& strings, std::int32_t lo, std::int32_t hi) {
+  if (lo == -1) {
+    lo = 0;
+    hi = static_cast<std::int32_t>(strings.size()) - 1;
+  }
+  if (hi <= 0) return;
+  if (lo < 0 || static_cast<std::size_t>(hi) >= strings.size() ||
+      static_cast<std::size_t>(lo) >= strings.size()) {
+    throw Error::SubscriptOutOfRange("SortStrings: " + std::to_string(lo) + " to " +
+                                     std::to_string(hi) + " is outside the " +
+                                     std::to_string(strings.size()) + " strings");
+  }
+  std::vector<std::u16string> folded;
+  folded.reserve(strings.size());
+  for (const Text& string : strings) folded.push_back(FoldCase(string));
+  SortRange(folded, strings, lo, hi);
+}
+
+}  // namespace folivar

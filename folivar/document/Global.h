@@ -1,0 +1,75 @@
+#pragma once
+
+#include <concepts>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "folivar/document/Text.h"
+
+namespace folivar {
+
+// The procedures that all classes share. The formatter's output is part of the file format.
+
+// The longest real, its blank included: "-2147483647.9999 ".
+inline constexpr std::size_t kLongestReal = 17;
+
+// Writes `x` as every real in the file is written and returns the end: at most four decimals, exact
+// ties to the even digit, no trailing zeros, no exponent, never "-0", then one blank. "612 ",
+// "0.5 ", "-3.25 ". Writers rely on the blank as the separator, so a blank of their own after it
+// gives two in the file. Raises 6 for what is not a number and from 2^31 on (rounded), and writes
+// nothing then. `out` has room for kLongestReal bytes.
+char* WriteReal(char* out, double x);
+
+// The same as a string.
+std::string FormatReal(double x);
+
+// To a whole number, halves to the even one; what is not finite stays as it is.
+double RoundHalfToEven(double x);
+
+// On a tie the first argument. Texts compare without regard to case.
+template <class Number>
+requires std::integral<Number> || std::floating_point<Number>
+constexpr Number MaxOf(Number a, Number b) { return a >= b ? a : b; }
+template <class Number>
+requires std::integral<Number> || std::floating_point<Number>
+constexpr Number MinOf(Number a, Number b) { return a <= b ? a : b; }
+const Text& MaxOf(const Text& a, const Text& b);
+const Text& MinOf(const Text& a, const Text& b);
+
+// The position (from 1) of the last `find` in `s` between positions `start` and `stop`, compared
+// without regard to case; a stop of 0, or beyond the end, is the end, a start below 1 is 1.
+// Deliberate: when nothing is found the result is start - 1, which callers tell by its being below
+// start.
+std::int16_t FindLastInRange(TextView s, TextView find, std::int16_t start, std::int16_t stop);
+
+// Whether the system finds something under the path; a directory counts. Never raises.
+bool FileExists(TextView path) noexcept;
+
+// a / b truncated toward zero, plus 1 if there is a remainder: for positive numbers the quotient
+// rounded up. Raises 11 for a b of 0.
+std::int64_t CeilDiv(std::int64_t a, std::int64_t b);
+
+// One byte of a colour (0x00BBGGRR, red in the low byte) as a share of 1; the top byte is ignored.
+struct ColorShares {
+  double red;
+  double green;
+  double blue;
+};
+ColorShares SharesOf(std::int32_t color);
+
+// "1 0 0 RG\n" and "1 0 0 rg\n" for pure red: the operators that set the stroke and the fill
+// colour.
+std::string StrokeColorOp(std::int32_t color);
+std::string FillColorOp(std::int32_t color);
+
+// "true" or "false".
+std::string_view PdfBool(bool flag);
+
+// Sorts strings[lo] to strings[hi] (from 0) upwards without regard to case; a lo of -1 is the whole
+// vector. Does nothing for a hi of 0 or below. Texts that differ only in case end in no particular,
+// but always the same, order. Raises 9 for a place outside the vector.
+void SortStrings(std::vector<Text>& strings, std::int32_t lo, std::int32_t hi);
+
+}  // namespace folivar

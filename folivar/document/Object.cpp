@@ -1,0 +1,7 @@
+#include "folivar/document/Object.h"
+
+namespace folivar {
+
+Object::~Object() = default;
+
+}  // namespace folivar

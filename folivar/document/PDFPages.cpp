@@ -1,0 +1,63 @@
+#include "folivar/document/PDFPages.h"
+
+#include <utility>
+
+#include "folivar/document/Internal.h"
+#include "folivar/document/ObjectNumbers.h"
+#include "folivar/document/PDFDocument.h"
+#include "folivar/document/PDFText.h"
+#include "folivar/document/SaveFile.h"
+#include "folivar/fonts/PDFFont.h"
+
+namespace folivar {
+namespace {
+
+ObjectWriter& AsWriter(const std::shared_ptr<PDFPage>& page) { return *page; }
+
+}  // namespace
+
+PDFPages::PDFPages(const Internal&, std::weak_ptr<PDFDocument> document,
+                   std::shared_ptr<PDFFont> defaultFont)
+    : MemberList("PDFPages"),
+      document_(std::move(document)),
+      defaultFont_(std::move(defaultFont)) {}
+
+std::shared_ptr<PDFPage> PDFPages::Add(TextView key, const Value& before, const Value& after) {
+  auto page =
+      std::make_shared<PDFPage>(Internal(), Shared<PDFPages>(), document_, defaultFont_, Text(key));
+  members_.Add(page, key, before, after);
+  return page;
+}
+
+void PDFPages::Remove(const Value& indexOrKey) { members_.Remove(indexOrKey); }
+
+void PDFPages::ReOrder(TextView key, const Value& before, const Value& after) noexcept {
+  MoveMember(key, before, after, [this](const Value& name) { Remove(name); });
+}
+
+void PDFPages::NumberObjects(ObjectNumbers& numbers) {
+  treeNodeNumber_ = numbers.Take();
+  members_.ForEach(
+      [&](const std::shared_ptr<PDFPage>& page) { AsWriter(page).NumberObjects(numbers); });
+}
+
+//   3 0 obj
+//   << /Type /Pages
+//   /Kids [ 4 0 R 6 0 R]
+//   /Count 2
+//   >>
+//   endobj
+// The tree is always flat.
+void PDFPages::WriteObjects(SaveFile& file) {
+  PDFText& text = file.BeginObject(treeNodeNumber_);
+  text.Append("<< /Type /Pages\n/Kids [");
+  members_.ForEach([&](const std::shared_ptr<PDFPage>& page) {
+    text.Append(" ", Reference{page->ObjectNumber(Internal())});
+  });
+  text.Append("]\n/Count ", count(), "\n>>\n");
+  file.EndObject();
+  members_.ForEach(
+      [&](const std::shared_ptr<PDFPage>& page) { AsWriter(page).WriteObjects(file); });
+}
+
+}  // namespace folivar

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "folivar/document/Api.h"
+#include "folivar/document/MemberList.h"
+#include "folivar/document/Object.h"
+#include "folivar/document/ObjectWriter.h"
+#include "folivar/document/Text.h"
+#include "folivar/document/Value.h"
+#include "folivar/page/PDFPage.h"
+
+namespace folivar {
+
+class Internal;
+class PDFDocument;
+class PDFFont;
+
+// The pages of a document in reading order; reached through PDFDocument::Pages.
+class FOLIVAR_API PDFPages final : public Object, public ObjectWriter, public MemberList<PDFPage> {
+ public:
+  PDFPages(const Internal&, std::weak_ptr<PDFDocument> document,
+           std::shared_ptr<PDFFont> defaultFont);
+
+  // Makes a page of 612 by 792 points whose current font is the document's default font, at the
+  // place before or after the page that `before` or `after` names (position or key), or at the end.
+  // An empty key is no key. Raises 5 when both places are given, 457 for a key in use, then 5 for a
+  // key or 9 for a position that names no page.
+  std::shared_ptr<PDFPage> Add(TextView key = {}, const Value& before = {},
+                               const Value& after = {});
+
+  // Takes a page out of the document; who holds it may still use it. Raises as Item.
+  void Remove(const Value& indexOrKey);
+
+  // Moves the page with this key to the place named, or to the end. Never raises: an unknown key
+  // changes nothing. When both places are given, `after` is ignored; a page whose new place does
+  // not exist, counted without the page, stays removed.
+  void ReOrder(TextView key, const Value& before = {}, const Value& after = {}) noexcept;
+
+  // The page tree's object number in the save in progress.
+  std::int32_t TreeNodeNumber(const Internal&) const { return treeNodeNumber_; }
+
+ private:
+  // ObjectWriter
+  void NumberObjects(ObjectNumbers& numbers) override;
+  void WriteObjects(SaveFile& file) override;
+
+  std::weak_ptr<PDFDocument> document_;
+  std::shared_ptr<PDFFont> defaultFont_;
+  std::int32_t treeNodeNumber_ = 0;
+};
+
+}  // namespace folivar

@@ -1,0 +1,29 @@
+#include "folivar/document/Value.h"
+
+#include <limits>
+
+#include "folivar/document/Error.h"
+#include "folivar/document/Global.h"
+
+namespace folivar {
+
+std::int32_t Int32From(const Value& value) {
+  using Limits = std::numeric_limits<std::int32_t>;
+  if (const auto* whole = value.As<std::int64_t>()) {
+    if (!std::in_range<std::int32_t>(*whole)) {
+      throw Error::Overflow("The number " + std::to_string(*whole) + " does not fit into 32 bits");
+    }
+    return static_cast<std::int32_t>(*whole);
+  }
+  if (const auto* real = value.As<double>()) {
+    const double rounded = RoundHalfToEven(*real);
+    if (!(rounded >= Limits::min() && rounded <= Limits::max())) {
+      throw Error::Overflow("The number " + std::to_string(*real) + " does not fit into 32 bits");
+    }
+    return static_cast<std::int32_t>(rounded);
+  }
+  if (value.IsNull()) throw Error::InvalidNull("Null stands where a number is wanted");
+  throw Error::TypeMismatch("A number is wanted");
+}
+
+}  // namespace folivar

@@ -1,0 +1,35 @@
+#include "folivar/document/Warnings.h"
+
+#include <cstdio>
+#include <utility>
+
+namespace folivar {
+namespace {
+
+class StandardErrorWarnings final : public Warnings {
+ public:
+  void Show(const Text& message) override { std::fputs((message.Utf8() + '\n').c_str(), stderr); }
+};
+
+class FunctionWarnings final : public Warnings {
+ public:
+  explicit FunctionWarnings(std::function<void(const Text&)> show) : show_(std::move(show)) {}
+  void Show(const Text& message) override { show_(message); }
+
+ private:
+  std::function<void(const Text&)> show_;
+};
+
+}  // namespace
+
+Warnings::~Warnings() = default;
+
+std::shared_ptr<Warnings> Warnings::ToStandardError() {
+  return std::make_shared<StandardErrorWarnings>();
+}
+
+std::shared_ptr<Warnings> Warnings::To(std::function<void(const Text& message)> show) {
+  return std::make_shared<FunctionWarnings>(std::move(show));
+}
+
+}  // namespace folivar

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "folivar/document/Api.h"
+#include "folivar/document/Text.h"
+
+namespace folivar {
+
+// Port: where a document's warnings go (a font that was replaced by another, say). A warning is
+// never an error; the call that gives it goes on.
+class FOLIVAR_API Warnings {
+ public:
+  virtual ~Warnings();
+  Warnings(const Warnings&) = delete;
+  Warnings& operator=(const Warnings&) = delete;
+
+  virtual void Show(const Text& message) = 0;
+
+  // To standard error, a line each: the default.
+  static std::shared_ptr<Warnings> ToStandardError();
+  // To a function of the host's. What it throws reaches the caller of the member that warned, which
+  // then has changed nothing.
+  static std::shared_ptr<Warnings> To(std::function<void(const Text& message)> show);
+
+ protected:
+  Warnings() = default;
+};
+
+}  // namespace folivar

@@ -1,0 +1,25 @@
+#pragma once
+
+// Everything a host needs: build a document from objects, write it with one call.
+//
+//   auto document = folivar::PDFDocument::Create();
+//   auto page = document->Pages()->Add();
+//   page->DrawText("Hello", 72, 720);
+//   document->SavePDFFile("hello.pdf");
+//
+// Lengths and coordinates are points (1/72 inch) from the bottom left corner of the page.
+// Failures are thrown as folivar::Error. Objects are used by one thread at a time; documents on
+// different threads do not disturb each other.
+
+#include "folivar/document/Error.h"
+#include "folivar/document/PDFDocument.h"
+#include "folivar/document/PDFPages.h"
+#include "folivar/document/PDFViewerPreferences.h"
+#include "folivar/document/Platform.h"
+#include "folivar/document/Text.h"
+#include "folivar/document/Value.h"
+#include "folivar/document/Warnings.h"
+#include "folivar/fonts/PDFFont.h"
+#include "folivar/fonts/PDFFonts.h"
+#include "folivar/page/PDFGraphicsState.h"
+#include "folivar/page/PDFPage.h"

@@ -1,0 +1,103 @@
+#include "folivar/fonts/AfmReader.h"
+
+#include <charconv>
+#include <cstddef>
+#include <string>
+
+#include "folivar/document/Error.h"
+
+namespace folivar {
+namespace {
+
+std::string_view Trimmed(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+// Cuts `rest` at the first `separator` and returns what stood before it.
+std::string_view TakeUpTo(std::string_view& rest, char separator) {
+  const std::size_t end = rest.find(separator);
+  const std::string_view piece = rest.substr(0, end);
+  rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+  return piece;
+}
+
+// The part of a line or item at `index`, counted from 0, parted by single blanks.
+std::string_view Token(std::string_view item, std::size_t index) {
+  for (; index > 0; --index) TakeUpTo(item, ' ');
+  return TakeUpTo(item, ' ');
+}
+
+// What follows the digits (a carriage return) does not matter.
+float Number(std::string_view item, std::size_t index) {
+  const std::string_view token = Token(item, index);
+  double value = 0;
+  const auto parsed = std::from_chars(token.data(), token.data() + token.size(), value);
+  if (parsed.ec != std::errc()) {
+    throw Error::TypeMismatch("Font metrics: a number is wanted in '" + std::string(item) + "'");
+  }
+  return static_cast<float>(value);
+}
+
+// The line that begins with `key`; the file's first line when there is none.
+std::string_view HeaderLine(std::string_view file, std::string_view key) {
+  const std::size_t lineEnd = file.find("\n" + std::string(key));
+  std::string_view rest = file.substr(lineEnd == std::string_view::npos ? 0 : lineEnd + 1);
+  return Trimmed(TakeUpTo(rest, '\n'));
+}
+
+//   C 65 ; WX 667 ; N A ; B 14 0 654 718 ;
+void ReadCharacter(std::string_view line, CharacterTable& characters) {
+  CharacterMetrics* character = nullptr;
+  while (!line.empty()) {
+    const std::string_view item = Trimmed(TakeUpTo(line, ';'));
+    const std::string_view key = Token(item, 0);
+    if (key == "C") {
+      const float code = Number(item, 1);
+      if (code == -1) return;  // a glyph without a code
+      if (!(code >= 0 && code < static_cast<float>(characters.size()))) {
+        throw Error::SubscriptOutOfRange("Font metrics: character code outside 0 to 255 in '" +
+                                         std::string(item) + "'");
+      }
+      character = &characters[static_cast<std::size_t>(code)];
+    } else if (character != nullptr && key == "WX") {
+      character->width = Number(item, 1);
+    } else if (character != nullptr && key == "B") {
+      character->left = Number(item, 1);
+      character->bottom = Number(item, 2);
+      character->right = Number(item, 3);
+      character->top = Number(item, 4);
+    }
+  }
+}
+
+// The lines between "StartCharMetrics" and "EndCharMetrics".
+std::string_view CharacterLines(std::string_view file) {
+  const std::size_t start = file.find("\nStartCharMetrics");
+  if (start == std::string_view::npos) return {};
+  std::string_view rest = file.substr(start + 1);
+  TakeUpTo(rest, '\n');
+  return rest.substr(0, rest.find("EndCharMetrics"));
+}
+
+}  // namespace
+
+AfmMetrics ReadAfm(std::string_view file) {
+  AfmMetrics metrics;
+  metrics.capHeight = Number(HeaderLine(file, "CapHeight"), 1);
+  metrics.ascender = Number(HeaderLine(file, "Ascender"), 1);
+  metrics.descender = Number(HeaderLine(file, "Descender"), 1);
+  const std::string_view box = HeaderLine(file, "FontBBox");
+  metrics.boxLeft = Number(box, 1);
+  metrics.boxBottom = Number(box, 2);
+  metrics.boxRight = Number(box, 3);
+  metrics.boxTop = Number(box, 4);
+  metrics.underlinePosition = Number(HeaderLine(file, "UnderlinePosition"), 1);
+  metrics.underlineThickness = Number(HeaderLine(file, "UnderlineThickness"), 1);
+  std::string_view lines = CharacterLines(file);
+  while (!lines.empty()) ReadCharacter(TakeUpTo(lines, '\n'), metrics.characters);
+  return metrics;
+}
+
+}  // namespace folivar

@@ -1,0 +1,67 @@
+#include "folivar/fonts/PDFFont.h"
+
+#include <utility>
+
+#include "folivar/document/AnsiText.h"
+#include "folivar/document/Internal.h"
+#include "folivar/fonts/FontMetrics.h"
+#include "folivar/fonts/PDFFontInfo.h"
+
+namespace folivar {
+
+PDFFont::PDFFont(const Internal&, std::shared_ptr<PDFFontInfo> face, std::weak_ptr<PDFFonts> owner)
+    : face_(std::move(face)), owner_(std::move(owner)) {}
+
+std::shared_ptr<PDFFont> PDFFont::Clone() const {
+  auto clone = std::make_shared<PDFFont>(Internal(), face_, owner_);
+  clone->size_ = size_;
+  clone->underline_ = underline_;
+  clone->strikeOut_ = strikeOut_;
+  clone->subscript_ = subscript_;
+  clone->superscript_ = superscript_;
+  return clone;
+}
+
+Text PDFFont::FontFace() const { return face_->m_FontFace; }
+PDFFontType PDFFont::FontType() const { return face_->m_FontType; }
+
+void PDFFont::GetTextExtents(TextView text, float& width, float& height) const {
+  const AnsiText ansi(text);
+  float rawWidth = 0;
+  float rawHeight = 0;
+  face_->MeasureExtents(ansi.Bytes(), rawWidth, rawHeight);
+  const FontMetrics metrics(*this);
+  const float size = metrics.EffectiveSize();
+  const float scaledWidth = FontMetrics::Scaled(rawWidth, size);
+  height = FontMetrics::Scaled(metrics.Rise() + rawHeight, size);
+  width = scaledWidth;
+}
+
+float PDFFont::TextWidth(TextView text) const {
+  const AnsiText ansi(text);
+  return FontMetrics::Scaled(face_->MeasureWidth(ansi.Bytes()), FontMetrics(*this).EffectiveSize());
+}
+
+float PDFFont::TextHeight(std::optional<TextView> text) const {
+  const float height =
+      text ? face_->MeasureHeight(AnsiText(*text).Bytes()) : face_->MeasureHeight();
+  const FontMetrics metrics(*this);
+  return FontMetrics::Scaled(height + metrics.Rise(), metrics.EffectiveSize());
+}
+
+float PDFFont::Ascender() const { return FontMetrics(*this).Ascender(); }
+float PDFFont::Descender() const { return FontMetrics(*this).Descender(); }
+float PDFFont::Leading() const { return FontMetrics(*this).Leading(); }
+float PDFFont::FontBoxTop() const { return FontMetrics(*this).Scaled(face_->FontBoxTop()); }
+float PDFFont::FontBoxLeft() const { return FontMetrics(*this).Scaled(face_->FontBoxLeft()); }
+float PDFFont::FontBoxRight() const { return FontMetrics(*this).Scaled(face_->FontBoxRight()); }
+float PDFFont::FontBoxBottom() const { return FontMetrics(*this).Scaled(face_->FontBoxBottom()); }
+
+bool PDFFont::Italic() const { return face_->m_IsItalic; }
+bool PDFFont::Bold() const { return face_->m_IsBold; }
+
+// No standard face is another one's style, so there is nothing to switch to.
+void PDFFont::SetItalic(bool) {}
+void PDFFont::SetBold(bool) {}
+
+}  // namespace folivar

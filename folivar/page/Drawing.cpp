@@ -1,0 +1,243 @@
+#include "folivar/page/Drawing.h"
+
+#include <cmath>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "folivar/document/AnsiText.h"
+#include "folivar/document/Error.h"
+#include "folivar/document/PDFText.h"
+#include "folivar/fonts/FontMetrics.h"
+#include "folivar/page/Surface.h"
+#include "folivar/page/TextLines.h"
+
+namespace folivar {
+namespace {
+
+// Takes back what an operation has appended, and the pen's move, unless the operation completes.
+class Operation {
+ public:
+  explicit Operation(Surface& surface)
+      : surface_(surface), piece_(surface.Content()), curPos_(surface.CurPos()) {}
+  ~Operation() {
+    if (!isComplete_) surface_.SetCurPos(curPos_);
+  }
+  Operation(const Operation&) = delete;
+  Operation& operator=(const Operation&) = delete;
+
+  void Complete() {
+    piece_.Keep();
+    isComplete_ = true;
+  }
+
+ private:
+  Surface& surface_;
+  PDFTextPiece piece_;
+  Surface::Point curPos_;
+  bool isComplete_ = false;
+};
+
+// Everything in a text object before its first line:
+//
+//   BT
+//   /F0 6.5  Tf
+//   72  700  Td
+//   -1  Ts          for sub- and superscript
+//   11.56  TL       for more than one line
+void BeginText(PDFText& content, const FontMetrics& font, float x, float y,
+               const TextLines& lines) {
+  content.Append("BT\n", std::string_view(font.Face().m_PDFName), " ", Real{font.EffectiveSize()},
+                 " Tf\n", Real{x}, " ", Real{y}, " Td\n");
+  if (font.IsRaisedOrLowered()) content.Append(Real{font.Rise()}, " Ts\n");
+  if (lines.Count() > 1) content.Append(Real{font.Leading()}, " TL\n");
+}
+
+void EndText(PDFText& content, const FontMetrics& font) {
+  content.Append(font.IsRaisedOrLowered() ? "0 Ts\nET\n" : "ET\n");
+}
+
+std::string EscapedBytes(std::string_view line) {
+  PDFText text;
+  text.Append(Escaped{line});
+  return std::string(text.Bytes());
+}
+
+// Deliberate: underlines are as thick as strikeouts; a line is measured with the backslashes that
+// escaping adds and in the font's own size, also where it is shown smaller; and the rise of sub-
+// and superscript does not move the strokes.
+void Decorate(Drawing& drawing, PDFText& content, const PDFFont& font, const TextLines& lines,
+              float x, float y) {
+  if (!font.StrikeOut() && !font.Underline()) return;
+  const FontMetrics metrics(font);
+  content.Append("q\n", Real{metrics.StrikeoutSizePts()}, " w\n");
+  float baseline = y;
+  for (const std::string_view line : lines) {
+    const float end = x + metrics.Scaled(metrics.Face().MeasureWidth(EscapedBytes(line)));
+    if (font.StrikeOut()) {
+      const float height = baseline + metrics.StrikeoutPositionPts();
+      drawing.DrawLine(x, height, end, height);
+    }
+    if (font.Underline()) {
+      const float height = baseline + metrics.UnderlinePositionPts();
+      drawing.DrawLine(x, height, end, height);
+    }
+    baseline -= metrics.Leading();
+  }
+  content.Append("Q\n");
+}
+
+// The box of DrawTextAligned with its edges in order.
+struct Box {
+  float left;
+  float bottom;
+  float right;
+  float top;
+};
+
+// A sum of coordinates must not overflow, even where it is not written.
+void CheckFinite(float sum) {
+  if (!std::isfinite(sum)) throw Error::Overflow("A coordinate is beyond a single");
+}
+
+Box BoxOf(float left, float bottom, float width, float height) {
+  Box box{left, bottom, left + width, bottom + height};
+  CheckFinite(box.right);
+  CheckFinite(box.top);
+  if (width < 0) std::swap(box.left, box.right);
+  if (height < 0) std::swap(box.bottom, box.top);
+  return box;
+}
+
+// Deliberate: the font's own size counts, also for sub- and superscript.
+float FirstBaseline(const Box& box, const FontMetrics& font, const TextLines& lines,
+                    PDFVertTextAlignment alignment) {
+  const auto linesBelow = static_cast<float>(lines.Count() - 1);
+  const auto firstHeight = [&] { return font.Scaled(font.Face().MeasureHeight(lines.First())); };
+  switch (alignment) {
+    case vtaTop:
+      return box.top - firstHeight();
+    case vtaBottom:
+      return box.bottom + font.Leading() * linesBelow - font.Descender();
+    case vtaCenter:
+      return (font.Leading() * linesBelow + firstHeight()) / 2 + (box.top + box.bottom) / 2 -
+             font.Ascender();
+    default:
+      return box.bottom;
+  }
+}
+
+float Indent(const Box& box, float lineWidth, PDFHorzTextAlignment alignment) {
+  switch (alignment) {
+    case htaRight:
+      return box.right - lineWidth - box.left;
+    case htaCenter:
+      return (box.right - box.left - lineWidth) / 2;
+    default:
+      return 0;
+  }
+}
+
+}  // namespace
+
+//   BT
+//   /F0 10  Tf
+//   72  700  Td
+//   (first line) Tj
+//   T*
+//   (second line) Tj
+//   ET
+void Drawing::DrawText(TextView text, float x, float y) {
+  const PDFFont& font = *surface_.Font();
+  const AnsiText ansi(text);
+  const TextLines lines(ansi.Bytes());
+  const FontMetrics metrics(font);
+  PDFText& content = surface_.Content();
+
+  Operation operation(surface_);
+  BeginText(content, metrics, x, y, lines);
+  std::string_view separator = "";
+  for (const std::string_view line : lines) {
+    content.Append(separator, "(", Escaped{line}, ") Tj\n");
+    separator = "T*\n";
+  }
+  EndText(content, metrics);
+  Decorate(*this, content, font, lines, x, y);
+  surface_.ResourceDictionary().AddFontResource(font);
+  operation.Complete();
+}
+
+//   BT
+//   /F0 10  Tf
+//   72  700  Td
+//   51.66  0 Td
+//   (right) Tj
+//   -51.66  0 Td
+//   ET
+void Drawing::DrawTextAligned(TextView text, float left, float bottom, float width, float height,
+                              PDFHorzTextAlignment horzAlignment,
+                              PDFVertTextAlignment vertAlignment) {
+  const AnsiText ansi(text);
+  if (ansi.Bytes().empty()) return;
+  const PDFFont& font = *surface_.Font();
+  const TextLines lines(ansi.Bytes());
+  const FontMetrics metrics(font);
+  const Box box = BoxOf(left, bottom, width, height);
+  const float baseline = FirstBaseline(box, metrics, lines, vertAlignment);
+  // Deliberate: the clone keeps its sub- or superscript flag, so lines of such text are measured as
+  // reduced twice.
+  const std::shared_ptr<PDFFont> shown = font.Clone();
+  shown->SetSize(metrics.EffectiveSize());
+  const float shownSize = FontMetrics(*shown).EffectiveSize();
+  PDFText& content = surface_.Content();
+
+  Operation operation(surface_);
+  BeginText(content, metrics, box.left, baseline, lines);
+  std::string_view separator = "";
+  for (const std::string_view line : lines) {
+    const float lineWidth = FontMetrics::Scaled(metrics.Face().MeasureWidth(line), shownSize);
+    const float indent = Indent(box, lineWidth, horzAlignment);
+    content.Append(separator);
+    if (indent == 0) {
+      content.Append("(", Escaped{line}, ") Tj\n");
+    } else {
+      content.Append(Real{indent}, " 0 Td\n(", Escaped{line}, ") Tj\n", Real{-indent}, " 0 Td\n");
+    }
+    separator = "T*\n";
+  }
+  EndText(content, metrics);
+  surface_.ResourceDictionary().AddFontResource(font);
+  operation.Complete();
+}
+
+//   10  20  m
+//   30  40  l
+//   S
+void Drawing::DrawLine(float x1, float y1, float x2, float y2) {
+  surface_.AppendContent(Real{x1}, " ", Real{y1}, " m\n", Real{x2}, " ", Real{y2}, " l\nS\n");
+  surface_.SetCurPos({x2, y2});
+}
+
+void Drawing::DrawLineTo(float x, float y) {
+  const Surface::Point from = surface_.CurPos();
+  DrawLine(from.x, from.y, x, y);
+}
+
+//   0  0  m
+//   0  0  100  50  re
+//   s
+// Deliberate: the "m" before "re" and the "n" after "f" change nothing; existing files have them.
+void Drawing::DrawRect(float left, float bottom, float width, float height, bool stroke,
+                       bool fill) {
+  const float right = left + width;
+  const float top = bottom + height;
+  CheckFinite(right);
+  CheckFinite(top);
+  const std::string_view paint = stroke ? (fill ? "b\n" : "s\n") : (fill ? "f n\n" : "n\n");
+  surface_.AppendContent(Real{left}, " ", Real{bottom}, " m\n", Real{left}, " ", Real{bottom}, " ",
+                         Real{width}, " ", Real{height}, " re\n", paint);
+  surface_.SetCurPos({right, top});
+}
+
+}  // namespace folivar

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "folivar/document/Api.h"
+#include "folivar/document/Object.h"
+#include "folivar/page/GRAPHICS_STATE.h"
+#include "folivar/page/Stack.h"
+
+namespace folivar {
+
+class Internal;
+class Surface;
+
+// The drawing state of one page: colours, line style, transformations. Made with the page, the same
+// object each time. Every setter appends its operator to the page's content at once (setting the
+// same colour twice writes it twice) and remembers the value for its getter. Numbers that PDF
+// cannot hold (not finite, or 2^31 and beyond) raise 6, and then nothing is stored or appended.
+//
+// Colours are 0x00BBGGRR, red in the low byte; the top byte is kept but means nothing.
+class FOLIVAR_API PDFGraphicsState final : public Object {
+ public:
+  PDFGraphicsState(const Internal&, std::shared_ptr<Surface> surface);
+
+  // Black at first.
+  std::int32_t FillColor() const { return current_.FillColor; }
+  void SetFillColor(std::int32_t color);
+  std::int32_t StrokeColor() const { return current_.StrokeColor; }
+  void SetStrokeColor(std::int32_t color);
+
+  // Gray levels from 0 (black) to 1 (white); any other value is ignored without an error. Both
+  // setters store the level as FillColor, the stroke one too.
+  void SetFillGrayColor(float gray);
+  void SetStrokeGrayColor(float gray);
+
+  // Points; 1 at first.
+  float LineWidth() const { return current_.LineWidth; }
+  void SetLineWidth(float width);
+
+  // Points of line and of gap; 1 and 0, a solid line, at first.
+  float LineDashOn() const { return current_.LineDashOn; }
+  float LineDashOff() const { return current_.LineDashOff; }
+  void SetLineDashPattern(float dashOn, float dashOff);
+
+  // Saves the state and restores the state saved last. After Push the getters report 0 until the
+  // setters are used again, though the page goes on drawing as before. Pop always returns false;
+  // it raises 9 when nothing was pushed. A Push without its Pop is not corrected.
+  void Push();
+  bool Pop();
+
+  // Transformations of everything drawn from here on; never tracked, only written. Angles are in
+  // degrees, counter-clockwise.
+  void Translate(float tx, float ty);
+  void ScaleXY(float sx, float sy);
+  void Rotate(float angle);
+  void Skew(float xAngle, float yAngle);
+  // x' = a x + c y + e, y' = b x + d y + f.
+  void SetTransformationMatrix(float a, float b, float c, float d, float e, float f);
+
+ private:
+  std::shared_ptr<Surface> surface_;
+  GRAPHICS_STATE current_;
+  Stack<GRAPHICS_STATE> stack_;
+};
+
+}  // namespace folivar

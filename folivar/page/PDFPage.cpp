@@ -1,0 +1,158 @@
+#include "folivar/page/PDFPage.h"
+
+#include <string>
+#include <utility>
+
+#include "folivar/document/Error.h"
+#include "folivar/document/InMember.h"
+#include "folivar/document/Internal.h"
+#include "folivar/document/ObjectNumbers.h"
+#include "folivar/document/PDFDocument.h"
+#include "folivar/document/PDFPages.h"
+#include "folivar/document/PDFText.h"
+#include "folivar/document/SaveFile.h"
+#include "folivar/fonts/PDFFont.h"
+#include "folivar/page/Drawing.h"
+#include "folivar/page/PDFGraphicsState.h"
+#include "folivar/page/Surface.h"
+
+namespace folivar {
+
+PDFPage::PDFPage(const Internal& internal, std::weak_ptr<PDFPages> parent,
+                 std::weak_ptr<PDFDocument> document, std::shared_ptr<PDFFont> font, Text key)
+    : key_(std::move(key)),
+      parent_(std::move(parent)),
+      document_(std::move(document)),
+      surface_(std::make_shared<Surface>()),
+      graphicsState_(std::make_shared<PDFGraphicsState>(internal, surface_)) {
+  surface_->SetFont(std::move(font));
+}
+
+std::shared_ptr<PDFFont> PDFPage::Font() const { return surface_->Font(); }
+void PDFPage::SetFont(std::shared_ptr<PDFFont> font) { surface_->SetFont(std::move(font)); }
+
+std::shared_ptr<PDFDocument> PDFPage::ParentDocument() const {
+  if (auto document = document_.lock()) return document;
+  throw Error::ObjectNotSet("ParentDocument: the document of this PDFPage is gone");
+}
+
+void PDFPage::SetPageExtents(float width, float height) {
+  width_ = width;
+  height_ = height;
+}
+
+void PDFPage::SetClipBox(float left, float bottom, float right, float top) {
+  clipLeft_ = left;
+  clipBottom_ = bottom;
+  clipRight_ = right;
+  clipTop_ = top;
+}
+
+void PDFPage::GetClipBox(float& left, float& bottom, float& right, float& top) const {
+  left = clipLeft_;
+  bottom = clipBottom_;
+  right = clipRight_;
+  top = clipTop_;
+}
+
+void PDFPage::DrawText(TextView text, float x, float y) {
+  InMember("PDFPage.DrawText", [&] { Drawing(*surface_).DrawText(text, x, y); });
+}
+
+void PDFPage::DrawTextAligned(TextView text, float left, float bottom, float width, float height,
+                              PDFHorzTextAlignment horzAlignment,
+                              PDFVertTextAlignment vertAlignment) {
+  InMember("PDFPage.DrawTextAligned", [&] {
+    Drawing(*surface_).DrawTextAligned(text, left, bottom, width, height, horzAlignment,
+                                       vertAlignment);
+  });
+}
+
+void PDFPage::DrawLine(float x1, float y1, float x2, float y2) {
+  InMember("PDFPage.DrawLine", [&] { Drawing(*surface_).DrawLine(x1, y1, x2, y2); });
+}
+
+void PDFPage::DrawLineTo(float x, float y) {
+  InMember("PDFPage.DrawLineTo", [&] { Drawing(*surface_).DrawLineTo(x, y); });
+}
+
+void PDFPage::SetCurPos(float x, float y) { surface_->SetCurPos({x, y}); }
+
+void PDFPage::GetCurPos(float& x, float& y) const {
+  x = surface_->CurPos().x;
+  y = surface_->CurPos().y;
+}
+
+void PDFPage::DrawRect(float left, float bottom, float width, float height, bool stroke,
+                       bool fill) {
+  InMember("PDFPage.DrawRect",
+           [&] { Drawing(*surface_).DrawRect(left, bottom, width, height, stroke, fill); });
+}
+
+void PDFPage::NumberObjects(ObjectNumbers& numbers) {
+  objectNumber_ = numbers.Take();
+  contentNumber_ = numbers.Take();
+}
+
+void PDFPage::WriteObjects(SaveFile& file) {
+  BuildPageObject(file.BeginObject(objectNumber_));
+  file.EndObject();
+  WriteContentStream(file);
+}
+
+//   4 0 obj
+//   << /Type /Page
+//   /Parent 3 0 R
+//   /MediaBox [ 0 0 612  792 ]
+//   /CropBox [ 10  20  300  400 ]
+//   /Contents 5 0 R
+//   /Resources <<
+//   /Font << /F0 6 0 R
+//    >>
+//   >>
+//   >>
+//   endobj
+void PDFPage::BuildPageObject(PDFText& text) const {
+  text.Append("<< /Type /Page\n/Parent ", Reference{parent_.lock()->TreeNodeNumber(Internal())},
+              "\n");
+  try {
+    AppendBoxes(text);
+  } catch (const Error& error) {
+    const std::string name = key_.IsEmpty() ? " without a key" : " '" + key_.Utf8() + "'";
+    throw Error(error.Number(),
+                "The extents or the clip box of the PDFPage" + name + ": " + error.what());
+  }
+  text.Append("/Contents ", Reference{contentNumber_}, "\n/Resources ");
+  surface_->ResourceDictionary().BuildResourceText(text);
+  text.Append(">>\n");
+}
+
+void PDFPage::AppendBoxes(PDFText& text) const {
+  text.Append("/MediaBox [ 0 0 ", Real{width_}, " ", Real{height_}, "]\n");
+  if (clipTop_ >= 0) {
+    text.Append("/CropBox [ ", Real{clipLeft_}, " ", Real{clipBottom_}, " ", Real{clipRight_}, " ",
+                Real{clipTop_}, "]\n");
+  }
+}
+
+//   5 0 obj
+//   << /Length 0000000004 >>
+//   stream
+//   q
+//   Q
+//   endstream
+//   endobj
+void PDFPage::WriteContentStream(SaveFile& file) const {
+  constexpr std::string_view kBegin = "q\n";
+  constexpr std::string_view kEnd = "Q\n";
+  const std::string_view content = surface_->Content().Bytes();
+  const std::size_t length = kBegin.size() + content.size() + kEnd.size();
+  file.BeginObject(contentNumber_)
+      .Append("<< /Length ", TenDigits{length}, " >>\nstream\n", kBegin);
+  file.AppendBytes(content);
+  file.AppendBytes(kEnd);
+  file.AppendBytes("endstream\n");
+  file.EndObject();
+}
+
+}  // namespace folivar

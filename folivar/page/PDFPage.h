@@ -1,0 +1,110 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "folivar/document/Api.h"
+#include "folivar/document/ObjectWriter.h"
+#include "folivar/document/Tagged.h"
+#include "folivar/document/Text.h"
+#include "folivar/page/PDFTextAlignment.h"
+
+namespace folivar {
+
+class Internal;
+class PDFDocument;
+class PDFFont;
+class PDFGraphicsState;
+class PDFPages;
+class PDFText;
+class Surface;
+
+// One page: made by PDFPages::Add. Drawing calls append to the page's content at once, in the order
+// of the calls; nothing is ever taken back. Coordinates are points from the bottom left corner.
+//
+// Sizes and coordinates are not checked against the page. A number that PDF cannot hold (not
+// finite, or 2^31 and beyond) raises 6 where it would be written, and the drawing call that met it
+// appends nothing.
+class FOLIVAR_API PDFPage final : public Tagged, public ObjectWriter {
+ public:
+  PDFPage(const Internal&, std::weak_ptr<PDFPages> parent, std::weak_ptr<PDFDocument> document,
+          std::shared_ptr<PDFFont> font, Text key);
+
+  // The key given to PDFPages::Add; empty without one.
+  const Text& Key() const { return key_; }
+
+  // The font of the text calls from here on; the document's default font at first. Setting null
+  // raises 91, a font of another document 5.
+  std::shared_ptr<PDFFont> Font() const;
+  void SetFont(std::shared_ptr<PDFFont> font);
+
+  // Raises 91 when the document is gone.
+  std::shared_ptr<PDFDocument> ParentDocument() const;
+
+  // Points; 612 by 792 (US Letter) at first.
+  float Width() const { return width_; }
+  void SetWidth(float width) { width_ = width; }
+  float Height() const { return height_; }
+  void SetHeight(float height) { height_ = height; }
+  void SetPageExtents(float width, float height);
+
+  // What readers show of the page; edges in points, -1 each at first. A top below 0 means no clip
+  // box: the whole page shows.
+  void SetClipBox(float left, float bottom, float right, float top);
+  void GetClipBox(float& left, float& bottom, float& right, float& top) const;
+
+  // The same object each time.
+  std::shared_ptr<PDFGraphicsState> GraphicsState() const { return graphicsState_; }
+
+  // Draws text with its first baseline starting at (x, y). "\n", "\r\n" and "\r" begin a new line,
+  // one leading further down. Underline and strikeout of the font are drawn as lines, which move
+  // the pen.
+  void DrawText(TextView text, float x, float y);
+
+  // Draws text into a box, each line and all lines aligned in it; a negative width or height
+  // extends the box to the left or downwards. Lines are neither wrapped nor clipped, underline and
+  // strikeout not drawn. An empty text draws nothing.
+  void DrawTextAligned(TextView text, float left, float bottom, float width, float height,
+                       PDFHorzTextAlignment horzAlignment = htaLeft,
+                       PDFVertTextAlignment vertAlignment = vtaBaseline);
+
+  // Strokes a line and moves the pen to its end.
+  void DrawLine(float x1, float y1, float x2, float y2);
+  // From the pen, which starts at (0, 0); a stroke of its own, not joined to the one before.
+  void DrawLineTo(float x, float y);
+
+  void SetCurPos(float x, float y);
+  void GetCurPos(float& x, float& y) const;
+
+  // Strokes and/or fills a rectangle and moves the pen to the corner opposite (left, bottom).
+  void DrawRect(float left, float bottom, float width, float height, bool stroke = true,
+                bool fill = false);
+
+  // The page's object number in the save in progress.
+  std::int32_t ObjectNumber(const Internal&) const { return objectNumber_; }
+
+ private:
+  // ObjectWriter
+  void NumberObjects(ObjectNumbers& numbers) override;
+  void WriteObjects(SaveFile& file) override;
+
+  void BuildPageObject(PDFText& text) const;
+  void AppendBoxes(PDFText& text) const;
+  void WriteContentStream(SaveFile& file) const;
+
+  Text key_;
+  std::weak_ptr<PDFPages> parent_;
+  std::weak_ptr<PDFDocument> document_;
+  std::shared_ptr<Surface> surface_;
+  std::shared_ptr<PDFGraphicsState> graphicsState_;
+  float width_ = 612;
+  float height_ = 792;
+  float clipLeft_ = -1;
+  float clipTop_ = -1;
+  float clipRight_ = -1;
+  float clipBottom_ = -1;
+  std::int32_t objectNumber_ = 0;
+  std::int32_t contentNumber_ = 0;
+};
+
+}  // namespace folivar

@@ -1,0 +1,143 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <memory>
+#include <numeric>
+#include <vector>
+
+#include "folivar/folivar.h"
+#include "tests/support/Content.h"
+
+// Runs under the address sanitizer, which tells when freed memory is touched or anything leaks.
+
+namespace folivar::test {
+namespace {
+
+// Everything that a host can hold of a document, let go of one at a time; after each release what
+// is left is used.
+class Held {
+ public:
+  static constexpr std::size_t kCount = 7;
+
+  Held()
+      : document_(PDFDocument::Create()),
+        pages_(document_->Pages()),
+        fonts_(document_->Fonts()),
+        preferences_(document_->ViewerPreferences()),
+        page_(pages_->Add("page")),
+        font_(fonts_->Add("Courier")),
+        state_(page_->GraphicsState()) {
+    page_->SetFont(font_);
+  }
+
+  void Release(std::size_t which) {
+    switch (which) {
+      case 0:
+        document_.reset();
+        break;
+      case 1:
+        pages_.reset();
+        break;
+      case 2:
+        fonts_.reset();
+        break;
+      case 3:
+        preferences_.reset();
+        break;
+      case 4:
+        page_.reset();
+        break;
+      case 5:
+        font_.reset();
+        break;
+      default:
+        state_.reset();
+        break;
+    }
+  }
+
+  void UseWhatIsLeft() const {
+    if (pages_) {
+      pages_->Add()->DrawText("more", 0, 0);
+      pages_->Remove(pages_->count());
+      EXPECT_EQ(pages_->Item("page")->Key(), "page");
+      for (const auto& page : *pages_) page->DrawLine(0, 0, 1, 1);
+    }
+    if (fonts_) {
+      EXPECT_GT(fonts_->Add("Times-Roman")->TextWidth("x"), 0);
+      EXPECT_EQ(fonts_->count(fontType1), 3);
+    }
+    if (preferences_) {
+      preferences_->SetHideToolbar(true);
+      EXPECT_EQ(ErrorNumberOf([&] { preferences_->PageMode(); }), document_ ? 0 : 91);
+    }
+    if (page_) {
+      page_->DrawText("text", 1, 2);
+      page_->SetFont(page_->Font()->Clone());
+      EXPECT_EQ(ErrorNumberOf([&] { page_->ParentDocument(); }), document_ ? 0 : 91);
+    }
+    if (font_) {
+      EXPECT_FLOAT_EQ(font_->TextWidth("mm"), 12);
+    }
+    if (state_) {
+      state_->Push();
+      state_->SetFillColor(1);
+      state_->Pop();
+    }
+  }
+
+ private:
+  std::shared_ptr<PDFDocument> document_;
+  std::shared_ptr<PDFPages> pages_;
+  std::shared_ptr<PDFFonts> fonts_;
+  std::shared_ptr<PDFViewerPreferences> preferences_;
+  std::shared_ptr<PDFPage> page_;
+  std::shared_ptr<PDFFont> font_;
+  std::shared_ptr<PDFGraphicsState> state_;
+};
+
+TEST(Lifetime, EveryOrderOfReleaseIsSafe) {
+  std::array<std::size_t, Held::kCount> order{};
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  int orders = 0;
+  do {
+    Held held;
+    for (const std::size_t which : order) {
+      held.Release(which);
+      held.UseWhatIsLeft();
+    }
+    ++orders;
+  } while (std::next_permutation(order.begin(), order.end()));
+  EXPECT_EQ(orders, 5040);
+}
+
+TEST(Lifetime, NothingKeepsADocumentAlive) {
+  auto document = PDFDocument::Create();
+  const std::weak_ptr<PDFDocument> watch = document;
+  const auto page = document->Pages()->Add();
+  const auto font = page->Font();
+  document.reset();
+  EXPECT_TRUE(watch.expired());
+  page->DrawText("still here", 0, 0);
+}
+
+TEST(Lifetime, LoopOverPagesMayRemoveThem) {
+  const auto document = PDFDocument::Create();
+  const auto pages = document->Pages();
+  for (int i = 0; i < 5; ++i) pages->Add();
+  int seen = 0;
+  for (const auto& page : *pages) {
+    EXPECT_EQ(page->Width(), 612);
+    pages->Remove(1);
+    if (seen == 0) pages->Add("late");
+    ++seen;
+  }
+  EXPECT_EQ(seen, 5);
+  EXPECT_EQ(pages->count(), 1);
+  EXPECT_TRUE(pages->KeyExists("late"));
+}
+
+}  // namespace
+}  // namespace folivar::test

@@ -1,0 +1,161 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "folivar/document/PDFDocument.h"
+#include "folivar/folivar.h"
+#include "tests/support/Content.h"
+#include "tests/support/Golden.h"
+#include "tests/support/SavedDocument.h"
+#include "tests/support/TestFiles.h"
+#include "tests/support/Tools.h"
+
+namespace folivar::test {
+namespace {
+
+TEST(PDFDocument, WithoutPages) {
+  const auto document = PDFDocument::Create();
+  const SavedDocument saved = Save(*document, "no-pages.pdf", Check::kForm);
+  ExpectGolden("no-pages.pdf", saved.bytes);
+  EXPECT_EQ(saved.pdf.Object(3), "<< /Type /Pages\n/Kids []\n/Count 0\n>>\n");
+}
+
+// One page of everything that can be drawn.
+TEST(PDFDocument, Drawing) {
+  const auto document = PDFDocument::Create();
+  const auto preferences = document->ViewerPreferences();
+  preferences->SetPageLayout(plsSinglePage);
+  preferences->SetPageMode(pmsUseNone);
+  preferences->SetFitWindow(true);
+  const auto page = document->Pages()->Add("cover");
+  const auto state = page->GraphicsState();
+
+  const auto title = document->Fonts()->Add("Times-Bold");
+  title->SetSize(24);
+  title->SetUnderline(true);
+  page->SetFont(title);
+  page->DrawText("Folivar (drawing)", 72, 700);
+
+  const auto body = document->Fonts()->Add("Courier");
+  body->SetStrikeOut(true);
+  page->SetFont(body);
+  page->DrawText("first line\nsecond \\ line", 72, 660);
+  body->SetStrikeOut(false);
+  body->SetSuperscript(true);
+  page->DrawText("superscript", 72, 620);
+  body->SetSuperscript(false);
+  body->SetSubscript(true);
+  page->DrawText("subscript", 172, 620);
+  body->SetSubscript(false);
+
+  page->DrawRect(72, 480, 300, 100);
+  page->DrawTextAligned("left, top", 72, 480, 300, 100, htaLeft, vtaTop);
+  page->DrawTextAligned("centre,\nmiddle", 72, 480, 300, 100, htaCenter, vtaCenter);
+  page->DrawTextAligned("right, bottom", 72, 480, 300, 100, htaRight, vtaBottom);
+
+  state->Push();
+  state->SetLineWidth(2.5F);
+  state->SetLineDashPattern(6, 3);
+  state->SetStrokeColor(0x0000C0);
+  page->DrawLine(72, 440, 372, 440);
+  page->DrawLineTo(372, 400);
+  state->Pop();
+
+  state->SetFillColor(0x80C000);
+  page->DrawRect(72, 340, 60, 40, true, true);
+  state->SetFillGrayColor(0.75F);
+  page->DrawRect(152, 340, 60, 40, false, true);
+
+  state->Push();
+  state->Translate(300, 300);
+  state->Rotate(30);
+  state->ScaleXY(1.5F, 0.5F);
+  state->Skew(10, 0);
+  page->DrawRect(0, 0, 60, 40);
+  state->Pop();
+
+  const SavedDocument saved = Save(*document, "drawing.pdf");
+  ExpectGolden("drawing.pdf", saved.bytes);
+}
+
+TEST(PDFDocument, SavesTheSameBytesAgain) {
+  const auto document = PDFDocument::Create();
+  document->Pages()->Add()->DrawText("again", 72, 700);
+  EXPECT_EQ(Save(*document, "first.pdf").bytes, Save(*document, "second.pdf").bytes);
+}
+
+TEST(PDFDocument, SaveConsumesNothing) {
+  const auto document = PDFDocument::Create();
+  const auto page = document->Pages()->Add();
+  page->DrawText("one", 72, 700);
+  Save(*document, "one.pdf");
+  page->DrawText("two", 72, 680);
+  document->Pages()->Add()->DrawText("three", 72, 700);
+  const SavedDocument saved = Save(*document, "all.pdf");
+  EXPECT_EQ(TextOf(saved.path), "one\ntwo\n\fthree\n\f");
+}
+
+TEST(PDFDocument, ReplacesALongerFileWholly) {
+  const auto document = PDFDocument::Create();
+  const auto path = OutputPath("replaced.pdf");
+  WriteBytes(path, std::string(100000, 'x'));
+  document->SavePDFFile(path.u16string());
+  const std::string bytes = ReadBytes(path);
+  EXPECT_TRUE(bytes.ends_with("%%EOF\n"));
+  EXPECT_EQ(bytes.find('x', bytes.find("%%EOF")), std::string::npos);
+  EXPECT_LT(bytes.size(), 1000);
+}
+
+TEST(PDFDocument, FileNameMayHoldAnyCharacter) {
+  const auto document = PDFDocument::Create();
+  const auto path = OutputPath("Gr\u00FC\u00DFe \u20AC \U0001F600.pdf");
+  document->SavePDFFile(path.u16string());
+  EXPECT_TRUE(std::filesystem::exists(path));
+}
+
+// A fill of the system's disk is not ours to arrange; the device that is always full is.
+TEST(PDFDocument, FullDiskRaises61AndNamesTheFile) {
+  const auto document = PDFDocument::Create();
+  document->Pages()->Add();
+  EXPECT_EQ(ErrorNumberOf([&] { document->SavePDFFile("/dev/full"); }), 61);
+  EXPECT_NE(ErrorTextOf([&] { document->SavePDFFile("/dev/full"); }).find("'/dev/full'"),
+            std::string::npos);
+}
+
+TEST(PDFDocument, FailedSaveLeavesTheDocumentUsable) {
+  const auto document = PDFDocument::Create();
+  document->Pages()->Add()->DrawText("kept", 72, 700);
+  EXPECT_EQ(ErrorNumberOf([&] { document->SavePDFFile("/no/such/folder/x.pdf"); }), 76);
+  EXPECT_EQ(TextOf(Save(*document, "kept.pdf").path), "kept\n\f");
+}
+
+// Long content is written without being gathered first, short content together; both sides of the
+// limit (256 KiB) must give the same form.
+TEST(PDFDocument, ContentOfAnySizeIsWritten) {
+  const auto document = PDFDocument::Create();
+  for (const int lines : {1, 4000, 8191, 8192, 8193, 8194, 20000}) {
+    const auto page = document->Pages()->Add();
+    for (int i = 0; i < lines; ++i) page->DrawLine(100, 100, 200.5F, 200.25F);
+  }
+  const SavedDocument saved = Save(*document, "sizes.pdf", Check::kForm);
+  const std::string line = "100  100  m\n200.5  200.25  l\nS\n";
+  ASSERT_EQ(line.size(), 31U);
+  std::string expected;
+  for (int i = 0; i < 20000; ++i) expected += line;
+  EXPECT_TRUE(saved.pdf.Stream(17) == "q\n" + expected + "Q\n");
+}
+
+TEST(PDFDocument, TenThousandPagesAreAFlatTree) {
+  const auto document = PDFDocument::Create();
+  for (int i = 1; i <= 10000; ++i) document->Pages()->Add()->DrawText(std::to_string(i), 72, 700);
+  const SavedDocument saved = Save(*document, "many.pdf", Check::kForm);
+  EXPECT_EQ(saved.pdf.Count(), 3 + 2 * 10000 + 1);
+  EXPECT_TRUE(saved.pdf.Object(3).ends_with(" 20000 0 R 20002 0 R]\n/Count 10000\n>>\n"));
+  EXPECT_TRUE(saved.pdf.Object(20003).starts_with("<< /Length"));
+  const ToolResult pages = test::Run({"qpdf", "--show-npages", saved.path.string()});
+  EXPECT_EQ(pages.out, "10000\n");
+}
+
+}  // namespace
+}  // namespace folivar::test

@@ -1,0 +1,146 @@
+#include <gtest/gtest.h>
+
+#include <any>
+#include <limits>
+#include <memory>
+#include <string>
+
+#include "folivar/folivar.h"
+#include "folivar/page/PDFPage.h"
+#include "tests/support/Content.h"
+#include "tests/support/SavedDocument.h"
+
+namespace folivar::test {
+namespace {
+
+TEST(PDFPage, StartsAsLetterInTheDefaultFontWithoutAClipBox) {
+  const auto document = PDFDocument::Create();
+  const auto page = document->Pages()->Add();
+  EXPECT_EQ(page->Width(), 612);
+  EXPECT_EQ(page->Height(), 792);
+  EXPECT_EQ(page->Key(), "");
+  EXPECT_EQ(page->Font()->FontFace(), "Helvetica");
+  EXPECT_EQ(page->Font()->Size(), 10);
+  EXPECT_EQ(page->ParentDocument(), document);
+  EXPECT_TRUE(page->Tag().IsEmpty());
+  float left = 0;
+  float bottom = 0;
+  float right = 0;
+  float top = 0;
+  page->GetClipBox(left, bottom, right, top);
+  EXPECT_EQ(left, -1);
+  EXPECT_EQ(bottom, -1);
+  EXPECT_EQ(right, -1);
+  EXPECT_EQ(top, -1);
+}
+
+TEST(PDFPage, EmptyPageIsTwoObjects) {
+  const auto document = PDFDocument::Create();
+  document->Pages()->Add();
+  const SavedDocument saved = Save(*document, "empty.pdf");
+  EXPECT_EQ(saved.pdf.Object(4),
+            "<< /Type /Page\n/Parent 3 0 R\n/MediaBox [ 0 0 612  792 ]\n/Contents 5 0 R\n"
+            "/Resources << \n/Font << /F0 6 0 R\n >>\n>>\n>>\n");
+  EXPECT_EQ(saved.pdf.Object(5), "<< /Length 0000000004 >>\nstream\nq\nQ\nendstream\n");
+  EXPECT_EQ(saved.pdf.Count(), 6);
+}
+
+TEST(PDFPage, ExtentsAndClipBoxAreWritten) {
+  const auto document = PDFDocument::Create();
+  const auto page = document->Pages()->Add();
+  page->SetPageExtents(595.28F, 841.89F);
+  page->SetClipBox(10, 20, 300, 400);
+  const SavedDocument saved = Save(*document, "clip.pdf");
+  EXPECT_EQ(saved.pdf.Object(4),
+            "<< /Type /Page\n/Parent 3 0 R\n/MediaBox [ 0 0 595.28  841.89 ]\n"
+            "/CropBox [ 10  20  300  400 ]\n/Contents 5 0 R\n"
+            "/Resources << \n/Font << /F0 6 0 R\n >>\n>>\n>>\n");
+}
+
+TEST(PDFPage, ClipBoxWithATopBelowZeroIsNotWritten) {
+  const auto document = PDFDocument::Create();
+  const auto page = document->Pages()->Add();
+  page->SetClipBox(10, 20, 300, -1);
+  const SavedDocument saved = Save(*document, "noclip.pdf", Check::kForm);
+  EXPECT_EQ(saved.pdf.Object(4).find("/CropBox"), std::string::npos);
+  page->SetClipBox(10, -20, 300, 0);
+  EXPECT_NE(Save(*document, "clip0.pdf", Check::kForm)
+                .pdf.Object(4)
+                .find("/CropBox [ 10  -20  300  0 ]\n"),
+            std::string::npos);
+}
+
+TEST(PDFPage, FontChosenIsListedEvenWhenNothingIsDrawn) {
+  const auto document = PDFDocument::Create();
+  const auto page = document->Pages()->Add();
+  page->SetFont(document->Fonts()->Add("Times-Roman"));
+  page->SetFont(document->Fonts()->Add("Helvetica"));
+  page->SetFont(document->Fonts()->Add("times-roman"));
+  const SavedDocument saved = Save(*document, "fonts.pdf");
+  EXPECT_NE(saved.pdf.Object(4).find("/Font << /F0 6 0 R\n /F1 7 0 R\n >>\n"), std::string::npos);
+}
+
+TEST(PDFPage, NoFontRaisesAndKeepsTheOldOne) {
+  const auto document = PDFDocument::Create();
+  const auto page = document->Pages()->Add();
+  const auto font = page->Font();
+  EXPECT_EQ(ErrorNumberOf([&] { page->SetFont(nullptr); }), 91);
+  EXPECT_EQ(page->Font(), font);
+}
+
+TEST(PDFPage, FontOfAnotherDocumentIsRefused) {
+  const auto document = PDFDocument::Create();
+  const auto other = PDFDocument::Create();
+  const auto page = document->Pages()->Add();
+  const auto font = page->Font();
+  EXPECT_EQ(ErrorTextOf([&] { page->SetFont(other->Fonts()->Add("Courier")); }),
+            "Font 'Courier' belongs to another document");
+  EXPECT_EQ(page->Font(), font);
+}
+
+TEST(PDFPage, FontChangedLaterShowsInWhatIsDrawnLater) {
+  const auto document = PDFDocument::Create();
+  const auto page = document->Pages()->Add();
+  const auto font = page->Font()->Clone();
+  page->SetFont(font);
+  page->DrawText("a", 0, 0);
+  font->SetSize(12.5F);
+  page->DrawText("b", 0, 0);
+  EXPECT_EQ(ContentOf(*page),
+            "BT\n/F0 10  Tf\n0  0  Td\n(a) Tj\nET\nBT\n/F0 12.5  Tf\n0  0  Td\n(b) Tj\nET\n");
+}
+
+TEST(PDFPage, SizeThatCannotBeWrittenFailsTheSaveAndNamesThePage) {
+  const auto document = PDFDocument::Create();
+  const auto page = document->Pages()->Add("cover");
+  page->SetWidth(std::numeric_limits<float>::infinity());
+  EXPECT_EQ(ErrorNumberOf([&] { Save(*document, "broken.pdf"); }), 6);
+  EXPECT_EQ(ErrorTextOf([&] { Save(*document, "broken.pdf"); }),
+            "The extents or the clip box of the PDFPage 'cover': a value of inf cannot be written: "
+            "PDF numbers are below 2^31");
+  page->SetWidth(100);
+  Save(*document, "mended.pdf");
+}
+
+TEST(PDFPage, NegativeAndZeroSizesAreWrittenAsGiven) {
+  const auto document = PDFDocument::Create();
+  document->Pages()->Add()->SetPageExtents(0, -5.5F);
+  const SavedDocument saved = Save(*document, "negative.pdf", Check::kForm);
+  EXPECT_NE(saved.pdf.Object(4).find("/MediaBox [ 0 0 0  -5.5 ]\n"), std::string::npos);
+}
+
+TEST(PDFPage, TagHoldsAnything) {
+  const auto document = PDFDocument::Create();
+  const auto page = document->Pages()->Add();
+  page->SetTag(42);
+  EXPECT_EQ(*page->Tag().As<std::int64_t>(), 42);
+  page->SetTag("text");
+  EXPECT_EQ(*page->Tag().As<Text>(), "text");
+  page->SetTag(page->Font());
+  EXPECT_EQ(*page->Tag().As<std::shared_ptr<Object>>(), page->Font());
+  page->SetTag(Value::Host(std::string("my own")));
+  EXPECT_EQ(std::any_cast<std::string>(*page->Tag().As<std::any>()), "my own");
+}
+
+}  // namespace
+}  // namespace folivar::test

@@ -1,0 +1,50 @@
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "folivar/folivar.h"
+#include "tests/support/TestFiles.h"
+
+// Runs under the thread sanitizer. The faces' metrics are read on first use, by all threads at
+// once.
+
+namespace folivar::test {
+namespace {
+
+constexpr std::size_t kThreads = 8;
+
+void WriteDocument(const std::u16string& path) {
+  const auto document = PDFDocument::Create({Warnings::To([](const Text&) {})});
+  for (const Text& name : document->Fonts()->AvailableFonts(fontType1)) {
+    const auto page = document->Pages()->Add(name);
+    page->SetFont(document->Fonts()->Add(name));
+    float bottom = 700;
+    for (int line = 0; line < 50; ++line) {
+      page->DrawTextAligned("Line " + std::to_string(line), 72, bottom, 468, 12, htaRight);
+      bottom -= 12;
+    }
+  }
+  document->Fonts()->Add("No such face");
+  document->SavePDFFile(path);
+}
+
+TEST(DocumentThreads, EightThreadsWriteEightEqualFiles) {
+  std::vector<std::u16string> paths;
+  for (std::size_t i = 0; i < kThreads; ++i) {
+    paths.push_back(OutputPath("thread" + std::to_string(i) + ".pdf").u16string());
+  }
+  std::vector<std::thread> threads;
+  threads.reserve(kThreads);
+  for (const auto& path : paths) threads.emplace_back([path] { WriteDocument(path); });
+  for (auto& thread : threads) thread.join();
+
+  const std::string first = ReadBytes(paths[0]);
+  EXPECT_GT(first.size(), 10000);
+  for (const auto& path : paths) EXPECT_TRUE(ReadBytes(path) == first);
+}
+
+}  // namespace
+}  // namespace folivar::test
