@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "folivar/document/Utf8.h"
+#include "folivar/document/WordScan.h"
 
 namespace folivar {
 namespace {
@@ -39,11 +40,7 @@ constexpr auto kWindows1252 = std::to_array<std::pair<char16_t, unsigned char>>(
     {0x2122, 0x99},  // trade mark
 });
 
-bool IsAscii(std::string_view bytes) {
-  unsigned char seen = 0;
-  for (const char byte : bytes) seen |= static_cast<unsigned char>(byte);
-  return seen < 0x80;
-}
+bool IsAscii(std::string_view bytes) { return !AnyWord(bytes, wordscan::HasHighByte); }
 
 }  // namespace
 

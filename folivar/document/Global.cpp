@@ -62,6 +62,21 @@ std::int64_t TenThousandths(double x) {
   return result;
 }
 
+// ".0625 " for 625, without trailing zeros; only the blank for 0.
+char* WriteFraction(char* out, std::uint32_t tenThousandths) {
+  if (tenThousandths != 0) {
+    *out++ = '.';
+    if (tenThousandths % 100 == 0) {
+      out = decimal::WritePair(out, tenThousandths / 100);
+    } else {
+      out = WriteFourDigits(out, tenThousandths);
+    }
+    if (out[-1] == '0') --out;
+  }
+  *out++ = ' ';
+  return out;
+}
+
 void SortRange(std::vector<std::u16string>& folded, std::vector<Text>& strings, std::int64_t lo,
                std::int64_t hi) {
   const auto at = [](std::int64_t index) { return static_cast<std::size_t>(index); };
@@ -93,25 +108,19 @@ void SortRange(std::vector<std::u16string>& folded, std::vector<Text>& strings, 
 
 }  // namespace
 
-double RoundHalfToEven(double x) {
-  // Adding 2^52 leaves no bits for a fraction; the sum is rounded to even.
-  constexpr double kNoFraction = 4503599627370496.0;
-  if (!(std::fabs(x) < kNoFraction)) return x;
-  return x < 0 ? (x - kNoFraction) + kNoFraction : (x + kNoFraction) - kNoFraction;
-}
-
 char* WriteReal(char* out, double x) {
+  const double product = std::fabs(x) * kScale;
+  // Coordinates, nearly always: they fit into 32 bits and are no ties.
+  const double rounded = (product + kNoFraction) - kNoFraction;
+  if (product < 4294967295.0 && std::fabs(product - rounded) != 0.5) [[likely]] {
+    const auto scaled = static_cast<std::uint32_t>(static_cast<std::int64_t>(rounded));
+    if (x < 0 && scaled != 0) *out++ = '-';
+    return WriteFraction(WriteDecimal(out, scaled / 10000), scaled % 10000);
+  }
   const std::int64_t scaled = TenThousandths(x);
   if (x < 0 && scaled != 0) *out++ = '-';
   out = WriteDecimal(out, static_cast<std::uint32_t>(scaled / 10000));
-  auto fraction = static_cast<std::uint32_t>(scaled % 10000);
-  if (fraction != 0) {
-    *out++ = '.';
-    out = WriteFourDigits(out, fraction);
-    while (out[-1] == '0') --out;
-  }
-  *out++ = ' ';
-  return out;
+  return WriteFraction(out, static_cast<std::uint32_t>(scaled % 10000));
 }
 
 std::string FormatReal(double x) {
@@ -151,19 +160,16 @@ std::int64_t CeilDiv(std::int64_t a, std::int64_t b) {
   return a / b + (a % b != 0 ? 1 : 0);
 }
 
-ColorShares SharesOf(std::int32_t color) {
-  const auto bits = static_cast<std::uint32_t>(color);
-  return {(bits & 0xFF) / 255.0, ((bits >> 8) & 0xFF) / 255.0, ((bits >> 16) & 0xFF) / 255.0};
-}
-
 std::string StrokeColorOp(std::int32_t color) {
-  const ColorShares shares = SharesOf(color);
-  return FormatReal(shares.red) + FormatReal(shares.green) + FormatReal(shares.blue) + "RG\n";
+  PDFText text;
+  text.Append(RedShare(color), GreenShare(color), BlueShare(color), "RG\n");
+  return std::string(text.Bytes());
 }
 
 std::string FillColorOp(std::int32_t color) {
-  const ColorShares shares = SharesOf(color);
-  return FormatReal(shares.red) + FormatReal(shares.green) + FormatReal(shares.blue) + "rg\n";
+  PDFText text;
+  text.Append(RedShare(color), GreenShare(color), BlueShare(color), "rg\n");
+  return std::string(text.Bytes());
 }
 
 std::string_view PdfBool(bool flag) { return flag ? "true" : "false"; }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cmath>
 #include <concepts>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -25,8 +27,14 @@ char* WriteReal(char* out, double x);
 // The same as a string.
 std::string FormatReal(double x);
 
+// 2^52: adding it leaves no bits for a fraction, and the sum is rounded to even.
+inline constexpr double kNoFraction = 4503599627370496.0;
+
 // To a whole number, halves to the even one; what is not finite stays as it is.
-double RoundHalfToEven(double x);
+inline double RoundHalfToEven(double x) {
+  if (!(std::fabs(x) < kNoFraction)) return x;
+  return x < 0 ? (x - kNoFraction) + kNoFraction : (x + kNoFraction) - kNoFraction;
+}
 
 // On a tie the first argument. Texts compare without regard to case.
 template <class Number>
@@ -50,14 +58,6 @@ bool FileExists(TextView path) noexcept;
 // a / b truncated toward zero, plus 1 if there is a remainder: for positive numbers the quotient
 // rounded up. Raises 11 for a b of 0.
 std::int64_t CeilDiv(std::int64_t a, std::int64_t b);
-
-// One byte of a colour (0x00BBGGRR, red in the low byte) as a share of 1; the top byte is ignored.
-struct ColorShares {
-  double red;
-  double green;
-  double blue;
-};
-ColorShares SharesOf(std::int32_t color);
 
 // "1 0 0 RG\n" and "1 0 0 rg\n" for pure red: the operators that set the stroke and the fill
 // colour.

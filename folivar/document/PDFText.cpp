@@ -1,28 +1,53 @@
 #include "folivar/document/PDFText.h"
 
+#include <array>
 #include <cstdlib>
 #include <limits>
 #include <new>
 
 #include "folivar/document/Error.h"
+#include "folivar/document/WordScan.h"
 
 namespace folivar {
 namespace {
 
 constexpr std::size_t kLongest = std::numeric_limits<std::int32_t>::max();
 
-// A small text grows by half and a large one by a quarter: few steps for a short text, little room
+// A small text grows by half and a large one by an eighth: few steps for a short text, little room
 // left over in a long one.
 constexpr std::size_t kFirstCapacity = 256;
 constexpr std::size_t kLargeText = 4096;
 
 bool NeedsEscape(char byte) { return byte == '\\' || byte == '(' || byte == ')'; }
 
-std::size_t CountEscapes(std::string_view bytes) {
-  std::size_t count = 0;
-  for (const char byte : bytes) count += NeedsEscape(byte) ? 1U : 0U;
-  return count;
+std::uint64_t HasEscape(std::uint64_t word) {
+  using wordscan::HasByte;
+  return HasByte(word, '\\') | HasByte(word, '(') | HasByte(word, ')');
 }
+
+// The texts of all colour shares, each in a word of its own. A byte divided by 255 is never near a
+// half of the last decimal, so that rounding needs no care.
+struct ShareText {
+  std::array<char, 7> digits{};
+  std::uint8_t size = 0;
+};
+
+constexpr std::array<ShareText, 256> kColorShares = [] {
+  std::array<ShareText, 256> texts{};
+  for (std::uint32_t byte = 0; byte < 256; ++byte) {
+    const std::uint32_t tenThousandths = (byte * 20000 + 255) / 510;
+    ShareText& text = texts[byte];
+    text.digits[text.size++] = static_cast<char>('0' + tenThousandths / 10000);
+    std::uint32_t rest = tenThousandths % 10000;
+    if (rest != 0) text.digits[text.size++] = '.';
+    for (std::uint32_t unit = 1000; rest != 0; unit /= 10) {
+      text.digits[text.size++] = static_cast<char>('0' + rest / unit);
+      rest %= unit;
+    }
+    text.digits[text.size++] = ' ';
+  }
+  return texts;
+}();
 
 }  // namespace
 
@@ -46,7 +71,7 @@ void PDFText::Grow(std::size_t size) {
   if (size > kLongest - size_) {
     throw Error::Overflow("A text of more than 2147483647 bytes does not fit into the file");
   }
-  const std::size_t step = size_ < kLargeText ? capacity_ / 2 : capacity_ / 4;
+  const std::size_t step = size_ < kLargeText ? capacity_ / 2 : capacity_ / 8;
   const std::size_t capacity = std::max({kFirstCapacity, size_ + size, capacity_ + step});
   auto* data = static_cast<char*>(std::realloc(data_, capacity));
   if (data == nullptr) throw std::bad_alloc();
@@ -55,16 +80,35 @@ void PDFText::Grow(std::size_t size) {
 }
 
 std::size_t PDFText::SizeBound(Escaped text) {
-  return text.bytes.size() + CountEscapes(text.bytes);
+  // Room for a backslash before every byte, unless that would be much.
+  if (text.bytes.size() <= kLargeText) return 2 * text.bytes.size();
+  return text.bytes.size() +
+         static_cast<std::size_t>(std::count_if(text.bytes.begin(), text.bytes.end(), NeedsEscape));
 }
 
 char* PDFText::Put(char* out, Escaped text) {
-  if (CountEscapes(text.bytes) == 0) return Put(out, text.bytes);
-  for (const char byte : text.bytes) {
-    if (NeedsEscape(byte)) *out++ = '\\';
-    *out++ = byte;
+  const char* in = text.bytes.data();
+  const char* const end = in + text.bytes.size();
+  while (in != end) {
+    // Eight bytes at once as long as none of them is special.
+    for (; end - in >= 8; in += 8, out += 8) {
+      const std::uint64_t word = wordscan::Load(in);
+      if (HasEscape(word) != 0) break;
+      std::memcpy(out, &word, sizeof word);
+    }
+    const char* const next = in + std::min<std::ptrdiff_t>(8, end - in);
+    for (; in != next; ++in) {
+      if (NeedsEscape(*in)) *out++ = '\\';
+      *out++ = *in;
+    }
   }
   return out;
+}
+
+char* PDFText::Put(char* out, ColorShare share) {
+  const ShareText& text = kColorShares[share.byte];
+  std::memcpy(out, &text, sizeof text);
+  return out + text.size;
 }
 
 }  // namespace folivar

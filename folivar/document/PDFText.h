@@ -26,6 +26,22 @@ struct Reference {
   std::int32_t objectNumber;
 };
 
+// One byte of a colour as a share of 255: ColorShare{128} is "0.502 ".
+struct ColorShare {
+  std::uint8_t byte;
+};
+
+// Of a colour 0x00BBGGRR.
+constexpr ColorShare RedShare(std::int32_t color) {
+  return {static_cast<std::uint8_t>(static_cast<std::uint32_t>(color))};
+}
+constexpr ColorShare GreenShare(std::int32_t color) {
+  return {static_cast<std::uint8_t>(static_cast<std::uint32_t>(color) >> 8)};
+}
+constexpr ColorShare BlueShare(std::int32_t color) {
+  return {static_cast<std::uint8_t>(static_cast<std::uint32_t>(color) >> 16)};
+}
+
 // Exactly ten digits with leading zeros, below 10^10: TenDigits{15} is "0000000015".
 struct TenDigits {
   std::uint64_t value;
@@ -67,9 +83,14 @@ class PDFText {
   void Truncate(std::size_t size) { size_ = std::min(size, size_); }
 
  private:
-  // An upper bound of what Put writes, for each kind of part.
+  // An upper bound of what Put writes, for each kind of part. A literal's length needs no counting.
+  template <std::size_t kSize>
+  static constexpr std::size_t SizeBound(const char (&)[kSize]) {
+    return kSize - 1;
+  }
   static std::size_t SizeBound(std::string_view bytes) { return bytes.size(); }
   static std::size_t SizeBound(Real) { return kLongestReal; }
+  static std::size_t SizeBound(ColorShare) { return kLongestColorShare; }
   static std::size_t SizeBound(Reference) { return kLongestInteger + 4; }
   static std::size_t SizeBound(TenDigits) { return 10; }
   static std::size_t SizeBound(Escaped text);
@@ -82,11 +103,17 @@ class PDFText {
   template <std::floating_point Number>
   static std::size_t SizeBound(Number) = delete;  // say Real
 
+  template <std::size_t kSize>
+  static char* Put(char* out, const char (&literal)[kSize]) {
+    std::memcpy(out, literal, kSize - 1);
+    return out + kSize - 1;
+  }
   static char* Put(char* out, std::string_view bytes) {
     if (!bytes.empty()) std::memcpy(out, bytes.data(), bytes.size());
     return out + bytes.size();
   }
   static char* Put(char* out, Real real) { return WriteReal(out, real.value); }
+  static char* Put(char* out, ColorShare share);
   static char* Put(char* out, Reference reference) {
     return Put(Put(out, reference.objectNumber), " 0 R");
   }
@@ -108,7 +135,8 @@ class PDFText {
   }
   void Grow(std::size_t size);
 
-  static constexpr std::size_t kLongestInteger = 11;  // "-2147483648"
+  static constexpr std::size_t kLongestInteger = 11;    // "-2147483648"
+  static constexpr std::size_t kLongestColorShare = 8;  // "0.1234 ", and a byte that may be written
 
   char* data_ = nullptr;
   std::size_t size_ = 0;

@@ -36,26 +36,29 @@ class FOLIVAR_API TextView {
   requires std::is_convertible_v<const String&, std::u16string_view> TextView(const String& utf16)
       : TextView(std::u16string_view(utf16)) {}
 
-  TextView(std::string_view utf8) : data_(utf8.data()), size_(utf8.size()) {}
-  TextView(std::u8string_view utf8) : data_(utf8.data()), size_(utf8.size()) {}
-  TextView(std::u16string_view utf16) : data_(utf16.data()), size_(utf16.size()), isUtf16_(true) {}
+  TextView(std::string_view utf8) : data_(utf8.data()), sizeAndForm_(2 * utf8.size()) {}
+  TextView(std::u8string_view utf8) : data_(utf8.data()), sizeAndForm_(2 * utf8.size()) {}
+  TextView(std::u16string_view utf16) : data_(utf16.data()), sizeAndForm_(2 * utf16.size() + 1) {}
 
-  bool IsEmpty() const { return size_ == 0; }
-  bool IsUtf16() const { return isUtf16_; }
+  bool IsEmpty() const { return Size() == 0; }
+  bool IsUtf16() const { return (sizeAndForm_ & 1) != 0; }
 
   // The text in the form it came in; the other form is empty.
   std::string_view Utf8() const {
-    return isUtf16_ ? std::string_view() : std::string_view(static_cast<const char*>(data_), size_);
+    return IsUtf16() ? std::string_view()
+                     : std::string_view(static_cast<const char*>(data_), Size());
   }
   std::u16string_view Utf16() const {
-    return isUtf16_ ? std::u16string_view(static_cast<const char16_t*>(data_), size_)
-                    : std::u16string_view();
+    return IsUtf16() ? std::u16string_view(static_cast<const char16_t*>(data_), Size())
+                     : std::u16string_view();
   }
 
  private:
+  std::size_t Size() const { return sizeAndForm_ / 2; }
+
   const void* data_ = nullptr;
-  std::size_t size_ = 0;
-  bool isUtf16_ = false;
+  // Twice the units, plus 1 for UTF-16: a view of two words travels in registers.
+  std::size_t sizeAndForm_ = 0;
 };
 
 // A text that the model keeps: UTF-16, as on the automation interface. Positions and lengths that

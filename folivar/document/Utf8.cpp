@@ -29,8 +29,8 @@ bool IsHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
 bool IsLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
 Error NotUtf8(std::size_t position) {
-  return Error::InvalidArgument("Text is not UTF-8: invalid byte at position " +
-                                std::to_string(position) + " (counted from 0)");
+  return Error::InvalidArgument("Text is not UTF-8 at byte position " + std::to_string(position) +
+                                " (counted from 0)");
 }
 
 void AppendUtf16(std::u16string& units, char32_t character) {
@@ -73,9 +73,9 @@ std::u16string Utf16FromUtf8(std::string_view utf8) {
     if (sequence.length == 0) throw NotUtf8(position);
     char32_t character = sequence.leadBits;
     for (std::size_t i = 1; i < sequence.length; ++i) {
-      if (position + i == utf8.size()) throw NotUtf8(position);
-      const auto byte = static_cast<unsigned char>(utf8[position + i]);
-      if ((byte & 0xC0) != 0x80) throw NotUtf8(position + i);
+      const bool isCutOff = position + i == utf8.size();
+      const auto byte = static_cast<unsigned char>(isCutOff ? 0 : utf8[position + i]);
+      if ((byte & 0xC0) != 0x80) throw NotUtf8(position);
       character = (character << 6) | (byte & 0x3Fu);
     }
     if (character < sequence.lowest || character > 0x10FFFF || IsSurrogate(character)) {

@@ -7,7 +7,8 @@ namespace folivar {
 
 // The bridge between the two forms in which hosts hand in text.
 
-// Raises 5 for bytes that are not UTF-8 and names the position of the first one.
+// Raises 5 for bytes that are not UTF-8 and names the position at which the first character that is
+// none begins.
 std::u16string Utf16FromUtf8(std::string_view utf8);
 
 // A lone surrogate becomes U+FFFD.

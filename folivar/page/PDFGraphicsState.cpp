@@ -17,9 +17,6 @@ void EmitToOwner(Surface& surface, const char* member, const Parts&... parts) {
   InMember(member, [&] { surface.AppendContent(parts...); });
 }
 
-// A component of a colour goes out as a single.
-Real Single(double share) { return Real{static_cast<float>(share)}; }
-
 // Colours (n, n, n) for a gray level; false for what is no gray level.
 bool GrayAsColor(float gray, std::int32_t& color) {
   if (!(gray >= 0 && gray <= 1)) return false;
@@ -37,16 +34,14 @@ PDFGraphicsState::PDFGraphicsState(const Internal&, std::shared_ptr<Surface> sur
 }
 
 void PDFGraphicsState::SetFillColor(std::int32_t color) {
-  const ColorShares shares = SharesOf(color);
-  EmitToOwner(*surface_, "PDFGraphicsState.FillColor", Single(shares.red), Single(shares.green),
-              Single(shares.blue), "rg\n");
+  EmitToOwner(*surface_, "PDFGraphicsState.FillColor", RedShare(color), GreenShare(color),
+              BlueShare(color), "rg\n");
   current_.FillColor = color;
 }
 
 void PDFGraphicsState::SetStrokeColor(std::int32_t color) {
-  const ColorShares shares = SharesOf(color);
-  EmitToOwner(*surface_, "PDFGraphicsState.StrokeColor", Single(shares.red), Single(shares.green),
-              Single(shares.blue), "RG\n");
+  EmitToOwner(*surface_, "PDFGraphicsState.StrokeColor", RedShare(color), GreenShare(color),
+              BlueShare(color), "RG\n");
   current_.StrokeColor = color;
 }
 
