@@ -1,0 +1,214 @@
+#pragma once
+
+#include <array>
+#include <charconv>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <exception>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+
+// The work that every library is given: the same texts, coordinates and colours, in the same order.
+// A program names its Document and calls RunWorkload<Document>(argc, argv) from main. A Document
+// writes one file:
+//
+//   explicit Document(const std::string& path);
+//   void BeginPage();                                   // US Letter, Helvetica 10
+//   void DrawText(const std::string& line, Point at);   // one line of text
+//   void StrokeLine(Color, Point from, Point to);
+//   void StrokeRect(Color, Rect);
+//   void FillRect(Color, Rect);
+//   void PaintRect(Color stroke, Color fill, Rect);     // fills, then strokes
+//   void EndPage();
+//   void Save();
+//
+// Lengths are points from the bottom left corner of the page.
+
+namespace bench {
+
+inline constexpr float kPageWidth = 612;
+inline constexpr float kPageHeight = 792;
+inline constexpr float kFontSize = 10;
+
+struct Point {
+  float x;
+  float y;
+};
+
+struct Rect {
+  float left;
+  float bottom;
+  float width;
+  float height;
+};
+
+struct Color {
+  std::uint8_t red;
+  std::uint8_t green;
+  std::uint8_t blue;
+};
+
+// The same numbers in every program.
+class Sequence {
+ public:
+  std::uint32_t Below(std::uint32_t limit) {
+    state_ = state_ * 6364136223846793005U + 1442695040888963407U;
+    return static_cast<std::uint32_t>(((state_ >> 32) * limit) >> 32);
+  }
+
+ private:
+  std::uint64_t state_ = 20240229;
+};
+
+// Lines of 80 characters, like those of a ledger; one in eight has parentheses.
+class Lines {
+ public:
+  Lines() {
+    static constexpr std::array<std::string_view, 12> kWords = {
+        "invoice", "delivery", "transfer", "of", "the",   "monthly",
+        "account", "balance",  "paid",     "by", "cheque", "received"};
+    Sequence sequence;
+    for (std::size_t i = 0; i < lines_.size(); ++i) {
+      std::string line = std::to_string(100000 + sequence.Below(900000));
+      while (line.size() < kLength) {
+        const std::string word(kWords[sequence.Below(kWords.size())]);
+        line += i % 8 == 0 && line.size() < 20 ? " (" + word + ")" : " " + word;
+      }
+      line.resize(kLength - 1);
+      lines_[i] = line + ".";
+    }
+  }
+
+  const std::string& At(std::size_t number) const { return lines_[number % lines_.size()]; }
+
+ private:
+  static constexpr std::size_t kLength = 80;
+  std::array<std::string, 64> lines_;
+};
+
+template <class Document>
+class Workloads {
+ public:
+  explicit Workloads(std::string folder) : folder_(std::move(folder)) {}
+
+  // `size` pages of `lineCount` lines.
+  void Text(std::size_t size, std::size_t lineCount) {
+    Document document(PathOf(0));
+    for (std::size_t page = 0; page < size; ++page) AddTextPage(document, page, lineCount);
+    document.Save();
+  }
+
+  // `size` pages of 1,000 lines and rectangles, each with colours of its own.
+  void Vector(std::size_t size) {
+    Document document(PathOf(0));
+    for (std::size_t page = 0; page < size; ++page) {
+      document.BeginPage();
+      for (std::size_t primitive = 0; primitive < 1000; ++primitive) Draw(document, primitive % 4);
+      document.EndPage();
+    }
+    document.Save();
+  }
+
+  // `size` documents of one page with `lineCount` lines.
+  void Documents(std::size_t size, std::size_t lineCount) {
+    for (std::size_t number = 0; number < size; ++number) {
+      Document document(PathOf(number));
+      AddTextPage(document, number, lineCount);
+      document.Save();
+    }
+  }
+
+ private:
+  std::string PathOf(std::size_t number) const {
+    return folder_ + "/" + std::to_string(number) + ".pdf";
+  }
+
+  void AddTextPage(Document& document, std::size_t page, std::size_t lineCount) {
+    document.BeginPage();
+    for (std::size_t i = 0; i < lineCount; ++i) {
+      document.DrawText(lines_.At(page + i), {72, 750.5F - 11.75F * static_cast<float>(i)});
+    }
+    document.EndPage();
+  }
+
+  void Draw(Document& document, std::size_t kind) {
+    const Point at = NextPoint();
+    if (kind == 0) {
+      document.StrokeLine(NextColor(), at, NextPoint());
+      return;
+    }
+    const Rect rect = {at.x, at.y, Hundredths(5000), Hundredths(5000)};
+    if (kind == 1) document.StrokeRect(NextColor(), rect);
+    if (kind == 2) document.FillRect(NextColor(), rect);
+    if (kind == 3) {
+      const Color stroke = NextColor();
+      document.PaintRect(stroke, NextColor(), rect);
+    }
+  }
+
+  float Hundredths(std::uint32_t limit) {
+    return static_cast<float>(sequence_.Below(limit)) / 100;
+  }
+
+  Point NextPoint() {
+    const float x = Hundredths(56000);
+    return {x, Hundredths(74000)};
+  }
+
+  Color NextColor() {
+    const std::uint32_t bits = sequence_.Below(0x1000000);
+    return {static_cast<std::uint8_t>(bits), static_cast<std::uint8_t>(bits >> 8),
+            static_cast<std::uint8_t>(bits >> 16)};
+  }
+
+  std::string folder_;
+  Lines lines_;
+  Sequence sequence_;
+};
+
+// NAME SIZE FOLDER; the files are FOLDER/0.pdf, FOLDER/1.pdf and so on.
+template <class Document>
+void RunNamed(std::string_view name, std::size_t size, const std::string& folder) {
+  Workloads<Document> workloads(folder);
+  if (name == "text") {
+    workloads.Text(size, 60);
+  } else if (name == "light") {
+    workloads.Text(size, 5);
+  } else if (name == "empty") {
+    workloads.Text(size, 0);
+  } else if (name == "vector") {
+    workloads.Vector(size);
+  } else if (name == "small") {
+    workloads.Documents(size, 5);
+  } else if (name == "startup") {
+    workloads.Documents(size, 1);
+  } else {
+    throw std::runtime_error("There is no workload '" + std::string(name) + "'");
+  }
+}
+
+inline std::size_t NumberFrom(std::string_view digits) {
+  std::size_t number = 0;
+  const auto parsed = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+  if (parsed.ec != std::errc() || parsed.ptr != digits.data() + digits.size()) {
+    throw std::runtime_error("'" + std::string(digits) + "' is no number");
+  }
+  return number;
+}
+
+template <class Document>
+int RunWorkload(int argc, char** argv) {
+  try {
+    if (argc != 4) throw std::runtime_error("Arguments: WORKLOAD SIZE FOLDER");
+    RunNamed<Document>(argv[1], NumberFrom(argv[2]), argv[3]);
+    return 0;
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "%s: %s\n", argv[0], error.what());
+    return 1;
+  }
+}
+
+}  // namespace bench

@@ -1,0 +1,60 @@
+#include <folivar/folivar.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "Workload.h"
+
+namespace {
+
+std::int32_t Packed(bench::Color color) {
+  return color.red | (color.green << 8) | (color.blue << 16);
+}
+
+class Document {
+ public:
+  explicit Document(const std::string& path) : path_(path) {}
+
+  void BeginPage() {
+    page_ = document_->Pages()->Add();
+    state_ = page_->GraphicsState();
+  }
+
+  void DrawText(const std::string& line, bench::Point at) { page_->DrawText(line, at.x, at.y); }
+
+  void StrokeLine(bench::Color color, bench::Point from, bench::Point to) {
+    state_->SetStrokeColor(Packed(color));
+    page_->DrawLine(from.x, from.y, to.x, to.y);
+  }
+
+  void StrokeRect(bench::Color color, bench::Rect rect) {
+    state_->SetStrokeColor(Packed(color));
+    page_->DrawRect(rect.left, rect.bottom, rect.width, rect.height);
+  }
+
+  void FillRect(bench::Color color, bench::Rect rect) {
+    state_->SetFillColor(Packed(color));
+    page_->DrawRect(rect.left, rect.bottom, rect.width, rect.height, false, true);
+  }
+
+  void PaintRect(bench::Color stroke, bench::Color fill, bench::Rect rect) {
+    state_->SetStrokeColor(Packed(stroke));
+    state_->SetFillColor(Packed(fill));
+    page_->DrawRect(rect.left, rect.bottom, rect.width, rect.height, true, true);
+  }
+
+  void EndPage() {}
+
+  void Save() { document_->SavePDFFile(path_); }
+
+ private:
+  std::string path_;
+  std::shared_ptr<folivar::PDFDocument> document_ = folivar::PDFDocument::Create();
+  std::shared_ptr<folivar::PDFPage> page_;
+  std::shared_ptr<folivar::PDFGraphicsState> state_;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) { return bench::RunWorkload<Document>(argc, argv); }
