@@ -1,6 +1,7 @@
 # Writes the C++ source that carries the standard faces' metric files inside the library.
 #
-#   cmake -DOUTPUT=<file.cpp> -DFOLDER=<folder of .afm files> -P EmbedStandardFaces.cmake -- <face>...
+#   cmake -DOUTPUT=<file.cpp> -DFOLDER=<folder of the .afm files>
+#         -P EmbedStandardFaces.cmake -- <face>...
 #
 # A file becomes several strings, because compilers limit the length of one.
 

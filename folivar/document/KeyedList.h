@@ -68,7 +68,7 @@ class KeyedList {
   template <class Index>
   bool KeyExists(const Index& index) const noexcept {
     try {
-      const Value value(index);
+      const Value& value = index;
       if (const auto* key = value.template As<Text>()) return byKey_.contains(FoldCase(*key));
       return Holds(PositionFrom(value));
     } catch (...) {

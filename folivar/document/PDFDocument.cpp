@@ -3,6 +3,7 @@
 #include <array>
 #include <cassert>
 #include <cstddef>
+#include <cstdint>
 #include <utility>
 
 #include "folivar/document/FileSink.h"
@@ -44,22 +45,24 @@ std::shared_ptr<PDFViewerPreferences> PDFDocument::ViewerPreferences() const {
 
 void PDFDocument::SavePDFFile(TextView fileName) {
   FileSink sink(fileName);
+  struct Step {
+    ObjectWriter& writer;
+    std::int32_t endNumber = 0;
+  };
   // The order of the objects in the file.
-  const std::array<ObjectWriter*, 4> writers = {catalog_.get(), outline_.get(), pages_.get(),
-                                                fonts_.get()};
+  std::array<Step, 4> steps = {{{*catalog_}, {*outline_}, {*pages_}, {*fonts_}}};
 
   ObjectNumbers numbers;
-  std::array<std::int32_t, writers.size()> endNumbers{};
-  for (std::size_t i = 0; i < writers.size(); ++i) {
-    writers[i]->NumberObjects(numbers);
-    endNumbers[i] = numbers.NextObjectNumber();
+  for (Step& step : steps) {
+    step.writer.NumberObjects(numbers);
+    step.endNumber = numbers.NextObjectNumber();
   }
 
   SaveFile file(sink);
-  for (std::size_t i = 0; i < writers.size(); ++i) {
-    writers[i]->WriteObjects(file);
+  for (const Step& step : steps) {
+    step.writer.WriteObjects(file);
     // A writer that writes more or fewer objects than it numbered breaks the file: caught here.
-    assert(file.ObjectCount() + 1 == static_cast<std::size_t>(endNumbers[i]));
+    assert(file.ObjectCount() + 1 == static_cast<std::size_t>(step.endNumber));
   }
   file.Finish(catalog_->ObjectNumber());
   sink.Close();

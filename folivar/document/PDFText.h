@@ -100,8 +100,6 @@ class PDFText {
     static_assert(sizeof(Integer) <= 4);
     return kLongestInteger;
   }
-  template <std::floating_point Number>
-  static std::size_t SizeBound(Number) = delete;  // say Real
 
   template <std::size_t kSize>
   static char* Put(char* out, const char (&literal)[kSize]) {

@@ -29,8 +29,8 @@ bool IsHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
 bool IsLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
 Error NotUtf8(std::size_t position) {
-  return Error::InvalidArgument("Text is not UTF-8 at byte position " + std::to_string(position) +
-                                " (counted from 0)");
+  return Error::InvalidArgument("Text is not UTF-8: invalid byte at position " +
+                                std::to_string(position) + " (counted from 0)");
 }
 
 void AppendUtf16(std::u16string& units, char32_t character) {

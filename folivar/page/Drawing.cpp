@@ -157,7 +157,7 @@ void Drawing::DrawText(TextView text, float x, float y) {
 
   Operation operation(surface_);
   BeginText(content, metrics, x, y, lines);
-  std::string_view separator = "";
+  std::string_view separator;
   for (const std::string_view line : lines) {
     content.Append(separator, "(", Escaped{line}, ") Tj\n");
     separator = "T*\n";
@@ -194,7 +194,7 @@ void Drawing::DrawTextAligned(TextView text, float left, float bottom, float wid
 
   Operation operation(surface_);
   BeginText(content, metrics, box.left, baseline, lines);
-  std::string_view separator = "";
+  std::string_view separator;
   for (const std::string_view line : lines) {
     const float lineWidth = FontMetrics::Scaled(metrics.Face().MeasureWidth(line), shownSize);
     const float indent = Indent(box, lineWidth, horzAlignment);
