@@ -1,11 +1,10 @@
-#include "folivar/document/AnsiText.h"
-
 #include <gtest/gtest.h>
 
 #include <map>
 #include <string>
 #include <string_view>
 
+#include "folivar/document/AnsiText.h"
 #include "tests/support/Content.h"
 #include "tests/support/TestFiles.h"
 #include "tests/support/Tools.h"
@@ -60,9 +59,14 @@ TEST(AnsiText, ConvertsUtf8AndUtf16Alike) {
 }
 
 TEST(AnsiText, IsOneByteForEachUtf16Unit) {
-  EXPECT_EQ(BytesOf("\U0001F600"), "?" "?") << "a surrogate pair";
+  EXPECT_EQ(BytesOf("\U0001F600"),
+            "?"
+            "?")
+      << "a surrogate pair";
   EXPECT_EQ(BytesOf(std::u16string{0xD800, u'a'}), "?a") << "a lone surrogate";
-  EXPECT_EQ(BytesOf("\u0394\u4E2D"), "?" "?");
+  EXPECT_EQ(BytesOf("\u0394\u4E2D"),
+            "?"
+            "?");
 }
 
 TEST(AnsiText, ConvertsTextsOfAnyLength) {

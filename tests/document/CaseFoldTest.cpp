@@ -1,5 +1,3 @@
-#include "folivar/document/CaseFold.h"
-
 #include <gtest/gtest.h>
 
 #include <array>
@@ -8,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "folivar/document/CaseFold.h"
 #include "tests/support/Content.h"
 #include "tests/support/Tools.h"
 
@@ -17,15 +16,15 @@ namespace {
 TEST(CaseFold, FoldsLettersBeyondAscii) {
   const std::array<std::pair<const char*, const char*>, 10> pairs = {{
       {"ABC xyz 123", "abc XYZ 123"},
-      {"\u00C9t\u00C9", "\u00E9T\u00E9"},                   // French
-      {"\u00C4\u00D6\u00DC", "\u00E4\u00F6\u00FC"},         // German
-      {"\u0141\u00F3d\u017A", "\u0142\u00D3D\u0179"},       // Polish
-      {"\u0178", "\u00FF"},                                 // y with diaeresis
-      {"\u0391\u0392\u03A9", "\u03B1\u03B2\u03C9"},         // Greek
-      {"\u03A3\u03C3", "\u03C2\u03C2"},                     // all three sigmas
+      {"\u00C9t\u00C9", "\u00E9T\u00E9"},              // French
+      {"\u00C4\u00D6\u00DC", "\u00E4\u00F6\u00FC"},    // German
+      {"\u0141\u00F3d\u017A", "\u0142\u00D3D\u0179"},  // Polish
+      {"\u0178", "\u00FF"},                            // y with diaeresis
+      {"\u0391\u0392\u03A9", "\u03B1\u03B2\u03C9"},    // Greek
+      {"\u03A3\u03C3", "\u03C2\u03C2"},                // all three sigmas
       {"\u041C\u043E\u0441\u043A\u0412\u0410", "\u043C\u041E\u0421\u041A\u0432\u0430"},  // Cyrillic
-      {"\u0401\u0419", "\u0451\u0439"},                     // Cyrillic with marks
-      {"\uFF21", "\uFF41"},                                 // fullwidth
+      {"\u0401\u0419", "\u0451\u0439"},  // Cyrillic with marks
+      {"\uFF21", "\uFF41"},              // fullwidth
   }};
   for (const auto& [a, b] : pairs) {
     EXPECT_TRUE(EqualIgnoringCase(a, b)) << a << " " << b;

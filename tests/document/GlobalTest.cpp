@@ -1,5 +1,3 @@
-#include "folivar/document/Global.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -14,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "folivar/document/Global.h"
 #include "tests/support/Content.h"
 #include "tests/support/ExactReal.h"
 #include "tests/support/Random.h"
@@ -28,7 +27,8 @@ constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
 // FormatReal's answer, empty for error 6.
 std::string RealOrNothing(double x) {
   std::string text;
-  EXPECT_TRUE(ErrorNumberOf([&] { text = FormatReal(x); }) == (text.empty() ? 6 : 0)) << x;
+  const int error = ErrorNumberOf([&] { text = FormatReal(x); });
+  EXPECT_EQ(error, text.empty() ? 6 : 0) << x;
   return text;
 }
 
@@ -89,10 +89,10 @@ TEST(FormatReal, RoundsTheDoublesBesideATieToTheirOwnSides) {
 
 // What looks like a tie in decimals is none: the double lies beside it.
 TEST(FormatReal, RoundsDecimalHalvesByTheirExactValue) {
-  EXPECT_EQ(FormatReal(0.00005), "0.0001 ");   // 0.000050000000000000002...
-  EXPECT_EQ(FormatReal(0.00015), "0.0001 ");   // 0.000149999999999999993...
-  EXPECT_EQ(FormatReal(1.00005), "1 ");        // 1.000049999999999994...
-  EXPECT_EQ(FormatReal(1.00015), "1.0002 ");   // 1.000150000000000094...
+  EXPECT_EQ(FormatReal(0.00005), "0.0001 ");  // 0.0000500000000000000023...
+  EXPECT_EQ(FormatReal(0.00015), "0.0001 ");  // 0.0001499999999999999868...
+  EXPECT_EQ(FormatReal(1.00005), "1.0001 ");  // 1.0000500000000001055...
+  EXPECT_EQ(FormatReal(2.00005), "2 ");       // 2.0000499999999998834...
 }
 
 TEST(FormatReal, AFloatAndItsDoubleGiveTheSameText) {

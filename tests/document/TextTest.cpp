@@ -1,10 +1,9 @@
-#include "folivar/document/Text.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <string_view>
 
+#include "folivar/document/Text.h"
 #include "tests/support/Content.h"
 
 namespace folivar::test {

@@ -1,5 +1,3 @@
-#include "folivar/document/Utf8.h"
-
 #include <gtest/gtest.h>
 #include <iconv.h>
 
@@ -15,6 +13,7 @@
 #include <string_view>
 
 #include "folivar/document/Error.h"
+#include "folivar/document/Utf8.h"
 #include "tests/support/Random.h"
 
 namespace folivar::test {
@@ -184,12 +183,12 @@ TEST_F(Utf8, NamesWhereTheFirstInvalidSequenceBegins) {
   ExpectDecodesAsIconv("\x80");
   ExpectDecodesAsIconv("abc\x80");
   ExpectDecodesAsIconv("abc\xFF");
-  ExpectDecodesAsIconv("\u20AC\xC0\x80");      // longer than need be
-  ExpectDecodesAsIconv("\u20AC\xE0\x80\x80");  // longer than need be
-  ExpectDecodesAsIconv("\u20AC\xED\xA0\x80");  // a surrogate
+  ExpectDecodesAsIconv("\u20AC\xC0\x80");          // longer than need be
+  ExpectDecodesAsIconv("\u20AC\xE0\x80\x80");      // longer than need be
+  ExpectDecodesAsIconv("\u20AC\xED\xA0\x80");      // a surrogate
   ExpectDecodesAsIconv("\u20AC\xF4\x90\x80\x80");  // above U+10FFFF
-  ExpectDecodesAsIconv("\u20AC\xE2\x82");      // ends too early
-  ExpectDecodesAsIconv("ab\xC3");              // ends too early
+  ExpectDecodesAsIconv("\u20AC\xE2\x82");          // ends too early
+  ExpectDecodesAsIconv("ab\xC3");                  // ends too early
 }
 
 // The sequence is what is not UTF-8, not the letter behind it.

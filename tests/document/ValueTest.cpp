@@ -1,5 +1,3 @@
-#include "folivar/document/Value.h"
-
 #include <gtest/gtest.h>
 
 #include <any>
@@ -9,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "folivar/document/Value.h"
 #include "folivar/folivar.h"
 #include "tests/support/Content.h"
 

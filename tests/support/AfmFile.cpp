@@ -8,6 +8,12 @@
 
 namespace folivar::test {
 
+std::string FaceTestName(const testing::TestParamInfo<std::string_view>& face) {
+  std::string name(face.param);
+  std::erase(name, '-');
+  return name;
+}
+
 std::string AfmBytes(std::string_view face) {
   return ReadBytes(DataPath("../folivar/fonts/afm") / (std::string(face) + ".afm"));
 }

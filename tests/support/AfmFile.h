@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <array>
 #include <map>
 #include <string>
@@ -32,8 +34,12 @@ std::string AfmBytes(std::string_view face);
 
 // The fourteen names in the order in which the library lists them.
 inline constexpr std::array<std::string_view, 14> kStandardFaces = {
-    "Courier",           "Courier-Bold",     "Courier-BoldOblique", "Courier-Oblique", "Helvetica",
-    "Helvetica-Bold",    "Helvetica-BoldOblique", "Helvetica-Oblique", "Symbol",  "Times-Bold",
-    "Times-BoldItalic",  "Times-Italic",     "Times-Roman",         "ZapfDingbats"};
+    "Courier",     "Courier-Bold",   "Courier-BoldOblique",   "Courier-Oblique",
+    "Helvetica",   "Helvetica-Bold", "Helvetica-BoldOblique", "Helvetica-Oblique",
+    "Symbol",      "Times-Bold",     "Times-BoldItalic",      "Times-Italic",
+    "Times-Roman", "ZapfDingbats"};
+
+// For tests that run once for each face: "TimesRoman" for "Times-Roman".
+std::string FaceTestName(const testing::TestParamInfo<std::string_view>& face);
 
 }  // namespace folivar::test

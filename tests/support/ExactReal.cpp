@@ -19,7 +19,7 @@ std::uint64_t TenThousandths(std::uint64_t bits) {
   // |x| is mantissa * 2^-shift.
   const std::uint64_t mantissa = biased == 0 ? fraction : fraction | kHiddenBit;
   const int shift = 1023 + kMantissaBits - (biased == 0 ? 1 : biased);
-  if (shift <= 0) return kLimit;  // 2^52 and above, infinities, not a number
+  if (shift <= 0) return kLimit;                 // 2^52 and above, infinities, not a number
   const Whole scaled = Whole{mantissa} * 10000;  // below 2^67
   if (shift > 70) return 0;                      // below one eighth
   Whole quotient = scaled >> shift;

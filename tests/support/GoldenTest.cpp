@@ -1,7 +1,7 @@
-#include "tests/support/Golden.h"
-
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
+
+#include "tests/support/Golden.h"
 
 namespace folivar::test {
 namespace {

@@ -8,7 +8,8 @@
 namespace folivar::test {
 
 // Numbers for random tests: the same in every run, or others with the environment variable
-// FOLIVAR_TEST_SEED set. A test says SCOPED_TRACE(random.Trace()), so that a failure shows the seed.
+// FOLIVAR_TEST_SEED set. A test says SCOPED_TRACE(random.Trace()), so that a failure shows the
+// seed.
 class Random {
  public:
   Random();

@@ -16,8 +16,8 @@ struct SavedDocument {
 };
 
 enum class Check {
-  kForm,           // by StrictPdf
-  kFormAndTools,   // and by ExpectSound, which takes some tenths of a second
+  kForm,          // by StrictPdf
+  kFormAndTools,  // and by ExpectSound, which takes some tenths of a second
 };
 
 // Saves the document to OutputPath(name) and checks the file.

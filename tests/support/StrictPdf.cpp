@@ -137,7 +137,8 @@ ObjectWords ReadWords(Cursor& cursor, std::string_view bytes, const std::string&
     const std::size_t position = cursor.Position() - word.size();
     if (word == "stream" || word == "endobj") {
       if (!open.empty()) Fail(position, where + ": a bracket is not closed");
-      if (bytes[position - 1] != '\n') Fail(position, where + ": no line feed before " + Quoted(word));
+      if (bytes[position - 1] != '\n')
+        Fail(position, where + ": no line feed before " + Quoted(word));
       cursor.Expect("\n", where + ", behind " + Quoted(word));
       words.isStream = word == "stream";
       return words;
@@ -181,7 +182,8 @@ StrictPdf::StrictPdf(std::string bytes) : bytes_(std::move(bytes)) {
     references.insert(references.end(), words.references.begin(), words.references.end());
     entry.isStream = words.isStream;
     if (words.isStream) {
-      if (!IsDigits(words.length) || (words.length[0] == '0' && words.length.size() != 10)) {
+      const std::size_t digits = words.length.size();
+      if (!IsDigits(words.length) || (words.length[0] == '0' && digits != 1 && digits != 10)) {
         Fail(entry.position, name + ": no '/Length' in plain or in ten digits");
       }
       entry.data = {cursor.Position(), NumberFrom(words.length)};
@@ -195,8 +197,8 @@ StrictPdf::StrictPdf(std::string bytes) : bytes_(std::move(bytes)) {
   }
   for (const ReferenceFound& reference : references) {
     if (reference.number < 1 || reference.number > Count()) {
-      Fail(reference.position, "reference to object " + std::to_string(reference.number) +
-                                   ", which does not exist");
+      Fail(reference.position,
+           "reference to object " + std::to_string(reference.number) + ", which does not exist");
     }
   }
 

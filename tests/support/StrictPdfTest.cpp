@@ -1,15 +1,16 @@
-#include "tests/support/StrictPdf.h"
-
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 #include <string>
 #include <string_view>
 
+#include "tests/support/StrictPdf.h"
+
 namespace folivar::test {
 namespace {
 
-// Written by hand, positions counted by hand: the catalog at 15, the pages at 64, the content at 100.
+// Written by hand, positions counted by hand: the catalog at 15, the pages at 64, the content at
+// 100.
 constexpr std::string_view kSound =
     "%PDF-1.3\n%\xE2\xE3\xCF\xD3\n"
     "1 0 obj\n<< /Type /Catalog\n/Pages 2 0 R\n>>\nendobj\n"

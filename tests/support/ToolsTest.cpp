@@ -1,5 +1,3 @@
-#include "tests/support/Tools.h"
-
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
@@ -8,6 +6,7 @@
 
 #include "folivar/folivar.h"
 #include "tests/support/TestFiles.h"
+#include "tests/support/Tools.h"
 
 namespace folivar::test {
 namespace {

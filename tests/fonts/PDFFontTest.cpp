@@ -1,0 +1,257 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "folivar/folivar.h"
+#include "folivar/fonts/PDFFont.h"
+#include "tests/support/AfmFile.h"
+#include "tests/support/Content.h"
+
+namespace folivar::test {
+namespace {
+
+class PDFFontOfHelvetica : public testing::Test {
+ protected:
+  std::shared_ptr<PDFDocument> document_ = PDFDocument::Create();
+  std::shared_ptr<PDFFont> font_ = document_->Fonts()->Add("Helvetica");
+};
+
+TEST_F(PDFFontOfHelvetica, HasSize10AndNoDecorationsAtFirst) {
+  EXPECT_EQ(font_->Size(), 10);
+  EXPECT_FALSE(font_->Underline());
+  EXPECT_FALSE(font_->StrikeOut());
+  EXPECT_FALSE(font_->Subscript());
+  EXPECT_FALSE(font_->Superscript());
+  EXPECT_EQ(font_->FontFace(), "Helvetica");
+  EXPECT_EQ(font_->FontType(), fontType1);
+}
+
+TEST_F(PDFFontOfHelvetica, MeasuresItsFace) {
+  EXPECT_EQ(font_->Ascender(), 7.18F);
+  EXPECT_EQ(font_->Descender(), -2.07F);
+  EXPECT_EQ(font_->Leading(), 11.56F);
+  EXPECT_EQ(font_->FontBoxTop(), 9.31F);
+  EXPECT_EQ(font_->FontBoxLeft(), -1.66F);
+  EXPECT_EQ(font_->FontBoxRight(), 10.0F);
+  EXPECT_EQ(font_->FontBoxBottom(), -2.25F);
+}
+
+TEST_F(PDFFontOfHelvetica, MeasuresText) {
+  EXPECT_EQ(font_->TextWidth("A"), 6.67F);
+  EXPECT_EQ(font_->TextWidth("AV"), 13.34F);
+  EXPECT_EQ(font_->TextHeight("Ag"), 9.38F);  // -220 to 718
+  float width = 0;
+  float height = 0;
+  font_->GetTextExtents("Ag", width, height);
+  EXPECT_EQ(width, (667.0F + 556.0F) * 10 / 1000);
+  EXPECT_EQ(height, 9.38F);
+}
+
+TEST_F(PDFFontOfHelvetica, AnEmptyTextHasNoExtents) {
+  EXPECT_EQ(font_->TextWidth(""), 0);
+  EXPECT_EQ(font_->TextHeight(""), 0);
+  float width = 1;
+  float height = 1;
+  font_->GetTextExtents("", width, height);
+  EXPECT_EQ(width, 0);
+  EXPECT_EQ(height, 0);
+}
+
+TEST_F(PDFFontOfHelvetica, TextHeightWithoutATextIsTheHeightOfTheFacesBox) {
+  EXPECT_EQ(font_->TextHeight(), 11.56F);
+  font_->SetSubscript(true);
+  EXPECT_EQ(font_->TextHeight(), (1156.0F - 1) * 6.5F / 1000);
+  font_->SetSubscript(false);
+  font_->SetSuperscript(true);
+  EXPECT_EQ(font_->TextHeight(), (1156.0F + 3.5F) * 6.5F / 1000);
+}
+
+TEST_F(PDFFontOfHelvetica, TextIsMeasuredAsItGoesIntoTheFile) {
+  // "?" is 556 wide. Characters of code page 1252 are bytes that the face's own table knows or not.
+  EXPECT_EQ(font_->TextWidth("\u0394"), 5.56F);
+  EXPECT_EQ(font_->TextWidth("\U0001F600"), 11.12F) << "one for each half of the pair";
+  EXPECT_EQ(font_->TextWidth(u"\u0394"), 5.56F);
+  EXPECT_EQ(font_->TextWidth("\u20AC"), 0) << "byte 0x80, which the table does not have";
+  EXPECT_EQ(font_->TextWidth("\u00A3"), 5.56F) << "byte 0xA3, sterling";
+}
+
+TEST_F(PDFFontOfHelvetica, SubscriptIs65PercentAsWide) {
+  font_->SetSubscript(true);
+  EXPECT_EQ(font_->TextWidth("A"), 667.0F * 6.5F / 1000);
+  EXPECT_FLOAT_EQ(font_->TextWidth("A"), 0.65F * 6.67F);
+}
+
+// Deliberate: the rise is in points, the height in thousandths of the em.
+TEST_F(PDFFontOfHelvetica, DeliberateTheRiseIsAddedToTheHeightBeforeScaling) {
+  float width = 0;
+  float height = 0;
+  font_->SetSubscript(true);
+  font_->GetTextExtents("A", width, height);
+  EXPECT_EQ(width, 667.0F * 6.5F / 1000);
+  EXPECT_EQ(height, (718.0F - 1) * 6.5F / 1000);
+  EXPECT_EQ(font_->TextHeight("A"), height);
+  font_->SetSubscript(false);
+  font_->SetSuperscript(true);
+  font_->GetTextExtents("A", width, height);
+  EXPECT_EQ(width, 667.0F * 6.5F / 1000);
+  EXPECT_EQ(height, (718.0F + 3.5F) * 6.5F / 1000);
+  EXPECT_EQ(font_->TextHeight("A"), height);
+  font_->GetTextExtents("", width, height);
+  EXPECT_EQ(width, 0);
+  EXPECT_EQ(height, 3.5F * 6.5F / 1000) << "an empty text too";
+}
+
+TEST_F(PDFFontOfHelvetica, BothSubAndSuperscriptMeasureAsSubscript) {
+  font_->SetSubscript(true);
+  const float height = font_->TextHeight("A");
+  font_->SetSuperscript(true);
+  EXPECT_EQ(font_->TextHeight("A"), height);
+}
+
+TEST_F(PDFFontOfHelvetica, TheFacesMeasuresIgnoreSubAndSuperscript) {
+  for (const bool isSubscript : {true, false}) {
+    font_->SetSubscript(isSubscript);
+    font_->SetSuperscript(!isSubscript);
+    EXPECT_EQ(font_->Ascender(), 7.18F);
+    EXPECT_EQ(font_->Descender(), -2.07F);
+    EXPECT_EQ(font_->Leading(), 11.56F);
+    EXPECT_EQ(font_->FontBoxTop(), 9.31F);
+    EXPECT_EQ(font_->FontBoxBottom(), -2.25F);
+  }
+}
+
+TEST_F(PDFFontOfHelvetica, UnderlineAndStrikeOutDoNotChangeMeasures) {
+  font_->SetUnderline(true);
+  font_->SetStrikeOut(true);
+  EXPECT_TRUE(font_->Underline());
+  EXPECT_TRUE(font_->StrikeOut());
+  EXPECT_EQ(font_->TextWidth("A"), 6.67F);
+  EXPECT_EQ(font_->TextHeight("A"), 7.18F);
+}
+
+TEST_F(PDFFontOfHelvetica, AnySizeIsTaken) {
+  font_->SetSize(0);
+  EXPECT_EQ(font_->TextWidth("A"), 0);
+  EXPECT_EQ(font_->Leading(), 0);
+  font_->SetSize(-10);
+  EXPECT_EQ(font_->Size(), -10);
+  EXPECT_EQ(font_->TextWidth("A"), -6.67F);
+  EXPECT_EQ(font_->TextHeight("A"), -7.18F);
+  font_->SetSize(1000);
+  EXPECT_EQ(font_->TextWidth("A"), 667);
+}
+
+TEST_F(PDFFontOfHelvetica, AMeasureBeyondASingleRaises6AndStoresNothing) {
+  for (const float size :
+       {std::numeric_limits<float>::max(), std::numeric_limits<float>::lowest(),
+        std::numeric_limits<float>::infinity(), std::numeric_limits<float>::quiet_NaN()}) {
+    font_->SetSize(size);
+    float width = 12;
+    float height = 34;
+    EXPECT_EQ(ErrorNumberOf([&] { font_->GetTextExtents("A", width, height); }), 6) << size;
+    EXPECT_EQ(width, 12) << size;
+    EXPECT_EQ(height, 34) << size;
+    EXPECT_EQ(ErrorNumberOf([&] { font_->TextWidth("A"); }), 6) << size;
+    EXPECT_EQ(ErrorNumberOf([&] { font_->TextHeight("A"); }), 6) << size;
+    EXPECT_EQ(ErrorNumberOf([&] { font_->TextHeight(); }), 6) << size;
+    EXPECT_EQ(ErrorNumberOf([&] { font_->Ascender(); }), 6) << size;
+    EXPECT_EQ(ErrorNumberOf([&] { font_->Descender(); }), 6) << size;
+    EXPECT_EQ(ErrorNumberOf([&] { font_->Leading(); }), 6) << size;
+    EXPECT_EQ(ErrorNumberOf([&] { font_->FontBoxTop(); }), 6) << size;
+    EXPECT_EQ(ErrorNumberOf([&] { font_->FontBoxLeft(); }), 6) << size;
+    EXPECT_EQ(ErrorNumberOf([&] { font_->FontBoxRight(); }), 6) << size;
+    EXPECT_EQ(ErrorNumberOf([&] { font_->FontBoxBottom(); }), 6) << size;
+  }
+}
+
+TEST_F(PDFFontOfHelvetica, WhenOnlyTheHeightOverflowsTheWidthIsNotStoredEither) {
+  // A blank is 278 wide and has no height; with superscript the rise alone is the height.
+  font_->SetSuperscript(true);
+  font_->SetSize(4e19F);  // 0.65 * 0.35 * size^2 is beyond a single, 278 * 0.65 * size is not
+  float width = 12;
+  float height = 34;
+  EXPECT_EQ(ErrorNumberOf([&] { font_->GetTextExtents(" ", width, height); }), 6);
+  EXPECT_EQ(width, 12);
+  EXPECT_EQ(height, 34);
+}
+
+TEST_F(PDFFontOfHelvetica, ATextThatIsNotUtf8Raises5AndStoresNothing) {
+  float width = 12;
+  float height = 34;
+  EXPECT_EQ(ErrorNumberOf([&] { font_->GetTextExtents("a\xFF", width, height); }), 5);
+  EXPECT_EQ(width, 12);
+  EXPECT_EQ(height, 34);
+  EXPECT_EQ(ErrorNumberOf([&] { font_->TextWidth("a\xFF"); }), 5);
+  EXPECT_EQ(ErrorNumberOf([&] { font_->TextHeight("a\xFF"); }), 5);
+}
+
+TEST_F(PDFFontOfHelvetica, ACloneHasTheSameFaceSizeAndDecorationsAndIsAFontOfItsOwn) {
+  font_->SetSize(12.5F);
+  font_->SetUnderline(true);
+  font_->SetSuperscript(true);
+  const auto clone = font_->Clone();
+  EXPECT_NE(clone, font_);
+  EXPECT_EQ(clone->FontFace(), "Helvetica");
+  EXPECT_EQ(clone->Size(), 12.5F);
+  EXPECT_TRUE(clone->Underline());
+  EXPECT_FALSE(clone->StrikeOut());
+  EXPECT_FALSE(clone->Subscript());
+  EXPECT_TRUE(clone->Superscript());
+  font_->SetStrikeOut(true);
+  font_->SetSubscript(true);
+  EXPECT_TRUE(font_->Clone()->StrikeOut());
+  EXPECT_TRUE(font_->Clone()->Subscript());
+  EXPECT_FALSE(clone->StrikeOut());
+  clone->SetSize(1);
+  EXPECT_EQ(font_->Size(), 12.5F);
+  EXPECT_EQ(document_->Fonts()->count(fontType1), 1) << "a clone is no new face";
+}
+
+TEST_F(PDFFontOfHelvetica, BoldAndItalicOfAStandardFaceReadFalseAndChangeNothing) {
+  const auto bold = document_->Fonts()->Add("Helvetica-BoldOblique");
+  for (const auto& font : {font_, bold}) {
+    const Text face = font->FontFace();
+    EXPECT_FALSE(font->Bold());
+    EXPECT_FALSE(font->Italic());
+    font->SetBold(true);
+    font->SetItalic(true);
+    EXPECT_EQ(font->FontFace(), face);
+    EXPECT_FALSE(font->Bold());
+    EXPECT_FALSE(font->Italic());
+  }
+}
+
+TEST_F(PDFFontOfHelvetica, MeasuresAfterTheDocumentIsGone) {
+  document_.reset();
+  EXPECT_EQ(font_->TextWidth("A"), 6.67F);
+  EXPECT_EQ(font_->Clone()->FontFace(), "Helvetica");
+}
+
+class PDFFontsOfEveryFace : public testing::TestWithParam<std::string_view> {};
+
+TEST_P(PDFFontsOfEveryFace, MeasureEveryGlyphAtSize1000AsInTheFile) {
+  const AfmFile expected = ReadAfmFile(GetParam());
+  const auto document = PDFDocument::Create();
+  const auto font = document->Fonts()->Add(GetParam());
+  font->SetSize(1000);
+  EXPECT_EQ(font->FontFace(), GetParam());
+  for (int code = 0; code < 256; ++code) {
+    const auto row = expected.glyphs.find(code);
+    const AfmFile::Glyph glyph =
+        row == expected.glyphs.end() ? AfmFile::Glyph{0, {0, 0, 0, 0}} : row->second;
+    const std::u16string text(1, static_cast<char16_t>(code));
+    EXPECT_EQ(font->TextWidth(text), glyph.width) << code;
+    EXPECT_EQ(font->TextHeight(text), std::max(0.0F, glyph.box[3]) - std::min(0.0F, glyph.box[1]))
+        << code;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(StandardFaces, PDFFontsOfEveryFace, testing::ValuesIn(kStandardFaces),
+                         FaceTestName);
+
+}  // namespace
+}  // namespace folivar::test
