@@ -15,7 +15,7 @@
 // A program names its Document and calls RunWorkload<Document>(argc, argv) from main. A Document
 // writes one file:
 //
-//   explicit Document(const std::string& path);
+//   explicit Document(std::string path);
 //   void BeginPage();                                   // US Letter, Helvetica 10
 //   void DrawText(const std::string& line, Point at);   // one line of text
 //   void StrokeLine(Color, Point from, Point to);
@@ -68,7 +68,7 @@ class Lines {
  public:
   Lines() {
     static constexpr std::array<std::string_view, 12> kWords = {
-        "invoice", "delivery", "transfer", "of", "the",   "monthly",
+        "invoice", "delivery", "transfer", "of", "the",    "monthly",
         "account", "balance",  "paid",     "by", "cheque", "received"};
     Sequence sequence;
     for (std::size_t i = 0; i < lines_.size(); ++i) {
@@ -149,9 +149,7 @@ class Workloads {
     }
   }
 
-  float Hundredths(std::uint32_t limit) {
-    return static_cast<float>(sequence_.Below(limit)) / 100;
-  }
+  float Hundredths(std::uint32_t limit) { return static_cast<float>(sequence_.Below(limit)) / 100; }
 
   Point NextPoint() {
     const float x = Hundredths(56000);

@@ -42,8 +42,8 @@ int main(int argc, char** argv) {
     const std::string piece(std::min(kPiece, size), 'x');
     for (std::size_t i = 0; i < fileCount; ++i) {
       const std::size_t end = size * (i + 1) / fileCount;
-      WriteFile(std::string(argv[3]) + "/" + std::to_string(i) + ".pdf",
-                end - size * i / fileCount, piece);
+      WriteFile(std::string(argv[3]) + "/" + std::to_string(i) + ".pdf", end - size * i / fileCount,
+                piece);
     }
     return 0;
   } catch (const std::exception& error) {

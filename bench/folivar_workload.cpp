@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "Workload.h"
 
@@ -14,7 +15,7 @@ std::int32_t Packed(bench::Color color) {
 
 class Document {
  public:
-  explicit Document(const std::string& path) : path_(path) {}
+  explicit Document(std::string path) : path_(std::move(path)) {}
 
   void BeginPage() {
     page_ = document_->Pages()->Add();

@@ -1,9 +1,9 @@
-#include "folivar/document/WordScan.h"
-
 #include <gtest/gtest.h>
 
 #include <cstddef>
 #include <string>
+
+#include "folivar/document/WordScan.h"
 
 namespace folivar::test {
 namespace {
