@@ -3,17 +3,18 @@
 #include <string>
 #include <string_view>
 
+#include "folivar/document/Api.h"
 #include "folivar/document/Text.h"
 
 namespace folivar {
 
 // Comparing names and keys without regard to case, the same on every system: Unicode's one-to-one
-// case folding, independent of the locale.
+// case folding of the basic plane, independent of the locale.
 
 char16_t FoldCase(char16_t unit);
 
 // The text with every unit folded: equal for texts that differ only in case.
-std::u16string FoldCase(TextView text);
+FOLIVAR_API std::u16string FoldCase(TextView text);
 
 bool EqualIgnoringCase(TextView a, TextView b);
 bool StartsWithIgnoringCase(TextView text, TextView start);

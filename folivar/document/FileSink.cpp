@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "folivar/document/Error.h"
+#include "folivar/document/InMember.h"
 
 namespace folivar {
 namespace {
@@ -20,6 +21,7 @@ Error FileError(const std::string& name, int reason) {
       return Error::DiskFull(text);
     case EACCES:
     case EPERM:
+    case EROFS:
 #ifdef ETXTBSY
     case ETXTBSY:
 #endif
@@ -50,7 +52,7 @@ std::FILE* OpenForWriting(const Text& name) {
 }  // namespace
 
 FileSink::FileSink(TextView fileName) {
-  const Text name(fileName);
+  const Text name = InMember("SavePDFFile", [&] { return Text(fileName); });
   name_ = name.Utf8();
   if (name.IsEmpty()) throw Error::BadFileName("A file name is wanted: it is empty");
   if (name.Utf16().find(u'\0') != std::u16string::npos) {

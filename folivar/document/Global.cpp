@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstddef>
 #include <filesystem>
+#include <limits>
 #include <system_error>
 #include <utility>
 
@@ -38,9 +39,7 @@ int SideOfProduct(double a, double product) {
 }
 
 Error CannotWrite(double x) {
-  std::array<char, 32> digits{};
-  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), x).ptr;
-  return Error::Overflow("a value of " + std::string(digits.data(), end) +
+  return Error::Overflow("a value of " + DigitsOf(x) +
                          " cannot be written: PDF numbers are below 2^31");
 }
 
@@ -128,6 +127,11 @@ std::string FormatReal(double x) {
   return {digits.data(), WriteReal(digits.data(), x)};
 }
 
+std::string DigitsOf(double x) {
+  std::array<char, 32> digits{};
+  return {digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), x).ptr};
+}
+
 const Text& MaxOf(const Text& a, const Text& b) { return CompareIgnoringCase(a, b) >= 0 ? a : b; }
 const Text& MinOf(const Text& a, const Text& b) { return CompareIgnoringCase(a, b) <= 0 ? a : b; }
 
@@ -157,6 +161,9 @@ bool FileExists(TextView path) noexcept {
 
 std::int64_t CeilDiv(std::int64_t a, std::int64_t b) {
   if (b == 0) throw Error::DivisionByZero("CeilDiv: division by zero");
+  if (a == std::numeric_limits<std::int64_t>::min() && b == -1) {
+    throw Error::Overflow("CeilDiv: the quotient does not fit into 64 bits");
+  }
   return a / b + (a % b != 0 ? 1 : 0);
 }
 

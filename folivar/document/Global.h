@@ -1,11 +1,11 @@
 #pragma once
 
 #include <cmath>
-#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 #include "folivar/document/Text.h"
@@ -27,6 +27,10 @@ char* WriteReal(char* out, double x);
 // The same as a string.
 std::string FormatReal(double x);
 
+// A number for people, in the text of an error: the shortest digits that tell it from its
+// neighbours, "1e+20".
+std::string DigitsOf(double x);
+
 // 2^52: adding it leaves no bits for a fraction, and the sum is rounded to even.
 inline constexpr double kNoFraction = 4503599627370496.0;
 
@@ -36,13 +40,18 @@ inline double RoundHalfToEven(double x) {
   return x < 0 ? (x - kNoFraction) + kNoFraction : (x + kNoFraction) - kNoFraction;
 }
 
+template <class T>
+concept Arithmetic = std::is_arithmetic_v<T>;
+
 // On a tie the first argument. Texts compare without regard to case.
-template <class Number>
-requires std::integral<Number> || std::floating_point<Number>
-constexpr Number MaxOf(Number a, Number b) { return a >= b ? a : b; }
-template <class Number>
-requires std::integral<Number> || std::floating_point<Number>
-constexpr Number MinOf(Number a, Number b) { return a <= b ? a : b; }
+template <Arithmetic Number>
+constexpr Number MaxOf(Number a, Number b) {
+  return a >= b ? a : b;
+}
+template <Arithmetic Number>
+constexpr Number MinOf(Number a, Number b) {
+  return a <= b ? a : b;
+}
 const Text& MaxOf(const Text& a, const Text& b);
 const Text& MinOf(const Text& a, const Text& b);
 
@@ -52,11 +61,12 @@ const Text& MinOf(const Text& a, const Text& b);
 // start.
 std::int16_t FindLastInRange(TextView s, TextView find, std::int16_t start, std::int16_t stop);
 
-// Whether the system finds something under the path; a directory counts. Never raises.
+// Whether the system finds something under the path, taken as it stands; a directory counts. Never
+// raises.
 bool FileExists(TextView path) noexcept;
 
 // a / b truncated toward zero, plus 1 if there is a remainder: for positive numbers the quotient
-// rounded up. Raises 11 for a b of 0.
+// rounded up. Raises 11 for a b of 0, and 6 when the quotient does not fit.
 std::int64_t CeilDiv(std::int64_t a, std::int64_t b);
 
 // "1 0 0 RG\n" and "1 0 0 rg\n" for pure red: the operators that set the stroke and the fill

@@ -20,13 +20,16 @@ namespace folivar {
 // that no other entry has. Keys compare without regard to case. A text always names a key ("1"
 // too), a number a position; this is the one place that tells them apart.
 //
-// Finding by key takes constant time. Positions are kept in blocks, so that finding, inserting and
-// removing in a list of n entries visits about n / 512 blocks and moves at most 512 entries.
+// Finding by key and adding at the end take constant time. Entries are kept in blocks of up to 512,
+// so that finding, inserting and removing elsewhere walks over blocks, not over entries, and moves
+// the entries of one block at most.
 template <class T>
 class KeyedList {
  public:
   // `name` stands in error texts, for example "PDFPages"; a literal.
   explicit KeyedList(const char* name) : name_(name) {}
+  KeyedList(const KeyedList&) = delete;
+  KeyedList& operator=(const KeyedList&) = delete;
 
   std::size_t Count() const { return count_; }
 
@@ -170,6 +173,10 @@ class KeyedList {
   // The place at `position` in a block that is not full.
   Place MakeRoom(std::size_t position) {
     Place place{0, position, position};
+    if (position == count_ && !blocks_.empty()) {
+      place.block = blocks_.size() - 1;
+      place.index = blocks_.back()->entries.size();
+    }
     for (; place.block < blocks_.size(); ++place.block) {
       const std::size_t size = blocks_[place.block]->entries.size();
       if (place.index < size || (place.index == size && size < kBlockSize)) break;

@@ -73,18 +73,22 @@ class MemberList {
  protected:
   explicit MemberList(const char* name) : members_(name) {}
   ~MemberList() = default;
+  MemberList(const MemberList&) = delete;
+  MemberList& operator=(const MemberList&) = delete;
 
   // Takes the member with this key out through `remove`, the collection's own Remove, and puts it
   // back at the place named. Never raises: an unknown key changes nothing.
   // Deliberate: when both places are given, `after` is ignored, unlike in Add; and a member whose
   // new place does not exist stays removed.
-  template <class Remove>
-  void MoveMember(TextView key, const Value& before, const Value& after, Remove remove) noexcept {
+  template <class Before, class After, class Remove>
+  void MoveMember(TextView key, const Before& before, const After& after, Remove remove) noexcept {
     try {
       const Value name(key);
+      const Value beforePlace(before);
+      const Value afterPlace = beforePlace.IsMissing() ? Value(after) : Value();
       std::shared_ptr<T> member = members_.Item(name);
       remove(name);
-      members_.Add(std::move(member), key, before, before.IsMissing() ? after : Value());
+      members_.Add(std::move(member), key, beforePlace, afterPlace);
     } catch (...) {
       return;
     }

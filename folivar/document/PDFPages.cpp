@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "folivar/document/InMember.h"
 #include "folivar/document/Internal.h"
 #include "folivar/document/ObjectNumbers.h"
 #include "folivar/document/PDFDocument.h"
@@ -30,10 +31,6 @@ std::shared_ptr<PDFPage> PDFPages::Add(TextView key, const Value& before, const 
 }
 
 void PDFPages::Remove(const Value& indexOrKey) { members_.Remove(indexOrKey); }
-
-void PDFPages::ReOrder(TextView key, const Value& before, const Value& after) noexcept {
-  MoveMember(key, before, after, [this](const Value& name) { Remove(name); });
-}
 
 void PDFPages::NumberObjects(ObjectNumbers& numbers) {
   treeNodeNumber_ = numbers.Take();

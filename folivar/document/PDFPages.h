@@ -36,7 +36,10 @@ class FOLIVAR_API PDFPages final : public Object, public ObjectWriter, public Me
   // Moves the page with this key to the place named, or to the end. Never raises: an unknown key
   // changes nothing. When both places are given, `after` is ignored; a page whose new place does
   // not exist, counted without the page, stays removed.
-  void ReOrder(TextView key, const Value& before = {}, const Value& after = {}) noexcept;
+  template <class Before = Value, class After = Value>
+  void ReOrder(TextView key, const Before& before = {}, const After& after = {}) noexcept {
+    MoveMember(key, before, after, [this](const Value& name) { Remove(name); });
+  }
 
   // The page tree's object number in the save in progress.
   std::int32_t TreeNodeNumber(const Internal&) const { return treeNodeNumber_; }

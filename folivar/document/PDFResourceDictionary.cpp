@@ -1,8 +1,10 @@
 #include "folivar/document/PDFResourceDictionary.h"
 
+#include <algorithm>
 #include <memory>
 #include <string_view>
 
+#include "folivar/document/Internal.h"
 #include "folivar/document/Object.h"
 #include "folivar/fonts/FaceUser.h"
 #include "folivar/fonts/PDFFontInfo.h"
@@ -10,10 +12,11 @@
 namespace folivar {
 
 void PDFResourceDictionary::AddFontResource(const FaceUser& font) {
-  const std::shared_ptr<PDFFontInfo>& face = font.FontInfo();
-  if (face.get() == latestFace_) return;
+  const std::shared_ptr<PDFFontInfo>& face = font.FontInfo(Internal());
+  if (std::find(faces_.begin(), faces_.end(), face.get()) != faces_.end()) return;
+  faces_.reserve(faces_.size() + 1);
   if (!fonts_.KeyExists(face->m_PDFName)) fonts_.Add(face, face->m_PDFName);
-  latestFace_ = face.get();
+  faces_.push_back(face.get());
 }
 
 void PDFResourceDictionary::BuildResourceText(PDFText& text) const {

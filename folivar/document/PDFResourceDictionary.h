@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "folivar/document/KelCollection.h"
 #include "folivar/document/PDFText.h"
 
@@ -27,9 +29,8 @@ class PDFResourceDictionary {
 
  private:
   KelCollection fonts_;  // PDFFontInfo objects, by resource name
-  // Every text drawn registers its face, and nearly always it is the one that the text before it
-  // used. Held by fonts_.
-  const PDFFontInfo* latestFace_ = nullptr;
+  // The same, held by fonts_: every text drawn registers its face, and nearly always it is here.
+  std::vector<const PDFFontInfo*> faces_;
 };
 
 }  // namespace folivar

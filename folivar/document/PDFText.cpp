@@ -72,7 +72,8 @@ void PDFText::Grow(std::size_t size) {
     throw Error::Overflow("A text of more than 2147483647 bytes does not fit into the file");
   }
   const std::size_t step = size_ < kLargeText ? capacity_ / 2 : capacity_ / 8;
-  const std::size_t capacity = std::max({kFirstCapacity, size_ + size, capacity_ + step});
+  const std::size_t wanted = std::max({kFirstCapacity, size_ + size, capacity_ + step});
+  const std::size_t capacity = std::min(wanted, kLongest);
   auto* data = static_cast<char*>(std::realloc(data_, capacity));
   if (data == nullptr) throw std::bad_alloc();
   data_ = data;

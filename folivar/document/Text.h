@@ -10,6 +10,9 @@
 
 namespace folivar {
 
+template <class T, class Target>
+concept ConvertsTo = std::is_convertible_v<const T&, Target>;
+
 // A text argument: UTF-8 or UTF-16, borrowed for the length of the call. Anything that is a string
 // of char, char8_t or char16_t converts to it. A null pointer is the empty text.
 //
@@ -24,17 +27,14 @@ class FOLIVAR_API TextView {
   TextView(const char8_t* utf8)
       : TextView(utf8 ? std::u8string_view(utf8) : std::u8string_view()) {}
 
-  template <class String>
-  requires std::is_convertible_v<const String&, std::string_view> TextView(const String& utf8)
-      : TextView(std::string_view(utf8)) {}
+  template <ConvertsTo<std::string_view> String>
+  TextView(const String& utf8) : TextView(std::string_view(utf8)) {}
 
-  template <class String>
-  requires std::is_convertible_v<const String&, std::u8string_view> TextView(const String& utf8)
-      : TextView(std::u8string_view(utf8)) {}
+  template <ConvertsTo<std::u8string_view> String>
+  TextView(const String& utf8) : TextView(std::u8string_view(utf8)) {}
 
-  template <class String>
-  requires std::is_convertible_v<const String&, std::u16string_view> TextView(const String& utf16)
-      : TextView(std::u16string_view(utf16)) {}
+  template <ConvertsTo<std::u16string_view> String>
+  TextView(const String& utf16) : TextView(std::u16string_view(utf16)) {}
 
   TextView(std::string_view utf8) : data_(utf8.data()), sizeAndForm_(2 * utf8.size()) {}
   TextView(std::u8string_view utf8) : data_(utf8.data()), sizeAndForm_(2 * utf8.size()) {}

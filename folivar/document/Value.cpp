@@ -18,7 +18,7 @@ std::int32_t Int32From(const Value& value) {
   if (const auto* real = value.As<double>()) {
     const double rounded = RoundHalfToEven(*real);
     if (!(rounded >= Limits::min() && rounded <= Limits::max())) {
-      throw Error::Overflow("The number " + std::to_string(*real) + " does not fit into 32 bits");
+      throw Error::Overflow("The number " + DigitsOf(*real) + " does not fit into 32 bits");
     }
     return static_cast<std::int32_t>(rounded);
   }

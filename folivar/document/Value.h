@@ -15,6 +15,12 @@
 
 namespace folivar {
 
+// A number without a fraction. A flag is none, and neither is a single character.
+template <class T>
+concept WholeNumber = std::integral<T> && !std::same_as<T, bool> && !std::same_as<T, char> &&
+                      !std::same_as<T, wchar_t> && !std::same_as<T, char8_t> &&
+                      !std::same_as<T, char16_t> && !std::same_as<T, char32_t>;
+
 // A value of any kind, as automation hosts pass them: a position or a key, an optional argument, a
 // tag. Value() is Missing, an argument that was left out.
 class FOLIVAR_API Value {
@@ -24,8 +30,8 @@ class FOLIVAR_API Value {
   template <std::same_as<bool> Bool>
   Value(Bool flag) : held_(flag) {}
 
-  template <std::integral Integer>
-  requires(!std::same_as<Integer, bool>) Value(Integer number) {
+  template <WholeNumber Integer>
+  Value(Integer number) {
     if (std::in_range<std::int64_t>(number)) {
       held_ = static_cast<std::int64_t>(number);
     } else {
@@ -36,9 +42,8 @@ class FOLIVAR_API Value {
   template <std::floating_point Real>
   Value(Real number) : held_(static_cast<double>(number)) {}
 
-  template <class String>
-  requires std::is_convertible_v<const String&, TextView> Value(const String& text)
-      : held_(Text(TextView(text))) {}
+  template <ConvertsTo<TextView> String>
+  Value(const String& text) : held_(Text(TextView(text))) {}
 
   template <std::derived_from<Object> T>
   Value(std::shared_ptr<T> object) : held_(std::shared_ptr<Object>(std::move(object))) {}

@@ -3,6 +3,8 @@
 #include <cstdio>
 #include <utility>
 
+#include "folivar/document/Error.h"
+
 namespace folivar {
 namespace {
 
@@ -29,6 +31,7 @@ std::shared_ptr<Warnings> Warnings::ToStandardError() {
 }
 
 std::shared_ptr<Warnings> Warnings::To(std::function<void(const Text& message)> show) {
+  if (!show) throw Error::ObjectNotSet("Warnings::To: no function is given");
   return std::make_shared<FunctionWarnings>(std::move(show));
 }
 

@@ -21,7 +21,7 @@ class FOLIVAR_API Warnings {
   // To standard error, a line each: the default.
   static std::shared_ptr<Warnings> ToStandardError();
   // To a function of the host's. What it throws reaches the caller of the member that warned, which
-  // then has changed nothing.
+  // then has changed nothing. Raises 91 for an empty function.
   static std::shared_ptr<Warnings> To(std::function<void(const Text& message)> show);
 
  protected:

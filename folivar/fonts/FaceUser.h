@@ -4,6 +4,7 @@
 
 namespace folivar {
 
+class Internal;
 class PDFFontInfo;
 class PDFFonts;
 
@@ -11,8 +12,8 @@ class PDFFonts;
 // that the record belongs to.
 class FaceUser {
  public:
-  virtual const std::shared_ptr<PDFFontInfo>& FontInfo() const = 0;
-  virtual const std::weak_ptr<PDFFonts>& Owner() const = 0;
+  virtual const std::shared_ptr<PDFFontInfo>& FontInfo(const Internal&) const = 0;
+  virtual const std::weak_ptr<PDFFonts>& Owner(const Internal&) const = 0;
 
  protected:
   FaceUser() = default;

@@ -3,12 +3,14 @@
 #include <cmath>
 #include <string>
 
+#include "folivar/document/Global.h"
+#include "folivar/document/Internal.h"
 #include "folivar/fonts/FaceUser.h"
 
 namespace folivar {
 namespace {
 
-const PDFFontInfo& FaceOf(const FaceUser& user) { return *user.FontInfo(); }
+const PDFFontInfo& FaceOf(const FaceUser& user) { return *user.FontInfo(Internal()); }
 
 }  // namespace
 
@@ -17,16 +19,16 @@ FontMetrics::FontMetrics(const PDFFont& font) : font_(font), face_(FaceOf(font))
 float FontMetrics::Scaled(float thousandths, float size) {
   const float product = thousandths * size;
   if (!std::isfinite(product)) {
-    throw Error::Overflow("a measure of the font at size " + std::to_string(size) +
+    throw Error::Overflow("a measure of the font at size " + DigitsOf(size) +
                           " is beyond a single");
   }
   return product / 1000;
 }
 
-float FontMetrics::EffectiveSize() const {
-  if (font_.Subscript()) return SubscriptSizePts();
-  if (font_.Superscript()) return SuperscriptSizePts();
-  return font_.Size();
+float FontMetrics::EffectiveSize(float size) const {
+  if (font_.Subscript()) return Scaled(face_.m_SubscriptSize, size);
+  if (font_.Superscript()) return Scaled(face_.m_SuperscriptSize, size);
+  return size;
 }
 
 float FontMetrics::Rise() const {

@@ -26,7 +26,9 @@ class FontMetrics {
   bool IsRaisedOrLowered() const { return font_.Subscript() || font_.Superscript(); }
   // The size that text is shown in: smaller for sub- and superscript. Subscript wins over
   // superscript.
-  float EffectiveSize() const;
+  float EffectiveSize() const { return EffectiveSize(font_.Size()); }
+  // The same for a font of another size.
+  float EffectiveSize(float size) const;
   // How far text is shown above the baseline; below for subscript.
   float Rise() const;
 

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "folivar/document/AnsiText.h"
+#include "folivar/document/InMember.h"
 #include "folivar/document/Internal.h"
 #include "folivar/fonts/FontMetrics.h"
 #include "folivar/fonts/PDFFontInfo.h"
@@ -26,27 +27,34 @@ Text PDFFont::FontFace() const { return face_->m_FontFace; }
 PDFFontType PDFFont::FontType() const { return face_->m_FontType; }
 
 void PDFFont::GetTextExtents(TextView text, float& width, float& height) const {
-  const AnsiText ansi(text);
-  float rawWidth = 0;
-  float rawHeight = 0;
-  face_->MeasureExtents(ansi.Bytes(), rawWidth, rawHeight);
-  const FontMetrics metrics(*this);
-  const float size = metrics.EffectiveSize();
-  const float scaledWidth = FontMetrics::Scaled(rawWidth, size);
-  height = FontMetrics::Scaled(metrics.Rise() + rawHeight, size);
-  width = scaledWidth;
+  InMember("PDFFont.GetTextExtents", [&] {
+    const AnsiText ansi(text);
+    float rawWidth = 0;
+    float rawHeight = 0;
+    face_->MeasureExtents(ansi.Bytes(), rawWidth, rawHeight);
+    const FontMetrics metrics(*this);
+    const float size = metrics.EffectiveSize();
+    const float scaledWidth = FontMetrics::Scaled(rawWidth, size);
+    height = FontMetrics::Scaled(metrics.Rise() + rawHeight, size);
+    width = scaledWidth;
+  });
 }
 
 float PDFFont::TextWidth(TextView text) const {
-  const AnsiText ansi(text);
-  return FontMetrics::Scaled(face_->MeasureWidth(ansi.Bytes()), FontMetrics(*this).EffectiveSize());
+  return InMember("PDFFont.TextWidth", [&] {
+    const AnsiText ansi(text);
+    const float size = FontMetrics(*this).EffectiveSize();
+    return FontMetrics::Scaled(face_->MeasureWidth(ansi.Bytes()), size);
+  });
 }
 
 float PDFFont::TextHeight(std::optional<TextView> text) const {
-  const float height =
-      text ? face_->MeasureHeight(AnsiText(*text).Bytes()) : face_->MeasureHeight();
-  const FontMetrics metrics(*this);
-  return FontMetrics::Scaled(height + metrics.Rise(), metrics.EffectiveSize());
+  return InMember("PDFFont.TextHeight", [&] {
+    const float height =
+        text ? face_->MeasureHeight(AnsiText(*text).Bytes()) : face_->MeasureHeight();
+    const FontMetrics metrics(*this);
+    return FontMetrics::Scaled(height + metrics.Rise(), metrics.EffectiveSize());
+  });
 }
 
 float PDFFont::Ascender() const { return FontMetrics(*this).Ascender(); }

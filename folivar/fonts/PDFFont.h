@@ -70,8 +70,8 @@ class FOLIVAR_API PDFFont final : public Object, public FaceUser {
 
  private:
   // FaceUser
-  const std::shared_ptr<PDFFontInfo>& FontInfo() const override { return face_; }
-  const std::weak_ptr<PDFFonts>& Owner() const override { return owner_; }
+  const std::shared_ptr<PDFFontInfo>& FontInfo(const Internal&) const override { return face_; }
+  const std::weak_ptr<PDFFonts>& Owner(const Internal&) const override { return owner_; }
 
   std::shared_ptr<PDFFontInfo> face_;
   float size_ = 10;

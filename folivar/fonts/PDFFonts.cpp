@@ -7,6 +7,7 @@
 
 #include "folivar/document/CaseFold.h"
 #include "folivar/document/Error.h"
+#include "folivar/document/InMember.h"
 #include "folivar/document/Internal.h"
 #include "folivar/fonts/PDFFont.h"
 #include "folivar/fonts/PDFFontInfo.h"
@@ -60,15 +61,15 @@ PDFFonts::PDFFonts(const Internal&, std::shared_ptr<Warnings> warnings)
 PDFFonts::~PDFFonts() = default;
 
 std::shared_ptr<PDFFont> PDFFonts::Add(TextView faceName, PDFFontType fontType, bool) {
-  if (auto face = FindFaceRecord(faceName, fontType)) return FontOf(std::move(face));
+  const Text name = InMember("PDFFonts.Add", [&] { return Text(faceName); });
+  if (auto face = FindFaceRecord(name, fontType)) return FontOf(std::move(face));
   if (fontType != fontType1) {
-    throw Error::ActionNotSupported("Font '" + Text(faceName).Utf8() +
-                                    "': TrueType fonts are not available");
+    throw Error::ActionNotSupported("Font '" + name.Utf8() + "': TrueType fonts are not available");
   }
-  return FontOf(AddStandardFace(faceName));
+  return FontOf(AddStandardFace(name));
 }
 
-std::shared_ptr<PDFFont> PDFFonts::Item(const Value& indexOrKey, PDFFontType fontType) const {
+std::shared_ptr<PDFFont> PDFFonts::Item(const Value& indexOrKey, PDFFontType fontType) {
   return FontOf(FacesOf(fontType).Item(indexOrKey));
 }
 
@@ -82,7 +83,7 @@ bool PDFFonts::FontExists(TextView faceName, PDFFontType fontType) const {
 
 std::vector<Text> PDFFonts::AvailableFonts(PDFFontType fontType, bool) const {
   std::vector<Text> names;
-  if (fontType != fontType1) return names;
+  if (&FacesOf(fontType) != &type1_) return names;
   names.reserve(kStandardFaceCount);
   for (std::size_t face = 0; face < kStandardFaceCount; ++face) {
     names.emplace_back(StandardFaceName(face));
@@ -106,13 +107,12 @@ std::shared_ptr<PDFFontInfo> PDFFonts::FindFaceRecord(TextView name, PDFFontType
   return faces.KeyExists(name) ? faces.Item(name) : nullptr;
 }
 
-std::shared_ptr<PDFFontInfo> PDFFonts::AddStandardFace(TextView faceName) {
+std::shared_ptr<PDFFontInfo> PDFFonts::AddStandardFace(const Text& faceName) {
   auto standardFace = FindStandardFace(faceName);
   if (!standardFace) {
-    const Text wanted(faceName);
-    standardFace = SubstituteFor(wanted);
+    standardFace = SubstituteFor(faceName);
     const std::string substitute(StandardFaceName(*standardFace));
-    warnings_->Show(Text("WARNING: Font '" + wanted.Utf8() + "' could not be found.  Using '" +
+    warnings_->Show(Text("WARNING: Font '" + faceName.Utf8() + "' could not be found.  Using '" +
                          substitute + "' instead."));
     if (auto face = FindFaceRecord(substitute, fontType1)) return face;
   }
@@ -135,10 +135,8 @@ std::string PDFFonts::NextResourceName() const {
   return "/F" + std::to_string(type1_.Count() + trueType_.Count());
 }
 
-std::shared_ptr<PDFFont> PDFFonts::FontOf(std::shared_ptr<PDFFontInfo> face) const {
-  auto owner = std::static_pointer_cast<const PDFFonts>(shared_from_this());
-  return std::make_shared<PDFFont>(Internal(), std::move(face),
-                                   std::const_pointer_cast<PDFFonts>(owner));
+std::shared_ptr<PDFFont> PDFFonts::FontOf(std::shared_ptr<PDFFontInfo> face) {
+  return std::make_shared<PDFFont>(Internal(), std::move(face), Shared<PDFFonts>());
 }
 
 void PDFFonts::NumberObjects(ObjectNumbers& numbers) {

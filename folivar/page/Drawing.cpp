@@ -1,7 +1,6 @@
 #include "folivar/page/Drawing.h"
 
 #include <cmath>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -98,7 +97,7 @@ struct Box {
 
 // A sum of coordinates must not overflow, even where it is not written.
 void CheckFinite(float sum) {
-  if (!std::isfinite(sum)) throw Error::Overflow("A coordinate is beyond a single");
+  if (!std::isfinite(sum)) throw Error::Overflow("a sum of coordinates is beyond a single");
 }
 
 Box BoxOf(float left, float bottom, float width, float height) {
@@ -128,15 +127,14 @@ float FirstBaseline(const Box& box, const FontMetrics& font, const TextLines& li
   }
 }
 
-float Indent(const Box& box, float lineWidth, PDFHorzTextAlignment alignment) {
-  switch (alignment) {
-    case htaRight:
-      return box.right - lineWidth - box.left;
-    case htaCenter:
-      return (box.right - box.left - lineWidth) / 2;
-    default:
-      return 0;
-  }
+// Deliberate: the size that sub- or superscript is shown in is reduced once more for measuring its
+// lines; existing files are aligned so.
+float Indent(const Box& box, const FontMetrics& font, std::string_view line,
+             PDFHorzTextAlignment alignment) {
+  if (alignment != htaRight && alignment != htaCenter) return 0;
+  const float size = font.EffectiveSize(font.EffectiveSize());
+  const float width = FontMetrics::Scaled(font.Face().MeasureWidth(line), size);
+  return alignment == htaRight ? box.right - width - box.left : (box.right - box.left - width) / 2;
 }
 
 }  // namespace
@@ -185,19 +183,13 @@ void Drawing::DrawTextAligned(TextView text, float left, float bottom, float wid
   const FontMetrics metrics(font);
   const Box box = BoxOf(left, bottom, width, height);
   const float baseline = FirstBaseline(box, metrics, lines, vertAlignment);
-  // Deliberate: the clone keeps its sub- or superscript flag, so lines of such text are measured as
-  // reduced twice.
-  const std::shared_ptr<PDFFont> shown = font.Clone();
-  shown->SetSize(metrics.EffectiveSize());
-  const float shownSize = FontMetrics(*shown).EffectiveSize();
   PDFText& content = surface_.Content();
 
   Operation operation(surface_);
   BeginText(content, metrics, box.left, baseline, lines);
   std::string_view separator;
   for (const std::string_view line : lines) {
-    const float lineWidth = FontMetrics::Scaled(metrics.Face().MeasureWidth(line), shownSize);
-    const float indent = Indent(box, lineWidth, horzAlignment);
+    const float indent = Indent(box, metrics, line, horzAlignment);
     content.Append(separator);
     if (indent == 0) {
       content.Append("(", Escaped{line}, ") Tj\n");

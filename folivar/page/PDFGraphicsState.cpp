@@ -85,7 +85,7 @@ void PDFGraphicsState::Push() {
 }
 
 bool PDFGraphicsState::Pop() {
-  const GRAPHICS_STATE saved = stack_.Peek();
+  const GRAPHICS_STATE saved = InMember("PDFGraphicsState.Pop", [&] { return stack_.Peek(); });
   EmitToOwner(*surface_, "PDFGraphicsState.Pop", "Q\n");
   current_ = saved;
   stack_.Pop();

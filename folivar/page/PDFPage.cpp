@@ -29,7 +29,9 @@ PDFPage::PDFPage(const Internal& internal, std::weak_ptr<PDFPages> parent,
 }
 
 std::shared_ptr<PDFFont> PDFPage::Font() const { return surface_->Font(); }
-void PDFPage::SetFont(std::shared_ptr<PDFFont> font) { surface_->SetFont(std::move(font)); }
+void PDFPage::SetFont(std::shared_ptr<PDFFont> font) {
+  InMember("PDFPage.Font", [&] { surface_->SetFont(std::move(font)); });
+}
 
 std::shared_ptr<PDFDocument> PDFPage::ParentDocument() const {
   if (auto document = document_.lock()) return document;

@@ -22,7 +22,7 @@ class Stack {
   }
 
   const T& Peek() const {
-    if (values_.empty()) throw Error::SubscriptOutOfRange("Pop without Push: the stack is empty");
+    if (values_.empty()) throw Error::SubscriptOutOfRange("the stack is empty");
     return values_.back();
   }
 

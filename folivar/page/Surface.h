@@ -17,11 +17,12 @@ class Surface {
   void SetFont(std::shared_ptr<PDFFont> font);
   const std::shared_ptr<PDFFont>& Font() const { return font_; }
 
-  // The only way that content enters the stream: all parts or, when one cannot be written, none.
+  // Appends one piece: all parts or, when one cannot be written, none.
   template <class... Parts>
   void AppendContent(const Parts&... parts) {
     content_.Append(parts...);
   }
+  // For operations of several pieces, and for the save.
   PDFText& Content() { return content_; }
 
   PDFResourceDictionary& ResourceDictionary() { return resources_; }

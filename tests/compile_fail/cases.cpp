@@ -1,7 +1,10 @@
-// What a host must not be able to write; one case at a time, chosen by the build.
+// What must not compile; one case at a time, chosen by the build.
 
 #if defined(CASE_IncludeInternalHeader)
 #include <folivar/document/SaveFile.h>
+#elif defined(CASE_AppendNothingWrong) || defined(CASE_AppendFloat) || \
+    defined(CASE_AppendBool) || defined(CASE_AppendCharacter)
+#include <folivar/document/PDFText.h>
 #endif
 #include <folivar/folivar.h>
 
@@ -26,5 +29,18 @@ void Host(folivar::PDFPage& page, [[maybe_unused]] folivar::ObjectNumbers& numbe
   folivar::Internal internal;
 #elif defined(CASE_InternalFromBraces)
   page.ObjectNumber({});
+#elif defined(CASE_FaceOfAFont)
+  folivar::FaceUser& user = *page.Font();
+  user.FontInfo({});
+#elif defined(CASE_CharacterAsKey)
+  page.SetTag('a');
+#elif defined(CASE_AppendNothingWrong)
+  folivar::PDFText().Append("1 ", folivar::Real{1.5F}, 7, folivar::Reference{7});
+#elif defined(CASE_AppendFloat)
+  folivar::PDFText().Append(1.5F);
+#elif defined(CASE_AppendBool)
+  folivar::PDFText().Append(true);
+#elif defined(CASE_AppendCharacter)
+  folivar::PDFText().Append('a');
 #endif
 }

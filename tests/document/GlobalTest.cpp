@@ -287,6 +287,10 @@ TEST(FileExists, IsFalseForWhatIsNoPath) {
   EXPECT_FALSE(FileExists(OutputPath("no-such-folder/file").u8string()));
 }
 
+TEST(CeilDiv, Raises6ForAQuotientThatDoesNotFit) {
+  EXPECT_EQ(ErrorNumberOf([] { CeilDiv(std::numeric_limits<std::int64_t>::min(), -1); }), 6);
+}
+
 TEST(CeilDiv, IsTheQuotientRoundedUp) {
   EXPECT_EQ(CeilDiv(0, 8), 0);
   EXPECT_EQ(CeilDiv(1, 8), 1);

@@ -262,6 +262,26 @@ TEST(KeyedList, DoesWhatANaiveListDoes) {
   }
 }
 
+// Where one block becomes two, at every place of it.
+TEST(KeyedList, InsertsAnywhereIntoAFullBlock) {
+  constexpr int kBlock = 512;
+  for (int place = 1; place <= kBlock; ++place) {
+    List list("list");
+    Items expected;
+    for (int i = 0; i < kBlock; ++i) {
+      Add(list, i);
+      expected.push_back(i);
+    }
+    Add(list, -1, "new", place);
+    expected.insert(expected.begin() + (place - 1), -1);
+    ASSERT_EQ(ItemsOf(list), expected) << place;
+    ASSERT_EQ(*list.Item(place), -1);
+    ASSERT_EQ(*list.Remove("new"), -1);
+    expected.erase(expected.begin() + (place - 1));
+    ASSERT_EQ(ItemsOf(list), expected) << place;
+  }
+}
+
 // Every way to fill many blocks: at the end, at the front, and each time behind the first.
 TEST(KeyedList, KeepsTheOrderOfManyEntries) {
   constexpr int kCount = 20'000;

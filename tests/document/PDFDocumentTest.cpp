@@ -79,6 +79,99 @@ TEST(PDFDocument, Drawing) {
   ExpectGolden("drawing.pdf", saved.bytes);
 }
 
+// Pages of their own sizes and faces, with and without a clip box; one is taken out, one moved.
+TEST(PDFDocument, Pages) {
+  const auto document = PDFDocument::Create();
+  const auto pages = document->Pages();
+  const auto fonts = document->Fonts();
+  pages->Add("letter")->DrawText("Letter", 72, 700);
+  const auto a4 = pages->Add("a4");
+  a4->SetPageExtents(595.276F, 841.89F);
+  a4->SetClipBox(10, 20.5F, 500, 800);
+  a4->SetFont(fonts->Add("Times-Italic"));
+  a4->DrawText("A4, with a clip box", 72, 700);
+  pages->Add("removed")->DrawText("removed", 72, 700);
+  const auto wide = pages->Add("wide", "letter");
+  wide->SetPageExtents(1000, 300);
+  wide->SetFont(fonts->Add("arial-Bold"));
+  wide->SetFont(fonts->Add("Symbol"));
+  wide->DrawText("abc", 72, 200);
+  wide->SetFont(fonts->Add("Courier-BoldOblique"));
+  wide->DrawText("Courier", 72, 150);
+  pages->Remove("removed");
+  pages->ReOrder("a4", 1);
+  const SavedDocument saved = Save(*document, "pages.pdf");
+  ExpectGolden("pages.pdf", saved.bytes);
+}
+
+// Every way to place and decorate text, each in a frame.
+TEST(PDFDocument, Text) {
+  const auto document = PDFDocument::Create();
+  const auto page = document->Pages()->Add();
+  const auto font = document->Fonts()->Add("Times-Roman");
+  page->SetFont(font);
+  for (int column = htaLeft; column <= htaCenter; ++column) {
+    for (int row = vtaBaseline; row <= vtaCenter; ++row) {
+      const auto left = static_cast<float>(50 + 180 * column);
+      const auto bottom = static_cast<float>(680 - 90 * row);
+      page->DrawRect(left, bottom, 150, 70);
+      page->DrawTextAligned("First line\r\n(second), longer", left, bottom, 150, 70,
+                            static_cast<PDFHorzTextAlignment>(column),
+                            static_cast<PDFVertTextAlignment>(row));
+    }
+  }
+  float bottom = 340;
+  for (int decoration = 0; decoration < 16; ++decoration) {
+    font->SetUnderline((decoration & 1) != 0);
+    font->SetStrikeOut((decoration & 2) != 0);
+    font->SetSubscript((decoration & 4) != 0);
+    font->SetSuperscript((decoration & 8) != 0);
+    page->DrawText("Text \\ (decorated)\nin two lines", 50, bottom);
+    page->DrawTextAligned("aligned", 200, bottom, 100, -10, htaRight, vtaTop);
+    bottom -= 20;
+  }
+  const SavedDocument saved = Save(*document, "text.pdf");
+  ExpectGolden("text.pdf", saved.bytes);
+}
+
+TEST(PDFDocument, GraphicsState) {
+  const auto document = PDFDocument::Create();
+  const auto page = document->Pages()->Add();
+  const auto state = page->GraphicsState();
+  const auto square = [&](float left, float bottom) {
+    page->DrawRect(left, bottom, 50, 50, true, true);
+  };
+  state->SetFillColor(0x3399FF);
+  state->SetStrokeColor(0x993300);
+  state->SetLineWidth(4);
+  square(50, 700);
+  state->SetLineDashPattern(8, 4.5F);
+  square(150, 700);
+  state->SetFillGrayColor(0.9F);
+  state->SetStrokeGrayColor(0.3F);
+  square(250, 700);
+  state->SetLineDashPattern(1, 0);
+  state->Push();
+  state->Translate(350, 700);
+  state->Rotate(30);
+  square(0, 0);
+  state->Pop();
+  state->Push();
+  state->Translate(50, 600);
+  state->ScaleXY(1.5F, 0.75F);
+  square(0, 0);
+  state->Push();
+  state->Translate(100, 0);
+  state->Skew(20, -10);
+  square(0, 0);
+  state->Pop();
+  state->Pop();
+  state->SetTransformationMatrix(0.5F, 0.25F, -0.25F, 0.5F, 350, 600);
+  square(0, 0);
+  const SavedDocument saved = Save(*document, "graphics-state.pdf");
+  ExpectGolden("graphics-state.pdf", saved.bytes);
+}
+
 TEST(PDFDocument, SavesTheSameBytesAgain) {
   const auto document = PDFDocument::Create();
   document->Pages()->Add()->DrawText("again", 72, 700);

@@ -151,6 +151,12 @@ TEST_F(PDFPagesOfThree, DeliberateReOrderToAPlaceThatDoesNotExistRemovesThePage)
   EXPECT_EQ(page->Key(), "a");
 }
 
+TEST_F(PDFPagesOfThree, ReOrderToAPlaceThatIsNoTextChangesNothing) {
+  pages_->ReOrder("a", "\xFF");
+  pages_->ReOrder("a", {}, "\xFF");
+  EXPECT_EQ(KeysOf(*pages_), "abc");
+}
+
 TEST_F(PDFPagesOfThree, AWalkSeesThePagesAsTheyWereWhenItBegan) {
   std::string seen;
   for (const auto& page : *pages_) {

@@ -10,6 +10,7 @@
 
 #include "folivar/document/Warnings.h"
 #include "folivar/folivar.h"
+#include "tests/support/Content.h"
 #include "tests/support/TestFiles.h"
 
 namespace folivar::test {
@@ -35,6 +36,10 @@ class StandardErrorToFile {
  private:
   int saved_;
 };
+
+TEST(Warnings, Raises91ForAFunctionThatIsNone) {
+  EXPECT_EQ(ErrorNumberOf([] { Warnings::To({}); }), 91);
+}
 
 TEST(Warnings, GoToTheHostsFunction) {
   std::vector<std::string> shown;

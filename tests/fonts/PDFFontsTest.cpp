@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "folivar/document/Internal.h"
 #include "folivar/folivar.h"
 #include "folivar/fonts/PDFFontInfo.h"
 #include "folivar/fonts/PDFFonts.h"
@@ -16,7 +17,7 @@
 namespace folivar::test {
 namespace {
 
-const PDFFontInfo* RecordOf(const FaceUser& font) { return font.FontInfo().get(); }
+const PDFFontInfo* RecordOf(const FaceUser& font) { return font.FontInfo(Internal()).get(); }
 
 class PDFFontsOfADocument : public testing::Test {
  protected:

@@ -231,14 +231,23 @@ TEST(DrawTextAligned, UnknownHorizontalAlignmentShiftsNothing) {
 }
 
 // Deliberate: lines of sub- and superscript are measured as reduced twice: 6.67 * 0.65 * 0.65; the
-// vertical place is that of the full size.
-TEST(DrawTextAligned, DeliberateSubscriptIsMeasuredAsReducedTwice) {
+// vertical place is that of the full size, 7.18 below the top.
+TEST(DrawTextAligned, DeliberateSubscriptIsMeasuredAsReducedTwiceAndPlacedInFullSize) {
   EXPECT_EQ(
       ContentAfter([](PDFPage& page) {
         Decorated(page)->SetSubscript(true);
         page.DrawTextAligned("A", 0, 20, 100, 50, htaRight, vtaTop);
       }),
       "BT\n/F0 6.5  Tf\n0  62.82  Td\n-1  Ts\n97.1819  0 Td\n(A) Tj\n-97.1819  0 Td\n0 Ts\nET\n");
+}
+
+TEST(DrawTextAligned, LeftAlignedTextIsNotMeasured) {
+  EXPECT_NE(ContentAfter([](PDFPage& page) {
+              // Each line is wider than a single can hold at this size; nobody asks for its width.
+              Decorated(page)->SetSize(1e9F);
+              page.DrawTextAligned(std::string(1000, 'W').append("e30"), 0, 0, 10, 10);
+            }).find("/F0 1000000000  Tf\n0  0  Td\n(WWW"),
+            std::string::npos);
 }
 
 TEST(DrawTextAligned, DrawsNoDecorations) {
@@ -295,7 +304,8 @@ TEST(SetCurPos, AppendsNothingAndIsRead) {
             "");
 }
 
-TEST(DrawRect, PaintsAsAsked) {
+// Deliberate: the "m" before "re" and the "n" after "f" change nothing.
+TEST(DrawRect, DeliberateMoveBeforeTheRectangleAndEndAfterFilling) {
   const auto paint = [](bool stroke, bool fill) {
     const std::string content =
         ContentAfter([&](PDFPage& page) { page.DrawRect(1, 2, 30, 40, stroke, fill); });

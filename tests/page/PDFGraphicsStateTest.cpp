@@ -148,8 +148,19 @@ TEST(PDFGraphicsState, DeliberatePushEmptiesWhatTheGettersReport) {
             "4  w\n0.0275 0 0 rg\nq\n9  w\nQ\n");
 }
 
+TEST(PDFGraphicsState, DeliberatePopAnswersFalse) {
+  After([](PDFGraphicsState& state) {
+    state.Push();
+    state.Push();
+    EXPECT_FALSE(state.Pop());
+    EXPECT_FALSE(state.Pop());
+  });
+}
+
 TEST(PDFGraphicsState, PopWithoutPushRaisesAndAppendsNothing) {
   EXPECT_EQ(After([](PDFGraphicsState& state) {
+              EXPECT_EQ(ErrorTextOf([&] { state.Pop(); }),
+                        "PDFGraphicsState.Pop: the stack is empty");
               EXPECT_EQ(ErrorNumberOf([&] { state.Pop(); }), 9);
               state.Push();
               state.Pop();

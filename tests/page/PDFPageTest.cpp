@@ -94,7 +94,7 @@ TEST(PDFPage, FontOfAnotherDocumentIsRefused) {
   const auto page = document->Pages()->Add();
   const auto font = page->Font();
   EXPECT_EQ(ErrorTextOf([&] { page->SetFont(other->Fonts()->Add("Courier")); }),
-            "Font 'Courier' belongs to another document");
+            "PDFPage.Font: Font 'Courier' belongs to another document");
   EXPECT_EQ(page->Font(), font);
 }
 
