@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "folivar/document/Utf8.h"
-#include "folivar/document/WordScan.h"
 
 namespace folivar {
 namespace {
@@ -40,8 +39,6 @@ constexpr auto kWindows1252 = std::to_array<std::pair<char16_t, unsigned char>>(
     {0x2122, 0x99},  // trade mark
 });
 
-bool IsAscii(std::string_view bytes) { return !AnyWord(bytes, wordscan::HasHighByte); }
-
 }  // namespace
 
 char AnsiByte(char16_t unit) {
@@ -53,12 +50,10 @@ char AnsiByte(char16_t unit) {
   return static_cast<char>(found->second);
 }
 
-AnsiText::AnsiText(TextView text) {
+AnsiText::AnsiText(TextView text) : bytes_(text.Utf8()), traits_(TraitsOf(bytes_)) {
   if (text.IsUtf16()) {
     Convert(text.Utf16());
-  } else if (IsAscii(text.Utf8())) {
-    bytes_ = text.Utf8();
-  } else {
+  } else if (traits_.hasHighBytes) {
     Convert(Utf16FromUtf8(text.Utf8()));
   }
 }
@@ -71,6 +66,7 @@ void AnsiText::Convert(std::u16string_view units) {
   }
   std::transform(units.begin(), units.end(), out, AnsiByte);
   bytes_ = std::string_view(out, units.size());
+  traits_ = TraitsOf(bytes_);
 }
 
 }  // namespace folivar

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "folivar/document/ByteTraits.h"
 #include "folivar/document/Text.h"
 
 namespace folivar {
@@ -23,11 +24,13 @@ class AnsiText {
   AnsiText& operator=(const AnsiText&) = delete;
 
   std::string_view Bytes() const { return bytes_; }
+  const ByteTraits& Traits() const { return traits_; }
 
  private:
   void Convert(std::u16string_view units);
 
   std::string_view bytes_;
+  ByteTraits traits_;
   std::array<char, 256> short_;  // a line of text needs no allocation
   std::string long_;
 };

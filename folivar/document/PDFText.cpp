@@ -6,7 +6,6 @@
 #include <new>
 
 #include "folivar/document/Error.h"
-#include "folivar/document/WordScan.h"
 
 namespace folivar {
 namespace {
@@ -19,11 +18,6 @@ constexpr std::size_t kFirstCapacity = 256;
 constexpr std::size_t kLargeText = 4096;
 
 bool NeedsEscape(char byte) { return byte == '\\' || byte == '(' || byte == ')'; }
-
-std::uint64_t HasEscape(std::uint64_t word) {
-  using wordscan::HasByte;
-  return HasByte(word, '\\') | HasByte(word, '(') | HasByte(word, ')');
-}
 
 // The texts of all colour shares, each in a word of its own. A byte divided by 255 is never near a
 // half of the last decimal, so that rounding needs no care.
@@ -80,28 +74,19 @@ void PDFText::Grow(std::size_t size) {
   capacity_ = capacity;
 }
 
-std::size_t PDFText::SizeBound(Escaped text) {
+std::size_t PDFText::SizeBound(const Escaped& text) {
+  if (text.isPlain) return text.bytes.size();
   // Room for a backslash before every byte, unless that would be much.
   if (text.bytes.size() <= kLargeText) return 2 * text.bytes.size();
   return text.bytes.size() +
          static_cast<std::size_t>(std::count_if(text.bytes.begin(), text.bytes.end(), NeedsEscape));
 }
 
-char* PDFText::Put(char* out, Escaped text) {
-  const char* in = text.bytes.data();
-  const char* const end = in + text.bytes.size();
-  while (in != end) {
-    // Eight bytes at once as long as none of them is special.
-    for (; end - in >= 8; in += 8, out += 8) {
-      const std::uint64_t word = wordscan::Load(in);
-      if (HasEscape(word) != 0) break;
-      std::memcpy(out, &word, sizeof word);
-    }
-    const char* const next = in + std::min<std::ptrdiff_t>(8, end - in);
-    for (; in != next; ++in) {
-      if (NeedsEscape(*in)) *out++ = '\\';
-      *out++ = *in;
-    }
+char* PDFText::Put(char* out, const Escaped& text) {
+  if (text.isPlain) return Put(out, text.bytes);
+  for (const char byte : text.bytes) {
+    if (NeedsEscape(byte)) *out++ = '\\';
+    *out++ = byte;
   }
   return out;
 }

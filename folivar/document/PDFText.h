@@ -50,6 +50,7 @@ struct TenDigits {
 // Bytes inside a literal string, with \, ( and ) escaped: Escaped{"a(b)"} is "a\(b\)".
 struct Escaped {
   std::string_view bytes;
+  bool isPlain = false;  // known to hold none of them
 };
 
 // PDF syntax under construction: a growing run of bytes, and the only way that numbers reach them.
@@ -93,7 +94,7 @@ class PDFText {
   static std::size_t SizeBound(ColorShare) { return kLongestColorShare; }
   static std::size_t SizeBound(Reference) { return kLongestInteger + 4; }
   static std::size_t SizeBound(TenDigits) { return 10; }
-  static std::size_t SizeBound(Escaped text);
+  static std::size_t SizeBound(const Escaped& text);
   template <std::integral Integer>
   static std::size_t SizeBound(Integer) {
     static_assert(!std::same_as<Integer, bool> && !std::same_as<Integer, char>);
@@ -116,7 +117,7 @@ class PDFText {
     return Put(Put(out, reference.objectNumber), " 0 R");
   }
   static char* Put(char* out, TenDigits number) { return WriteTenDigits(out, number.value); }
-  static char* Put(char* out, Escaped text);
+  static char* Put(char* out, const Escaped& text);
   template <std::integral Integer>
   static char* Put(char* out, Integer number) {
     if (std::cmp_less(number, 0)) {

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "folivar/document/ByteTraits.h"
 #include "folivar/document/Error.h"
 
 namespace folivar {
@@ -66,6 +67,7 @@ void AppendUtf8(std::string& bytes, char32_t character) {
 }  // namespace
 
 std::u16string Utf16FromUtf8(std::string_view utf8) {
+  if (!TraitsOf(utf8).hasHighBytes) return {utf8.begin(), utf8.end()};
   std::u16string units;
   units.reserve(utf8.size());
   for (std::size_t position = 0; position < utf8.size();) {

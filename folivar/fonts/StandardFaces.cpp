@@ -1,5 +1,6 @@
 #include "folivar/fonts/StandardFaces.h"
 
+#include <algorithm>
 #include <array>
 #include <mutex>
 #include <string>
@@ -14,6 +15,13 @@ struct Cached {
   AfmMetrics metrics;
 };
 
+// Whether `folded` is this name, which is ASCII, with its case folded.
+bool IsFolded(std::u16string_view folded, std::string_view name) {
+  return std::equal(
+      folded.begin(), folded.end(), name.begin(), name.end(),
+      [](char16_t unit, char letter) { return unit == FoldCase(static_cast<char16_t>(letter)); });
+}
+
 AfmMetrics ReadFace(const StandardFaceFile& file) {
   std::string text;
   for (std::size_t i = 0; i < file.pieceCount; ++i) text += file.pieces[i];
@@ -27,7 +35,7 @@ std::string_view StandardFaceName(std::size_t face) { return kStandardFaceFiles[
 std::optional<std::size_t> FindStandardFace(TextView name) {
   const std::u16string wanted = FoldCase(name);
   for (std::size_t face = 0; face < kStandardFaceCount; ++face) {
-    if (FoldCase(StandardFaceName(face)) == wanted) return face;
+    if (IsFolded(wanted, StandardFaceName(face))) return face;
   }
   return std::nullopt;
 }

@@ -149,7 +149,8 @@ float Indent(const Box& box, const FontMetrics& font, std::string_view line,
 void Drawing::DrawText(TextView text, float x, float y) {
   const PDFFont& font = *surface_.Font();
   const AnsiText ansi(text);
-  const TextLines lines(ansi.Bytes());
+  const TextLines lines(ansi.Bytes(), ansi.Traits().hasControls);
+  const bool isPlain = !ansi.Traits().hasEscapes;
   const FontMetrics metrics(font);
   PDFText& content = surface_.Content();
 
@@ -157,7 +158,7 @@ void Drawing::DrawText(TextView text, float x, float y) {
   BeginText(content, metrics, x, y, lines);
   std::string_view separator;
   for (const std::string_view line : lines) {
-    content.Append(separator, "(", Escaped{line}, ") Tj\n");
+    content.Append(separator, "(", Escaped{line, isPlain}, ") Tj\n");
     separator = "T*\n";
   }
   EndText(content, metrics);
@@ -179,7 +180,8 @@ void Drawing::DrawTextAligned(TextView text, float left, float bottom, float wid
   const AnsiText ansi(text);
   if (ansi.Bytes().empty()) return;
   const PDFFont& font = *surface_.Font();
-  const TextLines lines(ansi.Bytes());
+  const TextLines lines(ansi.Bytes(), ansi.Traits().hasControls);
+  const bool isPlain = !ansi.Traits().hasEscapes;
   const FontMetrics metrics(font);
   const Box box = BoxOf(left, bottom, width, height);
   const float baseline = FirstBaseline(box, metrics, lines, vertAlignment);
@@ -192,9 +194,10 @@ void Drawing::DrawTextAligned(TextView text, float left, float bottom, float wid
     const float indent = Indent(box, metrics, line, horzAlignment);
     content.Append(separator);
     if (indent == 0) {
-      content.Append("(", Escaped{line}, ") Tj\n");
+      content.Append("(", Escaped{line, isPlain}, ") Tj\n");
     } else {
-      content.Append(Real{indent}, " 0 Td\n(", Escaped{line}, ") Tj\n", Real{-indent}, " 0 Td\n");
+      content.Append(Real{indent}, " 0 Td\n(", Escaped{line, isPlain}, ") Tj\n", Real{-indent},
+                     " 0 Td\n");
     }
     separator = "T*\n";
   }

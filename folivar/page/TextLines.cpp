@@ -1,16 +1,11 @@
 #include "folivar/page/TextLines.h"
 
 #include <algorithm>
-#include <cstdint>
-
-#include "folivar/document/WordScan.h"
 
 namespace folivar {
 namespace {
 
 bool IsLineEnd(char byte) { return byte == '\n' || byte == '\r'; }
-
-std::uint64_t HasControlCharacter(std::uint64_t word) { return wordscan::HasByteBelow(word, ' '); }
 
 std::size_t LengthOfLine(std::string_view bytes) {
   return static_cast<std::size_t>(std::find_if(bytes.begin(), bytes.end(), IsLineEnd) -
@@ -19,8 +14,9 @@ std::size_t LengthOfLine(std::string_view bytes) {
 
 }  // namespace
 
-TextLines::TextLines(std::string_view bytes) : bytes_(bytes), firstLength_(bytes.size()) {
-  if (!AnyWord(bytes, HasControlCharacter)) return;
+TextLines::TextLines(std::string_view bytes, bool mayHaveLineEnds)
+    : bytes_(bytes), firstLength_(bytes.size()) {
+  if (!mayHaveLineEnds) return;
   firstLength_ = LengthOfLine(bytes);
   count_ = 0;
   for (auto line = begin(); line != end(); ++line) ++count_;
@@ -30,7 +26,7 @@ TextLines::Iterator& TextLines::Iterator::operator++() {
   isEnd_ = length_ == rest_.size();
   rest_.remove_prefix(length_);
   if (!isEnd_) rest_.remove_prefix(rest_.starts_with("\r\n") ? 2 : 1);
-  length_ = LengthOfLine(rest_);
+  length_ = isEnd_ ? 0 : LengthOfLine(rest_);
   return *this;
 }
 

@@ -26,7 +26,7 @@ class TextLines {
     bool isEnd_;
   };
 
-  explicit TextLines(std::string_view bytes);
+  explicit TextLines(std::string_view bytes, bool mayHaveLineEnds = true);
 
   std::size_t Count() const { return count_; }
   std::string_view First() const { return bytes_.substr(0, firstLength_); }
