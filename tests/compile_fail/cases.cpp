@@ -2,8 +2,8 @@
 
 #if defined(CASE_IncludeInternalHeader)
 #include <folivar/document/SaveFile.h>
-#elif defined(CASE_AppendNothingWrong) || defined(CASE_AppendFloat) || \
-    defined(CASE_AppendBool) || defined(CASE_AppendCharacter)
+#elif defined(CASE_AppendNothingWrong) || defined(CASE_AppendFloat) || defined(CASE_AppendBool) || \
+    defined(CASE_AppendCharacter)
 #include <folivar/document/PDFText.h>
 #endif
 #include <folivar/folivar.h>
