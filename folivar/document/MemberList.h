@@ -49,6 +49,9 @@ class MemberList {
     std::size_t next_ = 0;
   };
 
+  MemberList(const MemberList&) = delete;
+  MemberList& operator=(const MemberList&) = delete;
+
   // The member at a position (a number, 1 to count(), halves rounded to even) or with a key (a
   // text, compared without regard to case). Raises 5 for an unknown key, 9 for a position outside
   // the collection, 13 for what is neither, 94 for Null, 6 for a number beyond 32 bits.
@@ -73,8 +76,6 @@ class MemberList {
  protected:
   explicit MemberList(const char* name) : members_(name) {}
   ~MemberList() = default;
-  MemberList(const MemberList&) = delete;
-  MemberList& operator=(const MemberList&) = delete;
 
   // Takes the member with this key out through `remove`, the collection's own Remove, and puts it
   // back at the place named. Never raises: an unknown key changes nothing.

@@ -1,6 +1,5 @@
 #include "folivar/document/PDFResourceDictionary.h"
 
-#include <algorithm>
 #include <memory>
 #include <string_view>
 
@@ -13,7 +12,7 @@ namespace folivar {
 
 void PDFResourceDictionary::AddFontResource(const FaceUser& font) {
   const std::shared_ptr<PDFFontInfo>& face = font.FontInfo(Internal());
-  if (std::find(faces_.begin(), faces_.end(), face.get()) != faces_.end()) return;
+  if (HasFace(*face)) return;
   faces_.reserve(faces_.size() + 1);
   if (!fonts_.KeyExists(face->m_PDFName)) fonts_.Add(face, face->m_PDFName);
   faces_.push_back(face.get());

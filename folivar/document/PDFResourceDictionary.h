@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <vector>
 
 #include "folivar/document/KelCollection.h"
@@ -16,6 +17,10 @@ class PDFResourceDictionary {
  public:
   // Lists the font's face under its resource name; doing so again is harmless.
   void AddFontResource(const FaceUser& font);
+  // Whether that has been done: every text drawn asks.
+  bool HasFace(const PDFFontInfo& face) const {
+    return std::find(faces_.begin(), faces_.end(), &face) != faces_.end();
+  }
 
   // Appends the "/Resources" value, with the object numbers of the save in progress:
   //
@@ -28,9 +33,8 @@ class PDFResourceDictionary {
   void BuildResourceText(PDFText& text) const;
 
  private:
-  KelCollection fonts_;  // PDFFontInfo objects, by resource name
-  // The same, held by fonts_: every text drawn registers its face, and nearly always it is here.
-  std::vector<const PDFFontInfo*> faces_;
+  KelCollection fonts_;                    // PDFFontInfo objects, by resource name
+  std::vector<const PDFFontInfo*> faces_;  // the same, held by fonts_
 };
 
 }  // namespace folivar

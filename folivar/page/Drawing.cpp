@@ -38,6 +38,13 @@ class Operation {
   bool isComplete_ = false;
 };
 
+// A content stream never names a face that its page does not list: the font's face may have changed
+// since it became current.
+void RegisterFace(Surface& surface, const PDFFont& font, const FontMetrics& metrics) {
+  PDFResourceDictionary& resources = surface.ResourceDictionary();
+  if (!resources.HasFace(metrics.Face())) resources.AddFontResource(font);
+}
+
 // Everything in a text object before its first line:
 //
 //   BT
@@ -163,7 +170,7 @@ void Drawing::DrawText(TextView text, float x, float y) {
   }
   EndText(content, metrics);
   Decorate(*this, content, font, lines, x, y);
-  surface_.ResourceDictionary().AddFontResource(font);
+  RegisterFace(surface_, font, metrics);
   operation.Complete();
 }
 
@@ -202,7 +209,7 @@ void Drawing::DrawTextAligned(TextView text, float left, float bottom, float wid
     separator = "T*\n";
   }
   EndText(content, metrics);
-  surface_.ResourceDictionary().AddFontResource(font);
+  RegisterFace(surface_, font, metrics);
   operation.Complete();
 }
 
