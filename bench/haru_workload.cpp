@@ -3,6 +3,7 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <type_traits>
 
 #include "Workload.h"
@@ -25,8 +26,8 @@ float Share(std::uint8_t component) { return static_cast<float>(component) / 255
 // as the library allows.
 class Document {
  public:
-  explicit Document(const std::string& path)
-      : path_(path), document_(Check(HPDF_New(nullptr, nullptr))) {
+  explicit Document(std::string path)
+      : path_(std::move(path)), document_(Check(HPDF_New(nullptr, nullptr))) {
     Check(HPDF_SetCompressionMode(document_.get(), HPDF_COMP_NONE));
     font_ = Check(HPDF_GetFont(document_.get(), "Helvetica", nullptr));
   }
