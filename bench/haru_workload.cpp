@@ -3,8 +3,8 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
-#include <utility>
 #include <type_traits>
+#include <utility>
 
 #include "Workload.h"
 

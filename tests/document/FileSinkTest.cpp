@@ -85,7 +85,7 @@ TEST(FileSink, CutsAnExistingFileToLength0) {
 }
 
 TEST(FileSink, TakesANameInUtf8AndInUtf16) {
-  const auto path = OutputPath("\u00E9\u20AC\U0001F600 name.pdf");
+  const auto path = OutputPath("\u00E9\u20AC\U0001F600 name.bin");
   WriteThroughSink(path.string());
   EXPECT_EQ(ReadBytes(path), "bytes");
   std::filesystem::remove(path);
@@ -95,10 +95,10 @@ TEST(FileSink, TakesANameInUtf8AndInUtf16) {
 }
 
 TEST(FileSink, TakesANameRelativeToTheWorkingFolder) {
-  const auto path = OutputPath("relative.pdf");
+  const auto path = OutputPath("relative.bin");
   const auto before = std::filesystem::current_path();
   std::filesystem::current_path(path.parent_path());
-  WriteThroughSink("relative.pdf");
+  WriteThroughSink("relative.bin");
   std::filesystem::current_path(before);
   EXPECT_EQ(ReadBytes(path), "bytes");
 }
@@ -182,7 +182,7 @@ TEST(FileSink, AFailureLeavesNoFileOpen) {
 TEST(FileSink, ANumberThatCannotBeWrittenEndsTheSaveAndClosesTheFile) {
   const auto document = PDFDocument::Create();
   document->Pages()->Add()->SetWidth(3e9F);
-  const auto path = OutputPath("file.pdf");
+  const auto path = OutputPath("file.bin");
   const std::size_t before = OpenFiles();
   EXPECT_EQ(ErrorNumberOf([&] { document->SavePDFFile(path.u8string()); }), 6);
   EXPECT_EQ(OpenFiles(), before);

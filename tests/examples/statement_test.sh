@@ -177,11 +177,11 @@ fails_with() {
 refuses() {
   printf '%b' "$3" >bad.csv
   rm -f none.pdf
-  echo "an older file" >stale.pdf
+  echo "an older file" >stale
   check "$1: one line, exit code 1" fails_with "$2" "$statement" bad.csv none.pdf
   check "$1: no PDF" test ! -e none.pdf
-  check "$1: again over an older PDF" fails_with "$2" "$statement" bad.csv stale.pdf
-  check "$1: the older PDF is kept" same "$(cat stale.pdf)" "an older file"
+  check "$1: again over an older PDF" fails_with "$2" "$statement" bad.csv stale
+  check "$1: the older PDF is kept" same "$(cat stale)" "an older file"
 }
 
 ### The first program

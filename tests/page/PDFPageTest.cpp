@@ -114,8 +114,8 @@ TEST(PDFPage, SizeThatCannotBeWrittenFailsTheSaveAndNamesThePage) {
   const auto document = PDFDocument::Create();
   const auto page = document->Pages()->Add("cover");
   page->SetWidth(std::numeric_limits<float>::infinity());
-  EXPECT_EQ(ErrorNumberOf([&] { Save(*document, "broken.pdf"); }), 6);
-  EXPECT_EQ(ErrorTextOf([&] { Save(*document, "broken.pdf"); }),
+  EXPECT_EQ(ErrorNumberOf([&] { Save(*document, "broken"); }), 6);
+  EXPECT_EQ(ErrorTextOf([&] { Save(*document, "broken"); }),
             "The extents or the clip box of the PDFPage 'cover': a value of inf cannot be written: "
             "PDF numbers are below 2^31");
   page->SetWidth(100);
@@ -125,7 +125,7 @@ TEST(PDFPage, SizeThatCannotBeWrittenFailsTheSaveAndNamesThePage) {
 TEST(PDFPage, NegativeAndZeroSizesAreWrittenAsGiven) {
   const auto document = PDFDocument::Create();
   document->Pages()->Add()->SetPageExtents(0, -5.5F);
-  const SavedDocument saved = Save(*document, "negative.pdf", Check::kForm);
+  const SavedDocument saved = Save(*document, "negative", Check::kForm);
   EXPECT_NE(saved.pdf.Object(4).find("/MediaBox [ 0 0 0  -5.5 ]\n"), std::string::npos);
 }
 

@@ -31,7 +31,7 @@ TEST(Tools, AMissingProgramIsAnError) {
 TEST(Tools, ADamagedFileIsNotSound) {
   const auto document = PDFDocument::Create();
   document->Pages()->Add()->DrawText("text", 72, 700);
-  const auto path = OutputPath("damaged.pdf");
+  const auto path = OutputPath("damaged");
   document->SavePDFFile(path.u8string());
   std::string bytes = ReadBytes(path);
   bytes.replace(bytes.find("startxref\n") + 10, 1, "9");
@@ -49,7 +49,7 @@ TEST(Tools, ADamagedFileIsNotSound) {
 TEST(Tools, AContentErrorIsNotSound) {
   const auto document = PDFDocument::Create();
   document->Pages()->Add()->DrawText("text", 72, 700);
-  const auto path = OutputPath("damaged.pdf");
+  const auto path = OutputPath("damaged");
   document->SavePDFFile(path.u8string());
   std::string bytes = ReadBytes(path);
   bytes.replace(bytes.find(" Tj\n"), 3, " Tq");
