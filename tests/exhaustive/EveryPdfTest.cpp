@@ -21,7 +21,7 @@ std::vector<std::filesystem::path> EveryPdf() {
 
 TEST(EveryPdf, IsSoundForOtherPrograms) {
   const auto pdfs = EveryPdf();
-  EXPECT_GT(pdfs.size(), 100U);
+  EXPECT_GT(pdfs.size(), 50U) << "the other tests have not run";
   for (const auto& pdf : pdfs) ExpectSound(pdf);
 }
 
