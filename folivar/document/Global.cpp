@@ -108,15 +108,6 @@ void SortRange(std::vector<std::u16string>& folded, std::vector<Text>& strings, 
 }  // namespace
 
 char* WriteReal(char* out, double x) {
-  // Sizes and coordinates are often small whole numbers.
-  if (x >= 0 && x < 1000) {
-    const auto whole = static_cast<std::int32_t>(x);
-    if (whole == x) {
-      out = WriteDecimal(out, static_cast<std::uint32_t>(whole));
-      *out++ = ' ';
-      return out;
-    }
-  }
   const double product = std::fabs(x) * kScale;
   // Coordinates, nearly always: they fit into 32 bits and are no ties.
   const double rounded = (product + kNoFraction) - kNoFraction;
