@@ -228,8 +228,6 @@ std::u16string FoldCase(TextView text) {
   return folded;
 }
 
-bool EqualIgnoringCase(TextView a, TextView b) { return CompareIgnoringCase(a, b) == 0; }
-
 bool StartsWithIgnoringCase(TextView text, TextView start) {
   return FoldCase(text).starts_with(FoldCase(start));
 }

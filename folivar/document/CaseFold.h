@@ -16,7 +16,6 @@ char16_t FoldCase(char16_t unit);
 // The text with every unit folded: equal for texts that differ only in case.
 FOLIVAR_API std::u16string FoldCase(TextView text);
 
-bool EqualIgnoringCase(TextView a, TextView b);
 bool StartsWithIgnoringCase(TextView text, TextView start);
 
 // Below 0, 0 or above 0, by folded units.

@@ -241,15 +241,6 @@ TEST(DrawTextAligned, DeliberateSubscriptIsMeasuredAsReducedTwiceAndPlacedInFull
       "BT\n/F0 6.5  Tf\n0  62.82  Td\n-1  Ts\n97.1819  0 Td\n(A) Tj\n-97.1819  0 Td\n0 Ts\nET\n");
 }
 
-TEST(DrawTextAligned, LeftAlignedTextIsNotMeasured) {
-  EXPECT_NE(ContentAfter([](PDFPage& page) {
-              // Each line is wider than a single can hold at this size; nobody asks for its width.
-              Decorated(page)->SetSize(1e9F);
-              page.DrawTextAligned(std::string(1000, 'W').append("e30"), 0, 0, 10, 10);
-            }).find("/F0 1000000000  Tf\n0  0  Td\n(WWW"),
-            std::string::npos);
-}
-
 TEST(DrawTextAligned, DrawsNoDecorations) {
   EXPECT_EQ(ContentAfter([](PDFPage& page) {
               const auto font = Decorated(page);
