@@ -1,11 +1,10 @@
 #pragma once
 
-#include <cstdio>
-#include <memory>
 #include <string>
 #include <string_view>
 
 #include "folivar/document/ByteSink.h"
+#include "folivar/document/FileHandle.h"
 #include "folivar/document/Text.h"
 
 namespace folivar {
@@ -23,12 +22,8 @@ class FileSink final : public ByteSink {
   void Close();
 
  private:
-  struct Closer {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-  };
-
   std::string name_;  // UTF-8, for error texts
-  std::unique_ptr<std::FILE, Closer> file_;
+  FileHandle file_;   // bytes that arrive are gathered into large pieces already
 };
 
 }  // namespace folivar

@@ -3,9 +3,9 @@
 #include <memory>
 
 #include "folivar/document/Api.h"
-#include "folivar/document/Platform.h"
 #include "folivar/document/Tagged.h"
 #include "folivar/document/Text.h"
+#include "folivar/platform/Platform.h"
 
 namespace folivar {
 

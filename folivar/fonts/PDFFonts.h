@@ -11,8 +11,8 @@
 #include "folivar/document/ObjectWriter.h"
 #include "folivar/document/Text.h"
 #include "folivar/document/Value.h"
-#include "folivar/document/Warnings.h"
 #include "folivar/fonts/PDFFontType.h"
+#include "folivar/platform/Warnings.h"
 
 namespace folivar {
 

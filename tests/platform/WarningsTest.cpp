@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "folivar/document/Warnings.h"
 #include "folivar/folivar.h"
+#include "folivar/platform/Warnings.h"
 #include "tests/support/Content.h"
 #include "tests/support/TestFiles.h"
 

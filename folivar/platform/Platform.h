@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "folivar/document/Warnings.h"
+#include "folivar/platform/Warnings.h"
 
 namespace folivar {
 

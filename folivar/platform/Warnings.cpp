@@ -1,4 +1,4 @@
-#include "folivar/document/Warnings.h"
+#include "folivar/platform/Warnings.h"
 
 #include <cstdio>
 #include <utility>
