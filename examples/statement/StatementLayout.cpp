@@ -94,7 +94,8 @@ std::u16string Shortened(const std::string& utf8, const PDFFont& font, float wid
 // Draws one statement. All measures are points; y grows upwards.
 class StatementLayout {
  public:
-  StatementLayout(const Statement& statement, const std::string& holder, const PageSize& pageSize);
+  StatementLayout(const Statement& statement, const std::string& holder, const PageSize& pageSize,
+                  const Typeface& typeface);
 
   std::shared_ptr<PDFDocument> Draw();
 
@@ -105,7 +106,10 @@ class StatementLayout {
     std::size_t end;
   };
 
-  TextStyle MakeStyle(const char* faceName, float size, std::int32_t color) const;
+  static std::shared_ptr<PDFDocument> MakeDocument(const Typeface& typeface);
+  std::shared_ptr<PDFFont> RegularFace(const Typeface& typeface) const;
+  std::shared_ptr<PDFFont> BoldFace(const Typeface& typeface) const;
+  TextStyle Style(const std::shared_ptr<PDFFont>& face, float size, std::int32_t color) const;
   void PlaceColumns();
   std::vector<PageRange> Paginate() const;
   std::size_t RowsBelow(float top) const;
@@ -139,6 +143,8 @@ class StatementLayout {
   const PageSize& size_;
   const float unit_;  // one point of the design, which is drawn for A4
   std::shared_ptr<PDFDocument> document_;
+  std::shared_ptr<PDFFont> regular_;
+  std::shared_ptr<PDFFont> bold_;
   std::shared_ptr<PDFPage> page_;  // the one being drawn
 
   TextStyle title_;
@@ -164,21 +170,23 @@ class StatementLayout {
 };
 
 StatementLayout::StatementLayout(const Statement& statement, const std::string& holder,
-                                 const PageSize& pageSize)
+                                 const PageSize& pageSize, const Typeface& typeface)
     : statement_(statement),
       holder_(holder),
       size_(pageSize),
       unit_(pageSize.textScale),
-      document_(PDFDocument::Create()),
-      title_(MakeStyle("Helvetica-Bold", 22, kInk)),
-      subtitle_(MakeStyle("Helvetica", 10, kQuietInk)),
-      label_(MakeStyle("Helvetica", 8, kQuietInk)),
-      figure_(MakeStyle("Helvetica-Bold", 14, kInk)),
-      tableHead_(MakeStyle("Helvetica-Bold", 8, kAccent)),
-      body_(MakeStyle("Helvetica", 9, kInk)),
-      strong_(MakeStyle("Helvetica-Bold", 9, kInk)),
-      small_(MakeStyle("Helvetica", 8, kQuietInk)),
-      watermark_(MakeStyle("Helvetica-Bold", 100, kWatermark)),
+      document_(MakeDocument(typeface)),
+      regular_(RegularFace(typeface)),
+      bold_(BoldFace(typeface)),
+      title_(Style(bold_, 22, kInk)),
+      subtitle_(Style(regular_, 10, kQuietInk)),
+      label_(Style(regular_, 8, kQuietInk)),
+      figure_(Style(bold_, 14, kInk)),
+      tableHead_(Style(bold_, 8, kAccent)),
+      body_(Style(regular_, 9, kInk)),
+      strong_(Style(bold_, 9, kInk)),
+      small_(Style(regular_, 8, kQuietInk)),
+      watermark_(Style(bold_, 100, kWatermark)),
       margin_(54 * unit_),
       rowHeight_(16 * unit_),
       firstTableTop_(size_.height - margin_ - 138 * unit_),
@@ -197,8 +205,30 @@ StatementLayout::StatementLayout(const Statement& statement, const std::string& 
   preferences->SetFitWindow(true);
 }
 
-TextStyle StatementLayout::MakeStyle(const char* faceName, float size, std::int32_t color) const {
-  auto font = document_->Fonts()->Add(faceName);
+std::shared_ptr<PDFDocument> StatementLayout::MakeDocument(const Typeface& typeface) {
+  folivar::Platform platform;
+  platform.fontFiles = typeface.files;
+  return PDFDocument::Create(platform);
+}
+
+std::shared_ptr<PDFFont> StatementLayout::RegularFace(const Typeface& typeface) const {
+  const auto fonts = document_->Fonts();
+  if (typeface.family.empty()) return fonts->Add("Helvetica");
+  const bool embed = true;
+  return fonts->Add(typeface.family, folivar::fontTrueType, embed);
+}
+
+// The styles of a TrueType family are one font that changes, the standard faces fonts of their own.
+std::shared_ptr<PDFFont> StatementLayout::BoldFace(const Typeface& typeface) const {
+  if (typeface.family.empty()) return document_->Fonts()->Add("Helvetica-Bold");
+  auto bold = regular_->Clone();
+  bold->SetBold(true);
+  return bold;
+}
+
+TextStyle StatementLayout::Style(const std::shared_ptr<PDFFont>& face, float size,
+                                 std::int32_t color) const {
+  auto font = face->Clone();
   font->SetSize(size * unit_);
   return {font, color};
 }
@@ -398,6 +428,6 @@ void StatementLayout::DrawRule(float y, float width, std::int32_t color) {
 }  // namespace
 
 std::shared_ptr<PDFDocument> LayOutStatement(const Statement& statement, const std::string& holder,
-                                             const PageSize& pageSize) {
-  return StatementLayout(statement, holder, pageSize).Draw();
+                                             const PageSize& pageSize, const Typeface& typeface) {
+  return StatementLayout(statement, holder, pageSize, typeface).Draw();
 }

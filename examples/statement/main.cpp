@@ -13,11 +13,19 @@
 #include "PageSize.h"
 #include "Statement.h"
 #include "StatementLayout.h"
+#include "Typeface.h"
 
 namespace {
 
 constexpr std::string_view kUsage =
-    "usage: statement [--page-size a4|letter|a5|legal] [--holder NAME] INPUT.csv OUTPUT.pdf";
+    "usage: statement [--page-size a4|letter|a5|legal] [--holder NAME]\n"
+    "                 [--font NAME [--font-folder FOLDER]...] INPUT.csv OUTPUT.pdf";
+
+constexpr std::string_view kPlainFaceNotice =
+    "there are characters beyond ASCII, which Helvetica shows wrongly or not at all; --font NAME "
+    "embeds a TrueType font that has them";
+
+void Warn(std::string_view notice) { std::cerr << "statement: " << notice << '\n'; }
 
 class UsageError : public std::runtime_error {
  public:
@@ -27,6 +35,8 @@ class UsageError : public std::runtime_error {
 struct Options {
   PageSize pageSize = kPageSizes.front();
   std::string holder = "Harbour Lane Bookbinders";
+  std::string family;
+  std::vector<std::string> fontFolders;
   std::string input;
   std::string output;
 };
@@ -53,16 +63,43 @@ Options ParseOptions(const std::vector<std::string>& arguments) {
       options.pageSize = PageSizeNamed(value());
     } else if (*argument == "--holder") {
       options.holder = value();
+    } else if (*argument == "--font") {
+      options.family = value();
+    } else if (*argument == "--font-folder") {
+      options.fontFolders.push_back(value());
     } else if (argument->starts_with("--")) {
       throw UsageError("there is no option " + *argument);
     } else {
       files.push_back(*argument);
     }
   }
+  if (options.family.empty() && !options.fontFolders.empty()) {
+    throw UsageError("--font-folder is of no use without --font");
+  }
   if (files.size() != 2) throw UsageError("an input and an output file are needed");
   options.input = files[0];
   options.output = files[1];
   return options;
+}
+
+// What is not a usable font is named and left out.
+Typeface TypefaceOf(const Options& options) {
+  Typeface typeface{options.family};
+  for (const std::string& folder : options.fontFolders) {
+    for (const folivar::Text& refusal : typeface.files->AddFolder(folder)) Warn(refusal.Utf8());
+  }
+  return typeface;
+}
+
+bool IsAscii(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
+}
+
+bool IsPlain(const Statement& statement, const std::string& holder) {
+  const auto& entries = statement.entries;
+  return IsAscii(holder) && std::all_of(entries.begin(), entries.end(), [](const Entry& entry) {
+           return IsAscii(entry.description);
+         });
 }
 
 }  // namespace
@@ -71,10 +108,13 @@ int main(int argc, char** argv) {
   try {
     const Options options = ParseOptions({argv + 1, argv + argc});
     const Statement statement = ReadStatement(options.input);
-    LayOutStatement(statement, options.holder, options.pageSize)->SavePDFFile(options.output);
+    if (options.family.empty() && !IsPlain(statement, options.holder)) Warn(kPlainFaceNotice);
+    LayOutStatement(statement, options.holder, options.pageSize, TypefaceOf(options))
+        ->SavePDFFile(options.output);
     return 0;
   } catch (const UsageError& error) {
-    std::cerr << "statement: " << error.what() << '\n' << kUsage << '\n';
+    Warn(error.what());
+    std::cerr << kUsage << '\n';
     return 2;
   } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';

@@ -50,6 +50,19 @@ char AnsiByte(char16_t unit) {
   return static_cast<char>(found->second);
 }
 
+char16_t AnsiCharacter(char byte) {
+  const auto value = static_cast<unsigned char>(byte);
+  const auto* found = std::find_if(kWindows1252.begin(), kWindows1252.end(),
+                                   [value](const auto& row) { return row.second == value; });
+  return found == kWindows1252.end() ? char16_t{value} : found->first;
+}
+
+Text AnsiBytesToText(std::string_view bytes) {
+  std::u16string units(bytes.size(), u'\0');
+  std::transform(bytes.begin(), bytes.end(), units.begin(), AnsiCharacter);
+  return Text(units);
+}
+
 AnsiText::AnsiText(TextView text) : bytes_(text.Utf8()), traits_(TraitsOf(bytes_)) {
   if (text.IsUtf16()) {
     Convert(text.Utf16());

@@ -14,6 +14,11 @@ namespace folivar {
 // the euro sign, is 0x80), and anything else is "?".
 char AnsiByte(char16_t unit);
 
+// The other way round: the character that a byte stands for in Windows code page 1252; for the five
+// bytes that have none (0x81, say) the one of the same value.
+char16_t AnsiCharacter(char byte);
+Text AnsiBytesToText(std::string_view bytes);
+
 // A text as the bytes that go into the file, one for each UTF-16 unit. Plain ASCII is not copied:
 // the bytes may be the caller's own, so the text must outlive this object.
 class AnsiText {

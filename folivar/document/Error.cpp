@@ -18,6 +18,7 @@ Error Error::PathFileAccess(const std::string& text) { return {75, text}; }
 Error Error::PathNotFound(const std::string& text) { return {76, text}; }
 Error Error::ObjectNotSet(const std::string& text) { return {91, text}; }
 Error Error::InvalidNull(const std::string& text) { return {94, text}; }
+Error Error::InvalidFileFormat(const std::string& text) { return {321, text}; }
 Error Error::ActionNotSupported(const std::string& text) { return {445, text}; }
 Error Error::KeyInUse(const std::string& text) { return {457, text}; }
 

@@ -33,6 +33,7 @@ class FOLIVAR_API Error : public std::runtime_error {
   static Error PathNotFound(const std::string& text);         // 76
   static Error ObjectNotSet(const std::string& text);         // 91
   static Error InvalidNull(const std::string& text);          // 94
+  static Error InvalidFileFormat(const std::string& text);    // 321
   static Error ActionNotSupported(const std::string& text);   // 445
   static Error KeyInUse(const std::string& text);             // 457
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdio>
+#include <filesystem>
 #include <memory>
 #include <string>
 
@@ -8,6 +9,12 @@
 #include "folivar/document/Text.h"
 
 namespace folivar {
+
+// Raises 52 for an empty name and for one that holds a NUL character.
+void CheckFileName(const Text& name);
+
+// A file name as the system takes it.
+std::filesystem::path PathOf(const Text& name);
 
 struct FileCloser {
   void operator()(std::FILE* file) const { std::fclose(file); }
@@ -18,9 +25,8 @@ using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
 
 enum class FileAction { kRead, kWrite };
 
-// Opens a file for reading, or creates it, or cuts it to length 0, for writing. Raises 52 for an
-// empty name and for one that holds a NUL character, and what FileError makes of the system's
-// refusal.
+// Opens a file for reading, or creates it, or cuts it to length 0, for writing. Raises what
+// CheckFileName does, and what FileError makes of the system's refusal.
 FileHandle OpenFile(const Text& name, FileAction action);
 
 // What the system refused, by its errno: 52, 53, 61, 70, 75 or 76, "Cannot write file 'a.pdf': No

@@ -22,13 +22,13 @@ std::int64_t PositionIn(std::FILE* file) { return ftello(file); }
 
 }  // namespace
 
-FileSource::FileSource(const Text& name)
-    : name_(name.Utf8()), file_(OpenFile(name, FileAction::kRead)) {
-  // Some systems open a folder like a file.
+FileSource::FileSource(const Text& name) : name_(name.Utf8()) {
+  // Some systems open a folder like a file, others refuse it like one that is locked.
   std::error_code error;
-  if (std::filesystem::is_directory(std::filesystem::path(name.Utf16()), error)) {
+  if (std::filesystem::is_directory(PathOf(name), error)) {
     throw FileError(FileAction::kRead, name_, EISDIR);
   }
+  file_ = OpenFile(name, FileAction::kRead);
   Seek(0, SEEK_END);
   const std::int64_t end = PositionIn(file_.get());
   if (end < 0) throw FileError(FileAction::kRead, name_, errno);
@@ -38,6 +38,7 @@ FileSource::FileSource(const Text& name)
 std::size_t FileSource::Read(std::uint64_t offset, std::span<char> out) {
   if (offset >= size_) return 0;
   if (offset != position_) Seek(offset, SEEK_SET);
+  position_ = kUnknown;
   errno = 0;
   const std::size_t read = std::fread(out.data(), 1, out.size(), file_.get());
   if (read < out.size() && std::ferror(file_.get()) != 0) {

@@ -21,6 +21,8 @@ class FileSource final : public ByteSource {
  private:
   void Seek(std::uint64_t offset, int origin);
 
+  static constexpr std::uint64_t kUnknown = ~std::uint64_t{0};
+
   std::string name_;  // UTF-8, for error texts
   FileHandle file_;
   std::uint64_t size_ = 0;

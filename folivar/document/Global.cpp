@@ -14,6 +14,7 @@
 #include "folivar/document/CaseFold.h"
 #include "folivar/document/Decimal.h"
 #include "folivar/document/Error.h"
+#include "folivar/document/FileHandle.h"
 #include "folivar/document/PDFText.h"
 
 namespace folivar {
@@ -153,7 +154,7 @@ std::int16_t FindLastInRange(TextView s, TextView find, std::int16_t start, std:
 bool FileExists(TextView path) noexcept {
   try {
     std::error_code error;
-    return std::filesystem::exists(std::filesystem::path(Text(path).Utf16()), error);
+    return std::filesystem::exists(PathOf(Text(path)), error);
   } catch (...) {
     return false;
   }
@@ -180,6 +181,23 @@ std::string FillColorOp(std::int32_t color) {
 }
 
 std::string_view PdfBool(bool flag) { return flag ? "true" : "false"; }
+
+std::string PdfName(std::string_view bytes) {
+  constexpr std::string_view kHexDigits = "0123456789ABCDEF";
+  constexpr std::string_view kDelimiters = "#%()/<>[]{}";
+  std::string name;
+  for (const char byte : bytes) {
+    const auto value = static_cast<unsigned char>(byte);
+    if (value > ' ' && kDelimiters.find(byte) == std::string_view::npos) {
+      name += byte;
+    } else {
+      name += '#';
+      name += kHexDigits[value >> 4];
+      name += kHexDigits[value & 0xF];
+    }
+  }
+  return name;
+}
 
 void SortStrings(std::vector<Text>& strings, std::int32_t lo, std::int32_t hi) {
   if (lo == -1) {

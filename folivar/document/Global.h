@@ -77,6 +77,10 @@ std::string FillColorOp(std::int32_t color);
 // "true" or "false".
 std::string_view PdfBool(bool flag);
 
+// The bytes as a PDF name, without its slash: what would end the name, and "#", as "#" and two hex
+// digits. "Times(W1)" is "Times#28W1#29".
+std::string PdfName(std::string_view bytes);
+
 // Sorts strings[lo] to strings[hi] (from 0) upwards without regard to case; a lo of -1 is the whole
 // vector. Does nothing for a hi of 0 or below. Texts that differ only in case end in no particular,
 // but always the same, order. Raises 9 for a place outside the vector.

@@ -20,7 +20,9 @@
 namespace folivar {
 
 std::shared_ptr<PDFDocument> PDFDocument::Create(Platform platform) {
-  if (!platform.warnings) platform.warnings = Warnings::ToStandardError();
+  if (!platform.warnings) platform.warnings = Warnings::OfThisSystem();
+  if (!platform.systemFonts) platform.systemFonts = SystemFonts::OfThisSystem();
+  if (!platform.fontFiles) platform.fontFiles = std::make_shared<folivar::FontFiles>();
   auto document = std::make_shared<PDFDocument>(Internal(), std::move(platform));
   document->Initialise();
   return document;
@@ -32,7 +34,7 @@ PDFDocument::~PDFDocument() = default;
 
 // Not in the constructor: the children get a reference to the document.
 void PDFDocument::Initialise() {
-  fonts_ = std::make_shared<PDFFonts>(Internal(), platform_.warnings);
+  fonts_ = std::make_shared<PDFFonts>(Internal(), platform_);
   const std::shared_ptr<PDFFont> defaultFont = fonts_->Add("Helvetica");
   pages_ = std::make_shared<PDFPages>(Internal(), Shared<PDFDocument>(), defaultFont);
   outline_ = std::make_shared<PDFOutline>();

@@ -37,6 +37,10 @@ class FOLIVAR_API PDFDocument final : public Tagged {
   std::shared_ptr<PDFFonts> Fonts() const { return fonts_; }
   std::shared_ptr<PDFViewerPreferences> ViewerPreferences() const;
 
+  // The font files that the document takes TrueType faces from before the system's: those of its
+  // platform. What is added counts for faces that are added to Fonts from then on.
+  std::shared_ptr<folivar::FontFiles> FontFiles() const { return platform_.fontFiles; }
+
  private:
   void Initialise();
 

@@ -3,10 +3,12 @@
 #include <utility>
 
 #include "folivar/document/AnsiText.h"
+#include "folivar/document/Error.h"
 #include "folivar/document/InMember.h"
 #include "folivar/document/Internal.h"
 #include "folivar/fonts/FontMetrics.h"
 #include "folivar/fonts/PDFFontInfo.h"
+#include "folivar/fonts/PDFFonts.h"
 
 namespace folivar {
 
@@ -68,8 +70,22 @@ float PDFFont::FontBoxBottom() const { return FontMetrics(*this).Scaled(face_->F
 bool PDFFont::Italic() const { return face_->m_IsItalic; }
 bool PDFFont::Bold() const { return face_->m_IsBold; }
 
-// No standard face is another one's style, so there is nothing to switch to.
-void PDFFont::SetItalic(bool) {}
-void PDFFont::SetBold(bool) {}
+void PDFFont::SetItalic(bool italic) {
+  InMember("PDFFont.Italic", [&] { ChangeStyle(face_->m_IsBold, italic, italic); });
+}
+
+void PDFFont::SetBold(bool bold) {
+  InMember("PDFFont.Bold", [&] { ChangeStyle(bold, face_->m_IsItalic, bold); });
+}
+
+void PDFFont::ChangeStyle(bool isBold, bool isItalic, bool isWanted) {
+  // No standard face is another one's style, so there is nothing to change to.
+  if (face_->m_FontType == fontType1) return;
+  const std::shared_ptr<PDFFonts> fonts = owner_.lock();
+  if (!fonts) throw Error::ObjectNotSet("the font's document is gone");
+  auto face = fonts->StyledFace(Internal(), *face_, isBold, isItalic,
+                                isWanted ? PDFFonts::IfAbsent::kMake : PDFFonts::IfAbsent::kLeave);
+  if (face) face_ = std::move(face);
+}
 
 }  // namespace folivar

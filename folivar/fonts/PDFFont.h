@@ -51,8 +51,11 @@ class FOLIVAR_API PDFFont final : public Object, public FaceUser {
   float FontBoxRight() const;
   float FontBoxBottom() const;
 
-  // The face's style. The standard faces are separate faces by name ("Times-Bold"), for which these
-  // read false and setting them changes nothing.
+  // The face's style. A TrueType font changes to the face of the new style: that of the document,
+  // or one that is added to it, which may raise what PDFFonts::Add raises. Setting a style back to
+  // false changes the font only when the document has the face without it. The standard faces are
+  // separate faces by name ("Times-Bold"), for which these read false and setting them changes
+  // nothing.
   bool Italic() const;
   void SetItalic(bool italic);
   bool Bold() const;
@@ -69,6 +72,8 @@ class FOLIVAR_API PDFFont final : public Object, public FaceUser {
   void SetSuperscript(bool superscript) { superscript_ = superscript; }
 
  private:
+  void ChangeStyle(bool isBold, bool isItalic, bool isWanted);
+
   // FaceUser
   const std::shared_ptr<PDFFontInfo>& FontInfo(const Internal&) const override { return face_; }
   const std::weak_ptr<PDFFonts>& Owner(const Internal&) const override { return owner_; }

@@ -1,12 +1,56 @@
 #include "folivar/fonts/PDFFontInfo.h"
 
+#include <array>
+#include <utility>
+
 #include "folivar/document/AnsiText.h"
+#include "folivar/document/CaseFold.h"
 #include "folivar/document/Global.h"
 #include "folivar/document/ObjectNumbers.h"
 #include "folivar/document/SaveFile.h"
+#include "folivar/fonts/BigEndian.h"
 #include "folivar/fonts/StandardFaces.h"
 
 namespace folivar {
+namespace {
+
+// In thousandths of the em, truncated toward zero.
+float BoxSide(std::int16_t units, std::uint16_t unitsPerEm) {
+  if (unitsPerEm == 0) return 0;
+  const int thousandths = units * 1000 / unitsPerEm;
+  return static_cast<float>(thousandths);
+}
+
+using OS2Table = std::array<unsigned char, 86>;
+
+OS2Table ReadOS2(SystemFace& face) {
+  OS2Table table = {};
+  face.ReadTable("OS/2", table);
+  return table;
+}
+
+// Only this value forbids embedding; together with other bits it does not.
+bool IsEmbeddable(const OS2Table& table) {
+  constexpr std::uint16_t kRestricted = 2;
+  return U16At(table, 8) != kRestricted;
+}
+
+}  // namespace
+
+bool IsEmbeddable(SystemFace& face) { return IsEmbeddable(ReadOS2(face)); }
+
+Text TrueTypeBaseFontName(const Text& faceName, bool isBold, bool isItalic) {
+  std::u16string name = faceName.Utf16();
+  std::erase(name, u' ');
+  if (isBold && isItalic) {
+    name += u",BoldItalic";
+  } else if (isBold) {
+    name += u",Bold";
+  } else if (isItalic) {
+    name += u",Italic";
+  }
+  return Text(name);
+}
 
 void PDFFontInfo::LoadStandardMetrics(std::size_t face) {
   const AfmMetrics& metrics = StandardFaceMetrics(face);
@@ -23,6 +67,71 @@ void PDFFontInfo::LoadStandardMetrics(std::size_t face) {
   m_StrikeoutSize = metrics.underlineThickness;
   m_UnderlineSize = metrics.underlineThickness;
   characters_ = &metrics.characters;
+}
+
+void PDFFontInfo::LoadTrueTypeMetrics(const Text& faceName, SystemFace& face, Warnings& warnings) {
+  m_FontType = fontTrueType;
+  m_FontFace = face.Name();
+  if (CompareIgnoringCase(m_FontFace, faceName) != 0) {
+    warnings.Show(Text("WARNING: Font '" + faceName.Utf8() + "' could not be found.  Using '" +
+                       m_FontFace.Utf8() + "' instead."));
+  }
+
+  const OS2Table os2 = ReadOS2(face);
+  m_Embeddable = IsEmbeddable(os2);
+  if (m_EmbedFont && m_Embeddable) {
+    program_ = face.Program();
+    if (program_ && program_->empty()) program_ = nullptr;
+    m_EmbedFont = program_ != nullptr;
+  } else if (m_EmbedFont) {
+    warnings.Show(Text("WARNING: Font " + m_FontFace.Utf8() +
+                       " is not licensed for embedding.  The font will not be embedded in the PDF "
+                       "file."));
+    m_EmbedFont = false;
+  }
+
+  const SystemFace::TextMetrics metrics = face.Metrics();
+  m_Ascender = static_cast<float>(metrics.ascent);
+  m_Descender = -static_cast<float>(metrics.descent);
+  constexpr std::uint16_t kLastCode = 255;
+  firstCharacter_ = MinOf(metrics.firstCharacter, kLastCode);
+  lastCharacter_ = MinOf(metrics.lastCharacter, kLastCode);
+
+  std::array<std::int32_t, 256> widths = face.Widths();
+  // Deliberate: line feed and form feed have no width, a carriage return keeps its own.
+  widths[10] = 0;
+  widths[12] = 0;
+  auto characters = std::make_unique<CharacterTable>();
+  for (std::size_t code = 0; code < widths.size(); ++code) {
+    (*characters)[code].width = static_cast<float>(widths[code]);
+  }
+  characters_ = characters.get();
+  ownCharacters_ = std::move(characters);
+
+  std::array<unsigned char, 54> head = {};
+  face.ReadTable("head", head);
+  const std::uint16_t unitsPerEm = U16At(head, 18);
+  boxLeft_ = BoxSide(S16At(head, 36), unitsPerEm);
+  boxBottom_ = BoxSide(S16At(head, 38), unitsPerEm);
+  boxRight_ = BoxSide(S16At(head, 40), unitsPerEm);
+  boxTop_ = BoxSide(S16At(head, 42), unitsPerEm);
+
+  std::array<unsigned char, 54> pclt = {};
+  face.ReadTable("PCLT", pclt);
+  // Deliberate: this and the thickness of the lines stay in the font's own units.
+  m_CapHeight = U16At(pclt, 16);
+  m_ItalicAngle = 0;
+  m_StrikeoutSize = S16At(os2, 26);
+  m_UnderlineSize = m_StrikeoutSize;
+  m_StrikeoutPosition = m_Ascender / 3;
+  m_UnderlinePosition = m_Descender / 2;
+  constexpr unsigned char kSymbolic = 12;
+  m_IsSymbolic = os2[30] == kSymbolic;
+}
+
+Text PDFFontInfo::BaseFontName() const {
+  return m_FontType == fontTrueType ? TrueTypeBaseFontName(m_FontFace, m_IsBold, m_IsItalic)
+                                    : m_FontFace;
 }
 
 float PDFFontInfo::MeasureWidth(std::string_view bytes) const {
@@ -46,7 +155,21 @@ void PDFFontInfo::MeasureExtents(std::string_view bytes, float& width, float& he
   height = MeasureHeight(bytes);
 }
 
-void PDFFontInfo::NumberObjects(ObjectNumbers& numbers) { objectNumber_ = numbers.Take(); }
+void PDFFontInfo::NumberObjects(ObjectNumbers& numbers) {
+  objectNumber_ = numbers.Take();
+  if (m_FontType == fontTrueType) numbers.Take();
+  if (program_) numbers.Take();
+}
+
+void PDFFontInfo::WriteObjects(SaveFile& file) {
+  if (m_FontType == fontType1) {
+    WriteStandardFace(file);
+    return;
+  }
+  WriteTrueTypeFace(file);
+  WriteFontDescriptor(file);
+  if (program_) WriteFontProgram(file);
+}
 
 //   4 0 obj
 //   << /Type /Font
@@ -55,11 +178,88 @@ void PDFFontInfo::NumberObjects(ObjectNumbers& numbers) { objectNumber_ = number
 //   /BaseFont /Helvetica
 //   >>
 //   endobj
-void PDFFontInfo::WriteObjects(SaveFile& file) {
+void PDFFontInfo::WriteStandardFace(SaveFile& file) const {
   const Text name = BaseFontName();
   file.BeginObject(objectNumber_)
       .Append("<< /Type /Font\n/Subtype /Type1\n/Name ", std::string_view(m_PDFName),
               "\n/BaseFont /", AnsiText(name).Bytes(), "\n>>\n");
+  file.EndObject();
+}
+
+//   5 0 obj
+//   << /Type /Font
+//   /Subtype /TrueType
+//   /Name /F1
+//   /BaseFont /LiberationSans,Bold
+//   /FirstChar 31
+//   /LastChar 255
+//   /Widths [ 365 278 278 333 ... 556  ]
+//   /FontDescriptor 6 0 R
+//   /Encoding /WinAnsiEncoding
+//   >>
+//   endobj
+void PDFFontInfo::WriteTrueTypeFace(SaveFile& file) const {
+  const std::string name = PdfName(AnsiText(BaseFontName()).Bytes());
+  PDFText& text = file.BeginObject(objectNumber_);
+  text.Append("<< /Type /Font\n/Subtype /TrueType\n/Name ", std::string_view(m_PDFName),
+              "\n/BaseFont /", std::string_view(name), "\n/FirstChar ", firstCharacter_,
+              "\n/LastChar ", lastCharacter_, "\n/Widths [ ");
+  for (std::uint32_t code = firstCharacter_; code <= lastCharacter_; ++code) {
+    text.Append(Real{(*characters_)[code].width});
+  }
+  text.Append(" ]\n/FontDescriptor ", Reference{objectNumber_ + 1}, "\n");
+  if (!m_IsSymbolic) text.Append("/Encoding /WinAnsiEncoding\n");
+  text.Append(">>\n");
+  file.EndObject();
+}
+
+//   6 0 obj
+//   <<
+//   /Type /FontDescriptor
+//   /FontName /LiberationSans,Bold
+//   /FontBBox [ -184 -303 1062 1033  ]
+//   /Ascent 905 (and a blank, like the next three)
+//   /Descent -212
+//   /CapHeight 0
+//   /ItalicAngle 0
+//   /Flags 32
+//   /StemV 70
+//   /FontFile2 7 0 R
+//   >>
+//   endobj
+void PDFFontInfo::WriteFontDescriptor(SaveFile& file) const {
+  constexpr int kSymbolicFlag = 4;
+  constexpr int kNonsymbolicFlag = 32;
+  constexpr int kItalicFlag = 64;
+  const int flags =
+      (m_IsSymbolic ? kSymbolicFlag : kNonsymbolicFlag) + (m_IsItalic ? kItalicFlag : 0);
+  const std::string name = PdfName(AnsiText(BaseFontName()).Bytes());
+  PDFText& text = file.BeginObject(objectNumber_ + 1);
+  text.Append("<<\n/Type /FontDescriptor\n/FontName /", std::string_view(name), "\n/FontBBox [ ",
+              Real{boxLeft_}, Real{boxBottom_}, Real{boxRight_}, Real{boxTop_}, " ]\n/Ascent ",
+              Real{m_Ascender}, "\n/Descent ", Real{m_Descender}, "\n/CapHeight ",
+              Real{m_CapHeight}, "\n/ItalicAngle ", Real{m_ItalicAngle}, "\n/Flags ", flags,
+              "\n/StemV 70\n");
+  if (program_) text.Append("/FontFile2 ", Reference{objectNumber_ + 2}, "\n");
+  text.Append(">>\n");
+  file.EndObject();
+}
+
+//   7 0 obj
+//   <<
+//   /Length 137052
+//   /Length1 137052
+//   >>
+//   stream
+//   ...
+//   endstream
+//   endobj
+void PDFFontInfo::WriteFontProgram(SaveFile& file) const {
+  PDFText& text = file.BeginObject(objectNumber_ + 2);
+  const auto length = static_cast<std::uint32_t>(program_->size());
+  text.Append("<<\n/Length ", length, "\n/Length1 ", length, "\n>>\nstream\n");
+  file.AppendBytes(*program_);
+  text.Append("\nendstream\n");
   file.EndObject();
 }
 

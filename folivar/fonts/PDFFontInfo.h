@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -10,6 +11,8 @@
 #include "folivar/document/Text.h"
 #include "folivar/fonts/CharacterTable.h"
 #include "folivar/fonts/PDFFontType.h"
+#include "folivar/platform/SystemFonts.h"
+#include "folivar/platform/Warnings.h"
 
 namespace folivar {
 
@@ -42,6 +45,11 @@ class PDFFontInfo final : public Object, public ObjectWriter {
   // Becomes one of the fourteen, by its place in their list.
   void LoadStandardMetrics(std::size_t face);
 
+  // Becomes the TrueType face that the system selected for `faceName`, which may be another.
+  // m_IsBold, m_IsItalic and m_EmbedFont say what is wanted; m_EmbedFont is cleared, with a
+  // warning, for a font that forbids it.
+  void LoadTrueTypeMetrics(const Text& faceName, SystemFace& face, Warnings& warnings);
+
   float FontBoxLeft() const { return boxLeft_; }
   float FontBoxBottom() const { return boxBottom_; }
   float FontBoxRight() const { return boxRight_; }
@@ -55,8 +63,9 @@ class PDFFontInfo final : public Object, public ObjectWriter {
   float MeasureHeight() const { return boxTop_ - boxBottom_; }
   void MeasureExtents(std::string_view bytes, float& width, float& height) const;
 
-  // The name in "/BaseFont", which is also the face's key in the collection.
-  Text BaseFontName() const { return m_FontFace; }
+  // The name in "/BaseFont", which is also the face's key in the collection: for a TrueType face
+  // without its blanks and with its style, "TimesNewRoman,Bold".
+  Text BaseFontName() const;
 
   // As numbered by the save in progress.
   std::int32_t ObjectNumber() const { return objectNumber_; }
@@ -65,6 +74,11 @@ class PDFFontInfo final : public Object, public ObjectWriter {
   void WriteObjects(SaveFile& file) override;
 
  private:
+  void WriteStandardFace(SaveFile& file) const;
+  void WriteTrueTypeFace(SaveFile& file) const;
+  void WriteFontDescriptor(SaveFile& file) const;
+  void WriteFontProgram(SaveFile& file) const;
+
   const CharacterMetrics& Metrics(char byte) const {
     return (*characters_)[static_cast<unsigned char>(byte)];
   }
@@ -73,8 +87,19 @@ class PDFFontInfo final : public Object, public ObjectWriter {
   float boxBottom_ = 0;
   float boxRight_ = 0;
   float boxTop_ = 0;
-  const CharacterTable* characters_ = nullptr;  // the process's own, never freed
+  // A standard face's are the process's own, a TrueType face's this record's.
+  const CharacterTable* characters_ = nullptr;
+  std::unique_ptr<const CharacterTable> ownCharacters_;
+  std::uint16_t firstCharacter_ = 0;
+  std::uint16_t lastCharacter_ = 0;
+  std::shared_ptr<const std::string> program_;  // null: not embedded
   std::int32_t objectNumber_ = 0;
 };
+
+// Whether the font allows it, by its table "OS/2".
+bool IsEmbeddable(SystemFace& face);
+
+// The key of a TrueType face in a style.
+Text TrueTypeBaseFontName(const Text& faceName, bool isBold, bool isItalic);
 
 }  // namespace folivar

@@ -1,5 +1,6 @@
 #include "folivar/fonts/PDFFonts.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string_view>
@@ -7,6 +8,7 @@
 
 #include "folivar/document/CaseFold.h"
 #include "folivar/document/Error.h"
+#include "folivar/document/Global.h"
 #include "folivar/document/InMember.h"
 #include "folivar/document/Internal.h"
 #include "folivar/fonts/PDFFont.h"
@@ -17,6 +19,12 @@ namespace folivar {
 namespace {
 
 constexpr std::string_view kFallbackFace = "Helvetica";
+
+#ifdef _WIN32
+constexpr std::string_view kWhereInstalled = "installed";
+#else
+constexpr std::string_view kWhereInstalled = "installed where libfontconfig.so.1 finds it";
+#endif
 
 struct FamilyNames {
   std::u16string_view from;
@@ -48,29 +56,47 @@ Text CounterpartName(const Text& name) {
   return name;
 }
 
+// Faces of TrueType fonts are kept by names without blanks.
+Text KeyOf(const Text& faceName, PDFFontType fontType) {
+  if (fontType == fontType1) return faceName;
+  std::u16string key = faceName.Utf16();
+  std::erase(key, u' ');
+  return Text(key);
+}
+
 std::size_t SubstituteFor(const Text& name) {
   const auto counterpart = FindStandardFace(CounterpartName(name));
   return counterpart ? *counterpart : *FindStandardFace(kFallbackFace);
 }
 
+std::vector<Text> StandardFaceNames() {
+  std::vector<Text> names;
+  names.reserve(kStandardFaceCount);
+  for (std::size_t face = 0; face < kStandardFaceCount; ++face) {
+    names.emplace_back(StandardFaceName(face));
+  }
+  return names;
+}
+
 }  // namespace
 
-PDFFonts::PDFFonts(const Internal&, std::shared_ptr<Warnings> warnings)
-    : warnings_(std::move(warnings)) {}
+PDFFonts::PDFFonts(const Internal&, Platform platform) : platform_(std::move(platform)) {}
 
 PDFFonts::~PDFFonts() = default;
 
-std::shared_ptr<PDFFont> PDFFonts::Add(TextView faceName, PDFFontType fontType, bool) {
-  const Text name = InMember("PDFFonts.Add", [&] { return Text(faceName); });
-  if (auto face = FindFaceRecord(name, fontType)) return FontOf(std::move(face));
-  if (fontType != fontType1) {
-    throw Error::ActionNotSupported("Font '" + name.Utf8() + "': TrueType fonts are not available");
-  }
-  return FontOf(AddStandardFace(name));
+std::shared_ptr<PDFFont> PDFFonts::Add(TextView faceName, PDFFontType fontType, bool embed) {
+  return InMember("PDFFonts.Add", [&] {
+    const Text name(faceName);
+    if (auto face = FindFaceRecord(name, fontType)) return FontOf(std::move(face));
+    return FontOf(fontType == fontType1 ? AddStandardFace(name)
+                                        : AddTrueTypeFace(name, false, false, embed));
+  });
 }
 
 std::shared_ptr<PDFFont> PDFFonts::Item(const Value& indexOrKey, PDFFontType fontType) {
-  return FontOf(FacesOf(fontType).Item(indexOrKey));
+  const FaceList& faces = FacesOf(fontType);
+  const Text* name = indexOrKey.As<Text>();
+  return FontOf(faces.Item(name ? Value(KeyOf(*name, fontType)) : indexOrKey));
 }
 
 std::int32_t PDFFonts::count(PDFFontType fontType) const {
@@ -78,17 +104,46 @@ std::int32_t PDFFonts::count(PDFFontType fontType) const {
 }
 
 bool PDFFonts::FontExists(TextView faceName, PDFFontType fontType) const {
-  return FacesOf(fontType).KeyExists(faceName);
+  return InMember("PDFFonts.FontExists",
+                  [&] { return FindFaceRecord(Text(faceName), fontType) != nullptr; });
 }
 
-std::vector<Text> PDFFonts::AvailableFonts(PDFFontType fontType, bool) const {
-  std::vector<Text> names;
-  if (&FacesOf(fontType) != &type1_) return names;
-  names.reserve(kStandardFaceCount);
-  for (std::size_t face = 0; face < kStandardFaceCount; ++face) {
-    names.emplace_back(StandardFaceName(face));
+std::vector<Text> PDFFonts::AvailableFonts(PDFFontType fontType, bool embeddable) const {
+  return InMember("PDFFonts.AvailableFonts", [&] {
+    return &FacesOf(fontType) == &type1_ ? StandardFaceNames() : TrueTypeFaceNames(embeddable);
+  });
+}
+
+std::vector<Text> PDFFonts::TrueTypeFaceNames(bool embeddable) const {
+  std::vector<Text> names = platform_.fontFiles->FaceNames();
+  for (Text& name : platform_.systemFonts->FaceNames()) names.push_back(std::move(name));
+  SortStrings(names, -1, 0);
+  names.erase(
+      std::unique(names.begin(), names.end(),
+                  [](const Text& a, const Text& b) { return CompareIgnoringCase(a, b) == 0; }),
+      names.end());
+  if (embeddable) {
+    std::erase_if(names, [&](const Text& name) { return !MayBeEmbedded(name); });
   }
   return names;
+}
+
+// A font whose file has gone cannot be.
+bool PDFFonts::MayBeEmbedded(const Text& faceName) const {
+  try {
+    const auto face = SelectFace(faceName, false, false);
+    return face && IsEmbeddable(*face);
+  } catch (const Error&) {
+    return false;
+  }
+}
+
+std::shared_ptr<PDFFontInfo> PDFFonts::StyledFace(const Internal&, const PDFFontInfo& face,
+                                                  bool isBold, bool isItalic, IfAbsent ifAbsent) {
+  auto styled =
+      FindFaceRecord(TrueTypeBaseFontName(face.m_FontFace, isBold, isItalic), face.m_FontType);
+  if (styled || ifAbsent == IfAbsent::kLeave) return styled;
+  return AddTrueTypeFace(face.m_FontFace, isBold, isItalic, face.m_EmbedFont);
 }
 
 const PDFFonts::FaceList& PDFFonts::FacesOf(PDFFontType fontType) const {
@@ -102,9 +157,11 @@ const PDFFonts::FaceList& PDFFonts::FacesOf(PDFFontType fontType) const {
                                " is neither fontType1 nor fontTrueType");
 }
 
-std::shared_ptr<PDFFontInfo> PDFFonts::FindFaceRecord(TextView name, PDFFontType fontType) const {
+std::shared_ptr<PDFFontInfo> PDFFonts::FindFaceRecord(const Text& name,
+                                                      PDFFontType fontType) const {
   const FaceList& faces = FacesOf(fontType);
-  return faces.KeyExists(name) ? faces.Item(name) : nullptr;
+  const Text key = KeyOf(name, fontType);
+  return faces.KeyExists(key) ? faces.Item(key) : nullptr;
 }
 
 std::shared_ptr<PDFFontInfo> PDFFonts::AddStandardFace(const Text& faceName) {
@@ -112,9 +169,9 @@ std::shared_ptr<PDFFontInfo> PDFFonts::AddStandardFace(const Text& faceName) {
   if (!standardFace) {
     standardFace = SubstituteFor(faceName);
     const std::string substitute(StandardFaceName(*standardFace));
-    warnings_->Show(Text("WARNING: Font '" + faceName.Utf8() + "' could not be found.  Using '" +
-                         substitute + "' instead."));
-    if (auto face = FindFaceRecord(substitute, fontType1)) return face;
+    platform_.warnings->Show(Text("WARNING: Font '" + faceName.Utf8() +
+                                  "' could not be found.  Using '" + substitute + "' instead."));
+    if (auto face = FindFaceRecord(Text(substitute), fontType1)) return face;
   }
   auto face = std::make_shared<PDFFontInfo>();
   face->m_PDFName = NextResourceName();
@@ -123,8 +180,43 @@ std::shared_ptr<PDFFontInfo> PDFFonts::AddStandardFace(const Text& faceName) {
   return face;
 }
 
+std::shared_ptr<PDFFontInfo> PDFFonts::AddTrueTypeFace(const Text& faceName, bool isBold,
+                                                       bool isItalic, bool embed) {
+  auto face = std::make_shared<PDFFontInfo>();
+  face->m_IsBold = isBold;
+  face->m_IsItalic = isItalic;
+  face->m_EmbedFont = embed;
+  const auto selected = SelectFace(faceName, isBold, isItalic);
+  if (!selected) {
+    throw Error::ActionNotSupported("Font '" + faceName.Utf8() +
+                                    "': there is no TrueType font, neither among the document's "
+                                    "font files nor " +
+                                    std::string(kWhereInstalled));
+  }
+  face->LoadTrueTypeMetrics(faceName, *selected, *platform_.warnings);
+  // What the system put in the place of the face wanted may be here already.
+  if (auto existing = FindFaceRecord(face->BaseFontName(), fontTrueType)) return existing;
+  // Not before: a host's warnings may have added faces meanwhile.
+  face->m_PDFName = NextResourceName();
+  AddFaceRecord(face);
+  return face;
+}
+
+std::unique_ptr<SystemFace> PDFFonts::SelectFace(const Text& faceName, bool isBold,
+                                                 bool isItalic) const {
+  auto face = platform_.fontFiles->SelectFace(faceName, isBold, isItalic);
+  if (face) return face;
+  face = platform_.systemFonts->SelectFace(faceName, isBold, isItalic);
+  if (face) return face;
+  // A system without fonts: any of the document's own is better than none.
+  std::vector<Text> names = platform_.fontFiles->FaceNames();
+  if (names.empty()) return nullptr;
+  SortStrings(names, -1, 0);
+  return platform_.fontFiles->SelectFace(names.front(), isBold, isItalic);
+}
+
 void PDFFonts::AddFaceRecord(std::shared_ptr<PDFFontInfo> face) {
-  all_.reserve(all_.size() + 1);
+  if (all_.size() == all_.capacity()) all_.reserve(2 * all_.size() + 1);
   FaceList& faces = face->m_FontType == fontType1 ? type1_ : trueType_;
   faces.Add(face, face->BaseFontName(), {}, {});
   all_.push_back(std::move(face));

@@ -12,7 +12,7 @@
 #include "folivar/document/Text.h"
 #include "folivar/document/Value.h"
 #include "folivar/fonts/PDFFontType.h"
-#include "folivar/platform/Warnings.h"
+#include "folivar/platform/Platform.h"
 
 namespace folivar {
 
@@ -21,18 +21,24 @@ class PDFFont;
 class PDFFontInfo;
 
 // The faces that a document uses; reached through PDFDocument::Fonts. It keeps one record for each
-// face and hands out fonts, which share it. Faces are found by name without regard to case.
-//
-// TrueType faces are not available: adding one raises 445. A font type that is neither raises 5.
+// face and hands out fonts, which share it. Faces are found by name without regard to case; names
+// of TrueType faces without regard to blanks too, followed by their style:
+// "TimesNewRoman,BoldItalic" is "Times New Roman,BoldItalic". A font type that is neither raises 5.
 class FOLIVAR_API PDFFonts final : public Object, public ObjectWriter {
  public:
-  PDFFonts(const Internal&, std::shared_ptr<Warnings> warnings);
+  PDFFonts(const Internal&, Platform platform);
   ~PDFFonts() override;
 
   // A new font of size 10 without decorations. A standard face that does not exist is replaced by
   // another, with a warning: "Arial-Bold" by Helvetica-Bold and "Times New Roman-Bold" by
   // Times-Bold (likewise others of these two families, where there is such a standard face),
-  // anything else by Helvetica. `embed` concerns TrueType faces only.
+  // anything else by Helvetica.
+  //
+  // A TrueType face is taken from the document's font files, else from the system's fonts, which
+  // may put another in its place, with a warning. Raises 445 when there is no TrueType font at all.
+  // With `embed` the font's file goes into the PDF, unless the font forbids it, which gives a
+  // warning. Deliberate: a face that the document has already stays as it was added, embedded or
+  // not. Raises 321 and the file errors (52, 53, 70, 75, 76) for a font file that cannot be read.
   std::shared_ptr<PDFFont> Add(TextView faceName, PDFFontType fontType = fontType1,
                                bool embed = false);
 
@@ -47,8 +53,16 @@ class FOLIVAR_API PDFFonts final : public Object, public ObjectWriter {
   // Whether the document uses a face of this name and type.
   bool FontExists(TextView faceName, PDFFontType fontType) const;
 
-  // The faces that can be added: for fontType1 the fourteen standard names, sorted.
+  // The faces that can be added, sorted by name: for fontType1 the fourteen standard names, for
+  // fontTrueType the families of the document's font files and of the system, each once; with
+  // `embeddable` only those whose upright face may be embedded.
   std::vector<Text> AvailableFonts(PDFFontType fontType, bool embeddable = false) const;
+
+  // The record of a TrueType face's style, for a font that changes to it: the one that is there,
+  // else one that is made now; null when it is not there and must not be made.
+  enum class IfAbsent { kMake, kLeave };
+  std::shared_ptr<PDFFontInfo> StyledFace(const Internal&, const PDFFontInfo& face, bool isBold,
+                                          bool isItalic, IfAbsent ifAbsent);
 
  private:
   // ObjectWriter
@@ -58,13 +72,18 @@ class FOLIVAR_API PDFFonts final : public Object, public ObjectWriter {
   using FaceList = KeyedList<std::shared_ptr<PDFFontInfo>>;
 
   const FaceList& FacesOf(PDFFontType fontType) const;
-  std::shared_ptr<PDFFontInfo> FindFaceRecord(TextView name, PDFFontType fontType) const;
+  std::shared_ptr<PDFFontInfo> FindFaceRecord(const Text& name, PDFFontType fontType) const;
+  std::vector<Text> TrueTypeFaceNames(bool embeddable) const;
+  bool MayBeEmbedded(const Text& faceName) const;
   std::shared_ptr<PDFFontInfo> AddStandardFace(const Text& faceName);
+  std::shared_ptr<PDFFontInfo> AddTrueTypeFace(const Text& faceName, bool isBold, bool isItalic,
+                                               bool embed);
+  std::unique_ptr<SystemFace> SelectFace(const Text& faceName, bool isBold, bool isItalic) const;
   void AddFaceRecord(std::shared_ptr<PDFFontInfo> face);
   std::string NextResourceName() const;
   std::shared_ptr<PDFFont> FontOf(std::shared_ptr<PDFFontInfo> face);
 
-  std::shared_ptr<Warnings> warnings_;
+  Platform platform_;
   FaceList type1_{"PDFFonts"};
   FaceList trueType_{"PDFFonts"};
   std::vector<std::shared_ptr<PDFFontInfo>> all_;  // in the order of creation

@@ -2,6 +2,8 @@
 
 #include <memory>
 
+#include "folivar/fonts/FontFiles.h"
+#include "folivar/platform/SystemFonts.h"
 #include "folivar/platform/Warnings.h"
 
 namespace folivar {
@@ -9,7 +11,11 @@ namespace folivar {
 // What a document asks of the system it runs on. Handed over when the document is made; a port left
 // null is the system's own.
 struct Platform {
-  std::shared_ptr<Warnings> warnings;  // null: standard error
+  std::shared_ptr<Warnings> warnings = nullptr;        // null: Warnings::OfThisSystem
+  std::shared_ptr<SystemFonts> systemFonts = nullptr;  // null: SystemFonts::OfThisSystem
+  // Font files of the host's, which win over the system's fonts; documents may share them. Null:
+  // none at first, and PDFDocument::FontFiles may add some.
+  std::shared_ptr<FontFiles> fontFiles = nullptr;
 };
 
 }  // namespace folivar

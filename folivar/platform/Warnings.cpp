@@ -1,6 +1,7 @@
 #include "folivar/platform/Warnings.h"
 
 #include <cstdio>
+#include <string>
 #include <utility>
 
 #include "folivar/document/Error.h"
@@ -10,7 +11,10 @@ namespace {
 
 class StandardErrorWarnings final : public Warnings {
  public:
-  void Show(const Text& message) override { std::fputs((message.Utf8() + '\n').c_str(), stderr); }
+  void Show(const Text& message) override {
+    const std::string line = message.Utf8() + '\n';
+    std::fwrite(line.data(), 1, line.size(), stderr);
+  }
 };
 
 class FunctionWarnings final : public Warnings {
@@ -25,6 +29,10 @@ class FunctionWarnings final : public Warnings {
 }  // namespace
 
 Warnings::~Warnings() = default;
+
+#ifndef _WIN32
+std::shared_ptr<Warnings> Warnings::OfThisSystem() { return ToStandardError(); }
+#endif
 
 std::shared_ptr<Warnings> Warnings::ToStandardError() {
   return std::make_shared<StandardErrorWarnings>();

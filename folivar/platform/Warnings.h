@@ -18,7 +18,11 @@ class FOLIVAR_API Warnings {
 
   virtual void Show(const Text& message) = 0;
 
-  // To standard error, a line each: the default.
+  // The default. On Linux to standard error, a line each. On Windows in a message box, which waits
+  // for the user; where none can be shown (no desktop, a service) to the debugger's output and to
+  // standard error, without waiting.
+  static std::shared_ptr<Warnings> OfThisSystem();
+  // To standard error, a line each.
   static std::shared_ptr<Warnings> ToStandardError();
   // To a function of the host's. What it throws reaches the caller of the member that warned, which
   // then has changed nothing. Raises 91 for an empty function.

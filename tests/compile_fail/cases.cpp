@@ -32,6 +32,11 @@ void Host(folivar::PDFPage& page, [[maybe_unused]] folivar::ObjectNumbers& numbe
 #elif defined(CASE_FaceOfAFont)
   folivar::FaceUser& user = *page.Font();
   user.FontInfo({});
+#elif defined(CASE_StyledFace)
+  using folivar::PDFFonts;
+  const auto fonts = folivar::PDFDocument::Create()->Fonts();
+  fonts->StyledFace({}, *std::shared_ptr<folivar::PDFFontInfo>(), true, false,
+                    PDFFonts::IfAbsent::kMake);
 #elif defined(CASE_CharacterAsKey)
   page.SetTag('a');
 #elif defined(CASE_AppendNothingWrong)

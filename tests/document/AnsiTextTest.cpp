@@ -46,6 +46,23 @@ TEST(AnsiByte, IsTheByteOfTheSameValueBelow256) {
   }
 }
 
+TEST(AnsiCharacter, IsTheCharacterOfWindowsCodePage1252ForEveryByte) {
+  std::map<unsigned char, char16_t> characters;
+  for (const auto& [unit, byte] : CodePage1252()) characters[byte] = unit;
+  for (unsigned byte = 0; byte < 0x100; ++byte) {
+    const auto row = characters.find(static_cast<unsigned char>(byte));
+    EXPECT_EQ(AnsiCharacter(static_cast<char>(byte)),
+              row == characters.end() ? static_cast<char16_t>(byte) : row->second)
+        << std::hex << byte;
+  }
+}
+
+TEST(AnsiBytesToText, IsTheCharactersOfWindowsCodePage1252) {
+  EXPECT_EQ(AnsiBytesToText("\xE9\x80\x93x\x94\x96"), Text("\u00E9\u20AC\u201Cx\u201D\u2013"));
+  EXPECT_EQ(AnsiBytesToText("\x81"), Text("\u0081")) << "a byte without a character";
+  EXPECT_EQ(AnsiBytesToText(""), Text());
+}
+
 TEST(AnsiText, KeepsAscii) {
   EXPECT_EQ(BytesOf(""), "");
   EXPECT_EQ(BytesOf("plain (text)\\\n\x7F"), "plain (text)\\\n\x7F");

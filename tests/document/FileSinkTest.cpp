@@ -1,7 +1,6 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/mman.h>
-#include <sys/prctl.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -16,6 +15,7 @@
 #include "folivar/folivar.h"
 #include "tests/support/Content.h"
 #include "tests/support/TestFiles.h"
+#include "tests/support/WithoutPrivileges.h"
 
 namespace folivar::test {
 namespace {
@@ -39,25 +39,6 @@ void ExpectFileError(const std::string& name, int number, int reason) {
     EXPECT_NE(text.find(std::strerror(reason)), std::string::npos) << text;
   }
 }
-
-// Root may write anywhere, so root becomes nobody as long as this lives.
-class WithoutPrivileges {
- public:
-  WithoutPrivileges() : user_(geteuid()) {
-    constexpr uid_t kNobody = 65534;
-    if (user_ == 0 && seteuid(kNobody) != 0) throw std::runtime_error("cannot become nobody");
-  }
-  ~WithoutPrivileges() {
-    if (user_ != 0) return;
-    if (seteuid(0) != 0) std::abort();
-    prctl(PR_SET_DUMPABLE, 1);  // lost with the user; leak checkers need it
-  }
-  WithoutPrivileges(const WithoutPrivileges&) = delete;
-  WithoutPrivileges& operator=(const WithoutPrivileges&) = delete;
-
- private:
-  uid_t user_;
-};
 
 std::size_t OpenFiles() {
   const std::filesystem::directory_iterator files("/proc/self/fd");

@@ -393,6 +393,15 @@ void NaiveSort(std::vector<std::string>& strings, int lo, int hi) {
   if (i < hi) NaiveSort(strings, i, hi);
 }
 
+TEST(PdfName, WritesWhatWouldEndTheNameInHex) {
+  EXPECT_EQ(PdfName("LiberationSans,Bold"), "LiberationSans,Bold");
+  EXPECT_EQ(PdfName("CGTimes(W1)"), "CGTimes#28W1#29");
+  EXPECT_EQ(PdfName("#%()/<>[]{}"), "#23#25#28#29#2F#3C#3E#5B#5D#7B#7D");
+  EXPECT_EQ(PdfName(std::string_view("a\0\t\n b", 6)), "a#00#09#0A#20b");
+  EXPECT_EQ(PdfName("M\xFCller"), "M\xFCller");
+  EXPECT_EQ(PdfName(""), "");
+}
+
 TEST(SortStrings, SortsWithoutRegardToCase) {
   EXPECT_EQ(Sorted({"pear", "Apple", "fig", "BANANA", "apricot"}),
             (std::vector<std::string>{"Apple", "apricot", "BANANA", "fig", "pear"}));

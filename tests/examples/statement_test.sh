@@ -13,43 +13,15 @@ fi
 statement=$(realpath "$1") || exit 2
 hello=$(realpath "$2") || exit 2
 data=$(realpath "$(dirname "${BASH_SOURCE[0]}")/../../examples/data/statement.csv") || exit 2
+# shellcheck source=tests/examples/checks.sh
+source "$(dirname "${BASH_SOURCE[0]}")/checks.sh" || exit 2
 mkdir -p "$3" && cd "$3" || exit 2
-
-failures=0
-
-# check <what> <command>...: the command succeeds.
-check() {
-  local what=$1
-  shift
-  if "$@" >check.log 2>&1; then
-    echo "ok: $what"
-  else
-    echo "FAILED: $what"
-    sed 's/^/    /' check.log
-    failures=$((failures + 1))
-  fi
-}
-
-same() {
-  [[ $1 == "$2" ]] || { printf 'found:    %s\nexpected: %s\n' "$1" "$2" && false; }
-}
-
-# qpdf's exit code is 0 only without errors and warnings.
-is_sound() { qpdf --check "$1"; }
-
-# pdf_text <pdf> [<option>...]: the text line by line, blanks folded, without the rotated watermark,
-# whose letters would come back between those of the lines that they cross.
-pdf_text() {
-  local pdf=$1
-  shift
-  pdftotext -layout -nodiag -enc UTF-8 "$@" "$pdf" - | sed -E 's/[[:space:]]+/ /g; s/^ //; s/ $//'
-}
 
 page_count() { pdfinfo "$1" | awk '/^Pages:/ { print $2 }'; }
 
-# The shipped file, which holds no line breaks in quotes, without its header, as lines of "date,
-# description, amount in cents, money as printed" with tabs between them. Cents stay far below 2^53,
-# where awk counts exactly.
+# rows <csv>: a file that holds no line breaks in quotes, without its header, as lines of "date,
+# description, amount in cents, amount and balance as printed" with tabs between them. Cents stay
+# far below 2^53, where awk counts exactly.
 rows() {
   awk '
     function money(cents,   sign, text, out) {
@@ -78,11 +50,12 @@ rows() {
       }
       balance += amount
       print date "\t" description "\t" amount "\t" money(amount) "\t" money(balance)
-    }' "$data"
+    }' "$1"
 }
 
-# Each row's date, description, amount and balance stand on one line, in order. Those of a page are
-# looked for in that order; a description that does not fit is cut and ends in "...".
+# rows_come_back <text> <rows> <least count>: each row's date, description, amount and balance stand
+# on one line, in order. Those of a page are looked for in that order; a description that does not
+# fit is cut and ends in "...".
 rows_come_back() {
   awk -F '\t' '
     FNR == NR { text[FNR] = $0; lines = FNR; next }
@@ -105,12 +78,9 @@ rows_come_back() {
     END {
       if (failed) exit 1
       print rows " rows, " cut + 0 " cut"
-      exit !(rows > 300 && cut < rows / 5)
-    }' "$1" rows.tsv
+      exit !(rows >= least && cut < rows / 5)
+    }' least="$3" "$1" "$2"
 }
-
-# shows <text> <line>: the text has this line.
-shows() { grep -qxF -e "$2" "$1" || { echo "no line: $2" && false; }; }
 
 # carries <pdf>: what a page carries forward, the next one brings forward.
 carries() {
@@ -162,17 +132,6 @@ writes_pdf() {
   done
 }
 
-# fails_with <line> <command>...: exactly this one line on standard error, nothing on standard
-# output, exit code 1.
-fails_with() {
-  local expected=$1 code
-  shift
-  "$@" >stdout.log 2>stderr.log
-  code=$?
-  same "exit code $code" "exit code 1" && same "$(cat stdout.log)" "" &&
-    printf '%s\n' "$expected" | diff - stderr.log
-}
-
 # refuses <what> <line> <csv bytes>: one line on standard error, no PDF, and an older PDF is kept.
 refuses() {
   printf '%b' "$3" >bad.csv
@@ -194,34 +153,63 @@ check "hello: sound" is_sound hello.pdf
 pdf_text hello.pdf >hello.txt
 check "hello: its title" shows hello.txt "Hello, page"
 
-### The shipped statement, on each size of page
+### Long statements, on each size of page
 
-rows >rows.tsv
-opening=$(awk -F '\t' 'NR == 1 { print $4 }' rows.tsv)
-closing=$(awk -F '\t' 'END { print $5 }' rows.tsv)
-
-# total <condition on c, an amount in cents>: the sum without the opening balance, as printed.
+# total <rows> <condition on c, an amount in cents>: the sum without the opening balance, as printed.
 total() {
-  awk -F '\t' 'NR > 1 { c = $3; if ('"$1"') sum += c } END { printf "%.2f\n", sum / 100 }' \
-    rows.tsv | sed -E ':again; s/([0-9])([0-9]{3})(,|\.)/\1,\2\3/; t again'
+  awk -F '\t' 'NR > 1 { c = $3; if ('"$2"') sum += c } END { printf "%.2f\n", sum / 100 }' "$1" |
+    sed -E ':again; s/([0-9])([0-9]{3})(,|\.)/\1,\2\3/; t again'
 }
 
-while read -r size extents; do
-  pdf=$size.pdf
+# columns_align <pdf>: beyond the first page, which has other figures too, all sums of money end at
+# one of two places.
+columns_align() {
+  pdftotext -bbox -f 2 "$1" - |
+    sed -nE 's|.* xMax="([0-9.]+)".*>-?[0-9,]+\.[0-9]{2}</word>|\1|p' | sort -n | awk '
+      NR == 1 || $1 > last + 0.01 { ++places; first = $1 }
+      $1 > first + 0.01 { apart = 1 }
+      { last = $1 }
+      END {
+        print NR " sums of money end at " places " places" (apart ? ", or nearly so" : "")
+        exit !(NR > 500 && places == 2 && !apart)
+      }'
+}
+
+# writes_statement <name> <page extents> <csv> <least count of rows> <option>...: into <name>.pdf.
+writes_statement() {
+  local name=$1 extents=$2 csv=$3 least=$4 pdf=$1.pdf opening closing
+  shift 4
+  rows "$csv" >rows.tsv
+  opening=$(awk -F '\t' 'NR == 1 { print $4 }' rows.tsv)
+  closing=$(awk -F '\t' 'END { print $5 }' rows.tsv)
+
   rm -f "$pdf"
-  check "$size: runs" "$statement" --page-size "$size" "$data" "$pdf"
-  check "$size: sound" is_sound "$pdf"
-  check "$size: size of the pages" same \
+  check "$name: runs without a warning" says "" "$statement" "$@" "$csv" "$pdf"
+  check "$name: sound" is_sound "$pdf"
+  check "$name: size of the pages" same \
     "$(pdfinfo -f 1 -l 99 "$pdf" | awk '/^Page .*size:/ { print $4 "x" $6 }' | sort -u)" "$extents"
-  pdf_text "$pdf" >"$size.txt"
-  check "$size: the rows' texts come back" rows_come_back "$size.txt"
-  check "$size: opening balance, money in and out, closing balance" shows "$size.txt" \
-    "$opening $(total 'c > 0') $(total 'c < 0') $closing"
-  check "$size: total and closing balance" shows "$size.txt" \
-    "Total and closing balance $(total 1) $closing"
-  check "$size: sums carried from page to page" carries "$pdf"
-  check "$size: page numbers" is_numbered "$pdf"
-  check "$size: watermark beneath the text" draws_watermark_first "$pdf"
+  pdf_text "$pdf" >"$name.txt"
+  check "$name: the rows' texts come back" rows_come_back "$name.txt" rows.tsv "$least"
+  check "$name: opening balance, money in and out, closing balance" shows "$name.txt" \
+    "$opening $(total rows.tsv 'c > 0') $(total rows.tsv 'c < 0') $closing"
+  check "$name: total and closing balance" shows "$name.txt" \
+    "Total and closing balance $(total rows.tsv 1) $closing"
+  check "$name: money columns" columns_align "$pdf"
+  check "$name: sums carried from page to page" carries "$pdf"
+  check "$name: page numbers" is_numbered "$pdf"
+  check "$name: watermark beneath the text" draws_watermark_first "$pdf"
+}
+
+# The standard faces show ASCII, so they get the rows that are.
+LC_ALL=C grep -v '[^ -~]' "$data" >plain.csv
+use_fonts_of "$liberation"
+while read -r size extents; do
+  writes_statement "$size-standard" "$extents" plain.csv 300 --page-size "$size"
+  check "$size-standard: nothing is embedded" embeds "$size-standard.pdf" ""
+  writes_statement "$size-embedded" "$extents" "$data" 390 --page-size "$size" \
+    --font "Liberation Sans"
+  check "$size-embedded: both styles are embedded" embeds "$size-embedded.pdf" \
+    LiberationSans LiberationSans,Bold
 done <<'SIZES'
 a4 595.276x841.89
 letter 612x792
@@ -230,11 +218,67 @@ legal 612x1008
 SIZES
 
 rm -f default.pdf
-check "default: runs" "$statement" "$data" default.pdf
-check "default: is A4" cmp default.pdf a4.pdf
-qpdf --qdf --object-streams=disable a4.pdf a4.qdf
-check "viewer preferences: fit window" grep -aq '/FitWindow true' a4.qdf
-check "viewer preferences: page layout" grep -aq '/PageLayout /OneColumn' a4.qdf
+check "default: runs" "$statement" plain.csv default.pdf
+check "default: is A4 in Helvetica" cmp default.pdf a4-standard.pdf
+qpdf --qdf --object-streams=disable default.pdf default.qdf
+check "viewer preferences: fit window" grep -aq '/FitWindow true' default.qdf
+check "viewer preferences: page layout" grep -aq '/PageLayout /OneColumn' default.qdf
+
+### Fonts
+
+for line in '2026-01-13 Amélie Delacroix, invoice 4106: slip cases (4) 147.76 8,093.03' \
+  '2026-01-14 Card 7730: bakery “Morning Roll” -10.46 8,082.57' \
+  '2026-01-15 Weberei Groß, Plauen: buckram, 3 rolls (€403.50) -350.72 8,155.06'; do
+  check "accents, curly quotes, euro sign: '$line'" shows a4-embedded.txt "$line"
+done
+
+notice='statement: there are characters beyond ASCII, which Helvetica shows wrongly or not at all;'
+notice+=' --font NAME embeds a TrueType font that has them'
+rm -f noticed.pdf
+check "no font for the accents: a notice" says "$notice" "$statement" "$data" noticed.pdf
+check "no font for the accents: sound" is_sound noticed.pdf
+check "no font for the holder's accents: a notice" says "$notice" \
+  "$statement" --holder 'Café' plain.csv noticed.pdf
+
+rm -f replaced.pdf
+"$statement" --font "No Such Face" "$data" replaced.pdf 2>replaced.log
+check "unknown font: goes on" same "exit code $?" "exit code 0"
+check "unknown font: one warning that names the replacement" grep -qxE \
+  "WARNING: Font 'No Such Face' could not be found\.  Using '(Liberation [A-Z][A-Za-z ]+)' instead\." \
+  replaced.log
+check "unknown font: no other line" same "$(wc -l <replaced.log)" 1
+check "unknown font: sound" is_sound replaced.pdf
+face=$(sed -nE "s/.* Using '(.*)' instead\.$/\1/p" replaced.log | tr -d ' ')
+check "unknown font: the replacement is embedded" embeds replaced.pdf "$face" "$face,Bold"
+
+mkdir -p empty damaged
+head -c 1000 "$liberation/LiberationSans-Regular.ttf" >damaged/cut.ttf
+use_fonts_of "$PWD/empty"
+rm -f server.pdf none.pdf
+check "no fonts installed: an error that names the font" fails_with \
+  "PDFFonts.Add: Font 'Liberation Sans': there is no TrueType font, neither among the document's\
+ font files nor installed where libfontconfig.so.1 finds it" \
+  "$statement" --font "Liberation Sans" "$data" none.pdf
+check "no fonts installed: no PDF" test ! -e none.pdf
+check "font folder: runs without a warning" says "" \
+  "$statement" --font "Liberation Sans" --font-folder "$liberation" "$data" server.pdf
+check "font folder: the same bytes as from the system's fonts" cmp server.pdf a4-embedded.pdf
+rm -f server.pdf
+"$statement" --font "Liberation Sans" --font-folder damaged --font-folder "$liberation" \
+  "$data" server.pdf 2>damaged.log
+check "damaged font in a folder: goes on" same "exit code $?" "exit code 0"
+check "damaged font in a folder: named" grep -q "^statement: .*'$PWD/damaged/cut.ttf' is damaged" \
+  damaged.log
+check "damaged font in a folder: no other line" same "$(wc -l <damaged.log)" 1
+check "damaged font in a folder: the other folder counts" cmp server.pdf a4-embedded.pdf
+check "font folder that is not there: an error that names it" fails_with \
+  "FontFiles.AddFolder: Cannot read folder '$PWD/nowhere': No such file or directory" \
+  env LC_ALL=C "$statement" --font "Liberation Sans" --font-folder nowhere "$data" none.pdf
+check "font folder that is not there: no PDF" test ! -e none.pdf
+"$statement" --font-folder "$liberation" "$data" none.pdf 2>usage.log
+check "font folder without a font: refused" same "exit code $?" "exit code 2"
+check "font folder without a font: the reason" \
+  same "$(head -n 1 usage.log)" "statement: --font-folder is of no use without --font"
 
 ### What other files hold
 
@@ -302,7 +346,4 @@ check "folder: one line, exit code 1" fails_with "folder.csv: cannot be read" \
   "$statement" folder.csv none.pdf
 check "folder: no PDF" test ! -e none.pdf
 
-if ((failures > 0)); then
-  echo "$failures failed"
-  exit 1
-fi
+finish

@@ -205,12 +205,6 @@ TEST_F(PDFFontsOfADocument, AvailableFontsAreTheFourteenInTheirOrder) {
   for (std::size_t i = 0; i < names.size(); ++i) EXPECT_EQ(names[i], kStandardFaces[i]);
 }
 
-TEST_F(PDFFontsOfADocument, ATrueTypeFaceRaises445AndAddsNothing) {
-  EXPECT_EQ(ErrorNumberOf([&] { fonts_->Add("Arial", fontTrueType); }), 445);
-  EXPECT_EQ(fonts_->count(fontTrueType), 0);
-  EXPECT_EQ(NameOf(*fonts_->Add("Courier")), "/F1");
-}
-
 TEST_F(PDFFontsOfADocument, EveryFaceIsWrittenOnceInTheOrderOfCreation) {
   fonts_->Add("times-ROMAN");
   fonts_->Add("Arial-Bold");

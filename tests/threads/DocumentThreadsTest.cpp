@@ -1,23 +1,34 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include "folivar/folivar.h"
+#include "tests/support/PackagedFonts.h"
 #include "tests/support/TestFiles.h"
 
-// Runs under the thread sanitizer. The faces' metrics are read on first use, by all threads at
-// once.
+// Runs under the thread sanitizer. The faces' metrics, font files and font programs are read on
+// first use, by all threads at once.
 
 namespace folivar::test {
 namespace {
 
 constexpr std::size_t kThreads = 8;
 
-void WriteDocument(const std::u16string& path) {
-  const auto document = PDFDocument::Create({Warnings::To([](const Text&) {})});
+// The documents share the font files, not the fonts.
+void WriteDocument(const std::u16string& path, const std::shared_ptr<FontFiles>& fontFiles) {
+  const auto document = PDFDocument::Create({Warnings::To([](const Text&) {}), nullptr, fontFiles});
+  fontFiles->AddFile(PackagedFont("liberation/LiberationSerif-Regular.ttf").u8string());
+  for (const char* name : {"Liberation Sans", "Liberation Serif"}) {
+    const auto font = document->Fonts()->Add(name, fontTrueType, true);
+    font->SetBold(true);
+    const auto page = document->Pages()->Add();
+    page->SetFont(font);
+    page->DrawText("TrueType", 72, 700);
+  }
   for (const Text& name : document->Fonts()->AvailableFonts(fontType1)) {
     const auto page = document->Pages()->Add(name);
     page->SetFont(document->Fonts()->Add(name));
@@ -36,9 +47,12 @@ TEST(DocumentThreads, EightThreadsWriteEightEqualFiles) {
   for (std::size_t i = 0; i < kThreads; ++i) {
     paths.push_back(OutputPath("thread" + std::to_string(i) + ".pdf").u16string());
   }
+  const auto fontFiles = std::make_shared<FontFiles>();
+  fontFiles->AddFile(PackagedFont("liberation/LiberationSans-Regular.ttf").u8string());
   std::vector<std::thread> threads;
   threads.reserve(kThreads);
-  for (const auto& path : paths) threads.emplace_back([path] { WriteDocument(path); });
+  for (const auto& path : paths)
+    threads.emplace_back([&, path] { WriteDocument(path, fontFiles); });
   for (auto& thread : threads) thread.join();
 
   const std::string first = ReadBytes(paths[0]);

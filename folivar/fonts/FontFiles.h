@@ -1,0 +1,53 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <vector>
+
+#include "folivar/document/Api.h"
+#include "folivar/document/Text.h"
+#include "folivar/platform/SystemFonts.h"
+
+namespace folivar {
+
+struct FontFileFace;
+
+// TrueType fonts from files that the host names, for systems that have no fonts installed or not
+// the right ones. They win over the system's: a family that is here is taken from here, in the
+// nearest style that is here, the one added first of several. May be shared by documents, in
+// several threads too. The files are opened again when their faces are used, so they must stay
+// where they are; relative names are taken from the folder that is the working folder when they are
+// added.
+class FOLIVAR_API FontFiles final : public SystemFonts {
+ public:
+  FontFiles();
+  ~FontFiles() override;
+
+  // Adds the faces of a font file (.ttf), or of every font in a collection (.ttc). Raises 53 for a
+  // file that is not there, 52, 70, 75 or 76 for one that cannot be read, and 321 for one that is
+  // damaged or has no TrueType outlines.
+  void AddFile(TextView fileName);
+
+  // Adds every file of the folder and of those below it whose name ends in ".ttf", ".ttc" or
+  // ".otf", in any case; links to folders are not followed. What cannot be added (files that
+  // AddFile would refuse, folders that cannot be read) is left out and returned as a sentence each,
+  // which names it and the reason. Raises 52, 70, 75 or 76 for a folder that cannot be read itself.
+  std::vector<Text> AddFolder(TextView folderName);
+
+  // Null for a family that is not here.
+  std::unique_ptr<SystemFace> SelectFace(const Text& name, bool isBold, bool isItalic) override;
+
+  std::vector<Text> FaceNames() override;
+
+ private:
+  void Add(const std::filesystem::path& path);
+
+  std::mutex mutex_;
+  // By the family's name, its case folded; the faces added first come first.
+  std::multimap<std::u16string, FontFileFace> faces_;
+};
+
+}  // namespace folivar

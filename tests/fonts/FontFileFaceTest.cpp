@@ -1,0 +1,203 @@
+#include <gtest/gtest.h>
+
+#include <array>
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "folivar/fonts/FontFileFace.h"
+#include "folivar/fonts/PDFFontInfo.h"
+#include "tests/support/Content.h"
+#include "tests/support/FontBuilder.h"
+#include "tests/support/FreeTypeFace.h"
+#include "tests/support/PackagedFonts.h"
+#include "tests/support/TestFiles.h"
+
+namespace folivar::test {
+namespace {
+
+using std::filesystem::path;
+
+std::vector<FontFileFace> FacesIn(const path& file) { return FacesInFile(Text(file.u8string())); }
+
+path Written(std::string_view name, std::string_view bytes) {
+  path file = OutputPath(name);
+  WriteBytes(file, bytes);
+  return file;
+}
+
+TEST(FontFileFace, InstalledFilesHoldTheFaceThatFreeTypeSees) {
+  for (const path& file : PackagedFonts()) {
+    SCOPED_TRACE(file);
+    const FreeTypeFace expected(ReadBytes(file));
+    const std::vector<FontFileFace> faces = FacesIn(file);
+    ASSERT_EQ(faces.size(), 1U);
+    EXPECT_EQ(faces[0].fileName.Utf8(), file.string());
+    EXPECT_EQ(faces[0].index, 0U);
+    EXPECT_EQ(faces[0].family.Utf8(), expected.Family());
+    EXPECT_EQ(faces[0].isBold, expected.IsBold());
+    EXPECT_EQ(faces[0].isItalic, expected.IsItalic());
+  }
+}
+
+TEST(FontFileFace, RecordsOfInstalledFilesMeasureAsInFreeType) {
+  for (const path& file : PackagedFonts()) {
+    SCOPED_TRACE(file);
+    const FreeTypeFace expected(ReadBytes(file));
+    const FontFileFace face = FacesIn(file).at(0);
+    PDFFontInfo record;
+    const auto warnings = Warnings::To([](const Text& message) { FAIL() << message.Utf8(); });
+    record.LoadTrueTypeMetrics(face.family, *OpenFace(face, face.isBold), *warnings);
+
+    EXPECT_EQ(record.m_FontFace, face.family);
+    EXPECT_EQ(record.m_Ascender, static_cast<float>(expected.Ascent()));
+    EXPECT_EQ(record.m_Descender, static_cast<float>(-expected.Descent()));
+    // Truncated toward zero, as C++ divides.
+    std::array<float, 4> box = {};
+    for (std::size_t side = 0; side < box.size(); ++side) {
+      const int thousandths = expected.Box().at(side) * 1000 / expected.UnitsPerEm();
+      box.at(side) = static_cast<float>(thousandths);
+    }
+    EXPECT_EQ((std::array{record.FontBoxLeft(), record.FontBoxBottom(), record.FontBoxRight(),
+                          record.FontBoxTop()}),
+              box);
+    std::array<int, 256> widths = expected.Widths();
+    widths[10] = 0;  // by rule, whatever the font says
+    widths[12] = 0;
+    for (std::size_t code = 0; code < widths.size(); ++code) {
+      const char byte = static_cast<char>(code);
+      EXPECT_EQ(record.MeasureWidth({&byte, 1}), static_cast<float>(widths.at(code))) << code;
+    }
+  }
+}
+
+TEST(FontFileFace, TheFacesOfACollectionComeInTheirOrder) {
+  FontBuilder bold;
+  SetU16(bold.tables["OS/2"], 62, 0x20);
+  FontBuilder postScript;
+  postScript.version = 0x4F54544F;  // "OTTO"
+  FontBuilder other;
+  other.tables["name"] = NameTable({{.bytes = BigEndian(u"Other")}});
+  SetU16(other.tables["OS/2"], 62, 0x01);
+  const path file = Written("fonts.ttc", BuildCollection({FontBuilder(), postScript, bold, other}));
+  const std::vector<FontFileFace> faces = FacesIn(file);
+  ASSERT_EQ(faces.size(), 3U);
+  const auto seen = [&](std::size_t i) {
+    return std::tuple(faces[i].index, faces[i].family.Utf8(), faces[i].isBold, faces[i].isItalic);
+  };
+  EXPECT_EQ(seen(0), std::tuple(0U, "Test Sans", false, false));
+  EXPECT_EQ(seen(1), std::tuple(2U, "Test Sans", true, false)) << "the second is not TrueType";
+  EXPECT_EQ(seen(2), std::tuple(3U, "Other", false, true));
+}
+
+TEST(FontFileFace, EachFaceOfACollectionHasItsOwnProgram) {
+  FontBuilder wide;
+  SetU16(wide.tables["hmtx"], 4, 999);
+  const path file = Written("fonts.ttc", BuildCollection({FontBuilder(), wide}));
+  const std::vector<FontFileFace> faces = FacesIn(file);
+  const auto first = OpenFace(faces.at(0), false)->Program();
+  const auto second = OpenFace(faces.at(1), false)->Program();
+  EXPECT_EQ(FreeTypeFace(*first).Widths()['A'], 101);
+  EXPECT_EQ(FreeTypeFace(*second).Widths()['A'], 999);
+  EXPECT_EQ(OpenFace(faces.at(1), false)->Program(), second);
+}
+
+TEST(FontFileFace, PostScriptFontsHoldNoFace) {
+  FontBuilder font;
+  font.version = 0x4F54544F;
+  EXPECT_TRUE(FacesIn(Written("cff.otf", font.Build())).empty());
+}
+
+TEST(FontFileFace, AFaceThatIsNotBoldIsThickenedByOneUnitWhenBoldIsWanted) {
+  const path regular = PackagedFont("liberation/LiberationSans-Regular.ttf");
+  std::array<int, 256> expected = FreeTypeFace(ReadBytes(regular)).Widths();
+  const FontFileFace face = FacesIn(regular).at(0);
+  EXPECT_EQ(OpenFace(face, false)->Widths(), expected);
+  for (int& width : expected) ++width;
+  EXPECT_EQ(OpenFace(face, true)->Widths(), expected);
+
+  const path bold = PackagedFont("liberation/LiberationSans-Bold.ttf");
+  const FontFileFace boldFace = FacesIn(bold).at(0);
+  EXPECT_EQ(OpenFace(boldFace, true)->Widths(), FreeTypeFace(ReadBytes(bold)).Widths());
+  EXPECT_EQ(OpenFace(boldFace, false)->Widths(), FreeTypeFace(ReadBytes(bold)).Widths());
+}
+
+TEST(FontFileFace, TheNearestStyleCountsItalicBeforeBold) {
+  const auto face = [](bool isBold, bool isItalic, const char* name) {
+    return FontFileFace{Text(name), 0, Text("Test"), isBold, isItalic};
+  };
+  const FontFileFace regular = face(false, false, "regular");
+  const FontFileFace bold = face(true, false, "bold");
+  const FontFileFace italic = face(false, true, "italic");
+  const FontFileFace both = face(true, true, "both");
+  const auto nearest = [](const std::vector<FontFileFace>& faces, bool isBold, bool isItalic) {
+    return NearestStyle(faces, isBold, isItalic).fileName.Utf8();
+  };
+  const std::vector<FontFileFace> all = {regular, bold, italic, both};
+  EXPECT_EQ(nearest(all, false, false), "regular");
+  EXPECT_EQ(nearest(all, true, false), "bold");
+  EXPECT_EQ(nearest(all, false, true), "italic");
+  EXPECT_EQ(nearest(all, true, true), "both");
+  EXPECT_EQ(nearest({regular, bold, italic}, true, true), "italic");
+  EXPECT_EQ(nearest({regular, bold}, true, true), "bold");
+  EXPECT_EQ(nearest({both, italic, bold}, false, false), "bold");
+  EXPECT_EQ(nearest({both, italic}, false, false), "italic");
+  EXPECT_EQ(nearest({both, italic}, true, false), "both");
+  EXPECT_EQ(nearest({both}, false, false), "both");
+  EXPECT_EQ(nearest({regular, face(false, false, "second")}, false, false), "regular");
+}
+
+TEST(FontFileFace, AFileThatIsNotThereRaises53) {
+  EXPECT_EQ(ErrorNumberOf([] { FacesIn("no/such.ttf"); }), 53);
+}
+
+TEST(FontFileFace, ADamagedFileIsNamedWithItsTable) {
+  FontBuilder font;
+  font.tables.erase("hmtx");
+  const path file = Written("damaged.ttf", font.Build());
+  EXPECT_EQ(ErrorNumberOf([&] { FacesIn(file); }), 321);
+  EXPECT_EQ(ErrorTextOf([&] { FacesIn(file); }),
+            "Font file '" + file.string() + "' is damaged: it has no table 'hmtx'");
+}
+
+TEST(FontFileFace, AFileThatIsDamagedSinceItWasListedIsNamed) {
+  const path file = Written("font.ttf", FontBuilder().Build());
+  const FontFileFace face = FacesIn(file).at(0);
+  WriteBytes(file, FontBuilder().Build().substr(0, 200));
+  EXPECT_EQ(ErrorNumberOf([&] { OpenFace(face, false); }), 321);
+  EXPECT_NE(ErrorTextOf([&] { OpenFace(face, false); }).find(file.string()), std::string::npos);
+}
+
+// A hundred thousand fonts at the same place, each with a long list of tables or of names: to read
+// them all would take minutes.
+TEST(FontFileFace, ACollectionOfOneFontManyTimesIsRefusedAtOnce) {
+  constexpr std::uint32_t kFonts = 100'000;
+  FontBuilder ofTables;
+  for (std::uint32_t i = 0; i < 30'000; ++i) ofTables.tables["z" + U32(i).substr(1)] = "";
+  FontBuilder ofNames;
+  ofNames.tables["name"] = NameTable(std::vector<FontName>(5000, {.bytes = BigEndian(u"A")}));
+  for (const FontBuilder& font : {ofTables, ofNames}) {
+    std::string one = BuildCollection({font});
+    std::string file = one.substr(0, 8) + U32(kFonts);
+    // Where the fonts begin, and their tables, moves behind the list of fonts.
+    constexpr std::uint32_t kMoved = 4 * (kFonts - 1);
+    for (std::uint32_t i = 0; i < kFonts; ++i) file += U32(16 + kMoved);
+    for (std::size_t i = 0; i < font.tables.size(); ++i) {
+      const std::size_t record = 16 + 12 + 16 * i;
+      SetU32(one, record + 8, U32In(one, record + 8) + kMoved);
+    }
+    const path written = Written("many.ttc", file + one.substr(16));
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(ErrorNumberOf([&] { FacesIn(written); }), 321);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+    EXPECT_EQ(ErrorTextOf([&] { FacesIn(written); }),
+              "Font file '" + written.string() + "' is damaged: its fonts overlap");
+  }
+}
+
+}  // namespace
+}  // namespace folivar::test
