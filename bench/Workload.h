@@ -15,8 +15,8 @@
 // A program names its Document and calls RunWorkload<Document>(argc, argv) from main. A Document
 // writes one file:
 //
-//   explicit Document(std::string path);
-//   void BeginPage();                                   // US Letter, Helvetica 10
+//   Document(std::string path, std::string fontFile);
+//   void BeginPage();                                   // US Letter, font size 10
 //   void DrawText(const std::string& line, Point at);   // one line of text
 //   void StrokeLine(Color, Point from, Point to);
 //   void StrokeRect(Color, Rect);
@@ -25,7 +25,8 @@
 //   void EndPage();
 //   void Save();
 //
-// Lengths are points from the bottom left corner of the page.
+// Lengths are points from the bottom left corner of the page. Text is in the TrueType font of the
+// font file, which is embedded; without a font file it is in Helvetica.
 
 namespace bench {
 
@@ -92,18 +93,19 @@ class Lines {
 template <class Document>
 class Workloads {
  public:
-  explicit Workloads(std::string folder) : folder_(std::move(folder)) {}
+  Workloads(std::string folder, std::string fontFile)
+      : folder_(std::move(folder)), fontFile_(std::move(fontFile)) {}
 
   // `size` pages of `lineCount` lines.
   void Text(std::size_t size, std::size_t lineCount) {
-    Document document(PathOf(0));
+    Document document(PathOf(0), fontFile_);
     for (std::size_t page = 0; page < size; ++page) AddTextPage(document, page, lineCount);
     document.Save();
   }
 
   // `size` pages of 1,000 lines and rectangles, each with colours of its own.
   void Vector(std::size_t size) {
-    Document document(PathOf(0));
+    Document document(PathOf(0), fontFile_);
     for (std::size_t page = 0; page < size; ++page) {
       document.BeginPage();
       for (std::size_t primitive = 0; primitive < 1000; ++primitive) Draw(document, primitive % 4);
@@ -115,7 +117,7 @@ class Workloads {
   // `size` documents of one page with `lineCount` lines.
   void Documents(std::size_t size, std::size_t lineCount) {
     for (std::size_t number = 0; number < size; ++number) {
-      Document document(PathOf(number));
+      Document document(PathOf(number), fontFile_);
       AddTextPage(document, number, lineCount);
       document.Save();
     }
@@ -163,14 +165,16 @@ class Workloads {
   }
 
   std::string folder_;
+  std::string fontFile_;
   Lines lines_;
   Sequence sequence_;
 };
 
-// NAME SIZE FOLDER; the files are FOLDER/0.pdf, FOLDER/1.pdf and so on.
+// NAME SIZE FOLDER [FONT_FILE]; the files are FOLDER/0.pdf, FOLDER/1.pdf and so on.
 template <class Document>
-void RunNamed(std::string_view name, std::size_t size, const std::string& folder) {
-  Workloads<Document> workloads(folder);
+void RunNamed(std::string_view name, std::size_t size, const std::string& folder,
+              const std::string& fontFile) {
+  Workloads<Document> workloads(folder, fontFile);
   if (name == "text") {
     workloads.Text(size, 60);
   } else if (name == "light") {
@@ -200,8 +204,10 @@ inline std::size_t NumberFrom(std::string_view digits) {
 template <class Document>
 int RunWorkload(int argc, char** argv) {
   try {
-    if (argc != 4) throw std::runtime_error("Arguments: WORKLOAD SIZE FOLDER");
-    RunNamed<Document>(argv[1], NumberFrom(argv[2]), argv[3]);
+    if (argc < 4 || argc > 5) {
+      throw std::runtime_error("Arguments: WORKLOAD SIZE FOLDER [FONT_FILE]");
+    }
+    RunNamed<Document>(argv[1], NumberFrom(argv[2]), argv[3], argc > 4 ? argv[4] : "");
     return 0;
   } catch (const std::exception& error) {
     std::fprintf(stderr, "%s: %s\n", argv[0], error.what());

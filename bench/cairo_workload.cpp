@@ -1,5 +1,9 @@
+#include <cairo-ft.h>
 #include <cairo-pdf.h>
 #include <cairo.h>
+#include <ft2build.h>
+
+#include FT_FREETYPE_H
 
 #include <memory>
 #include <stdexcept>
@@ -15,16 +19,43 @@ void Check(cairo_status_t status) {
   }
 }
 
-// Cairo has no standard faces: it takes what the system offers as Helvetica and embeds the part of
-// it that is used. It compresses streams, which cannot be switched off, and counts downwards from
-// the top of the page.
+void Check(FT_Error error) {
+  if (error != 0) throw std::runtime_error("FreeType: error " + std::to_string(error));
+}
+
+class FreeType {
+ public:
+  FreeType() { Check(FT_Init_FreeType(&library_)); }
+  ~FreeType() { FT_Done_FreeType(library_); }
+  FreeType(const FreeType&) = delete;
+  FreeType& operator=(const FreeType&) = delete;
+
+  // Owned by the library.
+  FT_Face Open(const std::string& fontFile) {
+    FT_Face face = nullptr;
+    Check(FT_New_Face(library_, fontFile.c_str(), 0, &face));
+    return face;
+  }
+
+ private:
+  FT_Library library_ = nullptr;
+};
+
+// Cairo has no standard faces: without a font file it takes what the system offers as Helvetica. It
+// embeds the part of a font that is used. It compresses streams, which cannot be switched off, and
+// counts downwards from the top of the page.
 class Document {
  public:
-  explicit Document(const std::string& path)
+  Document(const std::string& path, const std::string& fontFile)
       : surface_(cairo_pdf_surface_create(path.c_str(), bench::kPageWidth, bench::kPageHeight)),
         context_(cairo_create(surface_.get())) {
     cairo_t* cairo = context_.get();
-    cairo_select_font_face(cairo, "Helvetica", CAIRO_FONT_SLANT_NORMAL, CAIRO_FONT_WEIGHT_NORMAL);
+    if (fontFile.empty()) {
+      cairo_select_font_face(cairo, "Helvetica", CAIRO_FONT_SLANT_NORMAL, CAIRO_FONT_WEIGHT_NORMAL);
+    } else {
+      face_.reset(cairo_ft_font_face_create_for_ft_face(FreeTypeOfProcess().Open(fontFile), 0));
+      cairo_set_font_face(cairo, face_.get());
+    }
     cairo_set_font_size(cairo, bench::kFontSize);
     cairo_set_line_width(cairo, 1);
     Check(cairo_status(cairo));
@@ -76,7 +107,14 @@ class Document {
   struct Destroyer {
     void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
     void operator()(cairo_t* context) const { cairo_destroy(context); }
+    void operator()(cairo_font_face_t* face) const { cairo_font_face_destroy(face); }
   };
+
+  // Cairo keeps faces that it has used.
+  static FreeType& FreeTypeOfProcess() {
+    static FreeType freeType;
+    return freeType;
+  }
 
   static double Down(float y) { return bench::kPageHeight - y; }
 
@@ -90,6 +128,7 @@ class Document {
                     rect.height);
   }
 
+  std::unique_ptr<cairo_font_face_t, Destroyer> face_;  // null without a font file
   std::unique_ptr<cairo_surface_t, Destroyer> surface_;
   std::unique_ptr<cairo_t, Destroyer> context_;
 };

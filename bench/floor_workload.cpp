@@ -2,6 +2,7 @@
 #include <cstddef>
 #include <cstdio>
 #include <exception>
+#include <filesystem>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -9,7 +10,7 @@
 #include "Workload.h"
 
 // The least that any library has to do: BYTES bytes, spread evenly over FILES files in FOLDER,
-// written in pieces of at most 1 MiB.
+// written in pieces of at most 1 MiB, once FONT_FILE is read.
 
 namespace {
 
@@ -32,11 +33,25 @@ void WriteFile(const std::string& path, std::size_t size, const std::string& pie
   }
 }
 
+std::string ReadFile(const char* path) {
+  const std::unique_ptr<std::FILE, Closer> file(std::fopen(path, "rb"));
+  if (!file) throw std::runtime_error(std::string("Cannot open '") + path + "'");
+  std::setvbuf(file.get(), nullptr, _IONBF, 0);
+  std::string bytes(std::filesystem::file_size(path), '\0');
+  if (std::fread(bytes.data(), 1, bytes.size(), file.get()) != bytes.size()) {
+    throw std::runtime_error(std::string("Cannot read '") + path + "'");
+  }
+  return bytes;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   try {
-    if (argc != 4) throw std::runtime_error("Arguments: FILES BYTES FOLDER");
+    if (argc < 4 || argc > 5) {
+      throw std::runtime_error("Arguments: FILES BYTES FOLDER [FONT_FILE]");
+    }
+    const std::string font = argc > 4 ? ReadFile(argv[4]) : std::string();
     const std::size_t fileCount = bench::NumberFrom(argv[1]);
     const std::size_t size = bench::NumberFrom(argv[2]);
     const std::string piece(std::min(kPiece, size), 'x');

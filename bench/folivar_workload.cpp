@@ -15,11 +15,19 @@ std::int32_t Packed(bench::Color color) {
 
 class Document {
  public:
-  explicit Document(std::string path) : path_(std::move(path)) {}
+  Document(std::string path, const std::string& fontFile) : path_(std::move(path)) {
+    if (fontFile.empty()) return;
+    document_->FontFiles()->AddFile(fontFile);
+    const bool embed = true;
+    font_ = document_->Fonts()->Add(document_->FontFiles()->FaceNames().front(),
+                                    folivar::fontTrueType, embed);
+    font_->SetSize(bench::kFontSize);
+  }
 
   void BeginPage() {
     page_ = document_->Pages()->Add();
     state_ = page_->GraphicsState();
+    if (font_) page_->SetFont(font_);
   }
 
   void DrawText(const std::string& line, bench::Point at) { page_->DrawText(line, at.x, at.y); }
@@ -52,6 +60,7 @@ class Document {
  private:
   std::string path_;
   std::shared_ptr<folivar::PDFDocument> document_ = folivar::PDFDocument::Create();
+  std::shared_ptr<folivar::PDFFont> font_;  // null: the document's own, Helvetica 10
   std::shared_ptr<folivar::PDFPage> page_;
   std::shared_ptr<folivar::PDFGraphicsState> state_;
 };

@@ -26,10 +26,15 @@ float Share(std::uint8_t component) { return static_cast<float>(component) / 255
 // as the library allows.
 class Document {
  public:
-  explicit Document(std::string path)
+  Document(std::string path, const std::string& fontFile)
       : path_(std::move(path)), document_(Check(HPDF_New(nullptr, nullptr))) {
     Check(HPDF_SetCompressionMode(document_.get(), HPDF_COMP_NONE));
-    font_ = Check(HPDF_GetFont(document_.get(), "Helvetica", nullptr));
+    const bool isStandard = fontFile.empty();
+    const char* name =
+        isStandard ? "Helvetica"
+                   : Check(HPDF_LoadTTFontFromFile(document_.get(), fontFile.c_str(), HPDF_TRUE));
+    const char* encoding = isStandard ? nullptr : "WinAnsiEncoding";
+    font_ = Check(HPDF_GetFont(document_.get(), name, encoding));
   }
 
   void BeginPage() {
