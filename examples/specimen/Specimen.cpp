@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "CodePage1252.h"
+#include "common/Color.h"
 
 using folivar::htaCenter;
 using folivar::htaLeft;
@@ -22,11 +23,6 @@ using folivar::Text;
 using folivar::TextView;
 
 namespace {
-
-// As the library takes colours: red in the low byte.
-constexpr std::int32_t Rgb(std::int32_t red, std::int32_t green, std::int32_t blue) {
-  return red | green << 8 | blue << 16;
-}
 
 constexpr std::int32_t kInk = Rgb(0x22, 0x26, 0x2B);
 constexpr std::int32_t kQuietInk = Rgb(0x6B, 0x72, 0x7A);

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "Specimen.h"
+#include "common/UsageError.h"
 
 namespace {
 
@@ -19,11 +20,6 @@ constexpr std::string_view kUsage =
     "Without a FAMILY all that are installed or in the folders are shown.";
 
 void Warn(std::string_view notice) { std::cerr << "specimen: " << notice << '\n'; }
-
-class UsageError : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
 
 struct Options {
   std::vector<std::string> fontFolders;

@@ -3,58 +3,15 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cstddef>
 #include <stdexcept>
 #include <string_view>
 #include <utility>
 
-#include "CsvReader.h"
-#include "InputError.h"
+#include "common/CsvTable.h"
+#include "common/InputError.h"
+#include "common/InputText.h"
 
 namespace {
-
-constexpr std::string_view kBlanks = " \t";
-constexpr std::size_t kLongestQuote = 40;
-
-std::string_view Trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
-std::string LowerCase(std::string_view text) {
-  std::string lower(text);
-  for (char& c : lower) {
-    if (c >= 'A' && c <= 'Z') c += 'a' - 'A';
-  }
-  return lower;
-}
-
-// Line breaks, tabs and other control characters become blanks, a run of blanks one.
-std::string SingleLine(std::string_view text) {
-  std::string line;
-  for (char c : text) {
-    const bool isBlank = (c >= '\0' && c <= ' ') || c == '\x7F';
-    if (!isBlank) {
-      line += c;
-    } else if (!line.empty() && line.back() != ' ') {
-      line += ' ';
-    }
-  }
-  if (line.ends_with(' ')) line.pop_back();
-  return line;
-}
-
-// "amount '12,x'": the culprit in an error text, cut when it is long.
-std::string Quoted(std::string_view name, std::string_view value) {
-  std::string quoted(value);
-  if (quoted.size() > kLongestQuote) {
-    std::size_t end = kLongestQuote;
-    while ((quoted[end] & 0xC0) == 0x80) --end;  // never within a UTF-8 sequence
-    quoted = quoted.substr(0, end) + "...";
-  }
-  return std::string(name) + " '" + quoted + "'";
-}
 
 // `text` must be digits only.
 template <class Number>
@@ -81,12 +38,12 @@ Date ParseDate(std::string_view text) {
 // Turns the records of one file into a statement.
 class StatementReader {
  public:
-  explicit StatementReader(const std::string& path) : path_(path), reader_(path) {}
+  explicit StatementReader(const std::string& path)
+      : path_(path), table_(path, {kColumnNames.begin(), kColumnNames.end()}) {}
 
   Statement Read() {
-    ReadHeader();
     bool isFirst = true;
-    while (const auto record = reader_.Next()) {
+    while (const auto record = table_.Next()) {
       ReadLine(*record, isFirst);
       isFirst = false;
     }
@@ -98,34 +55,9 @@ class StatementReader {
   static constexpr std::array<std::string_view, kColumnCount> kColumnNames = {"date", "description",
                                                                               "amount"};
 
-  void ReadHeader() {
-    const auto header = reader_.Next();
-    if (!header) {
-      throw InputError(path_, reader_.Line(),
-                       "the file is empty where a header with date, description and amount "
-                       "is expected");
-    }
-    fieldCount_ = header->fields.size();
-    for (std::size_t column = 0; column < kColumnCount; ++column) {
-      place_[column] = FindColumn(*header, kColumnNames[column]);
-    }
-  }
-
-  std::size_t FindColumn(const CsvRecord& header, std::string_view name) const {
-    const auto isNamed = [name](const std::string& field) {
-      return LowerCase(Trimmed(field)) == name;
-    };
-    const auto& fields = header.fields;
-    const auto found = std::find_if(fields.begin(), fields.end(), isNamed);
-    if (found == fields.end()) {
-      throw InputError(path_, header.line, "the header has no column '" + std::string(name) + "'");
-    }
-    return static_cast<std::size_t>(found - fields.begin());
-  }
-
   template <class Parse>
   auto Parsed(const CsvRecord& record, Column column, Parse parse) const {
-    const std::string_view value = Trimmed(record.fields[place_[column]]);
+    const std::string_view value = Trimmed(record.fields[column]);
     try {
       return parse(value);
     } catch (const std::invalid_argument& error) {
@@ -135,14 +67,9 @@ class StatementReader {
   }
 
   void ReadLine(const CsvRecord& record, bool isFirst) {
-    if (record.fields.size() != fieldCount_) {
-      throw InputError(path_, record.line,
-                       std::to_string(record.fields.size()) + " fields where the header has " +
-                           std::to_string(fieldCount_));
-    }
     const Date date = Parsed(record, kDate, ParseDate);
     const Cents amount = Parsed(record, kAmount, ParseCents);
-    std::string description = SingleLine(record.fields[place_[kDescription]]);
+    std::string description = SingleLine(record.fields[kDescription]);
 
     ExtendPeriod(date);
     if (isFirst && LowerCase(description) == "opening balance") {
@@ -166,9 +93,7 @@ class StatementReader {
   }
 
   std::string path_;
-  CsvReader reader_;
-  std::size_t fieldCount_ = 0;
-  std::array<std::size_t, kColumnCount> place_{};
+  CsvTable table_;
   Statement statement_;
 };
 

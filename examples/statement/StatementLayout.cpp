@@ -10,6 +10,9 @@
 #include <utility>
 #include <vector>
 
+#include "common/Color.h"
+#include "common/FittedText.h"
+
 using folivar::htaLeft;
 using folivar::htaRight;
 using folivar::PDFDocument;
@@ -18,11 +21,6 @@ using folivar::PDFHorzTextAlignment;
 using folivar::PDFPage;
 
 namespace {
-
-// As the library takes colours: red in the low byte.
-constexpr std::int32_t Rgb(std::int32_t red, std::int32_t green, std::int32_t blue) {
-  return red | green << 8 | blue << 16;
-}
 
 constexpr std::int32_t kInk = Rgb(0x22, 0x26, 0x2B);
 constexpr std::int32_t kQuietInk = Rgb(0x6B, 0x72, 0x7A);
@@ -72,25 +70,6 @@ std::string PeriodText(const Statement& statement) {
   return LongDate(statement.period->first) + " to " + LongDate(statement.period->last);
 }
 
-// The text if it fits into the width, else as much of its beginning as fits with "..." after it.
-std::u16string Shortened(const std::string& utf8, const PDFFont& font, float width) {
-  std::u16string text = folivar::Text(utf8).Utf16();
-  if (font.TextWidth(text) <= width) return text;
-
-  const auto shortenedTo = [&text](std::size_t length) {
-    std::u16string start = text.substr(0, length);
-    while (start.ends_with(u' ')) start.pop_back();
-    return start + u"...";
-  };
-  std::size_t fits = 0;
-  std::size_t tooLong = text.size();
-  while (tooLong - fits > 1) {
-    const std::size_t middle = fits + (tooLong - fits) / 2;
-    (font.TextWidth(shortenedTo(middle)) <= width ? fits : tooLong) = middle;
-  }
-  return shortenedTo(fits);
-}
-
 // Draws one statement. All measures are points; y grows upwards.
 class StatementLayout {
  public:
@@ -106,8 +85,6 @@ class StatementLayout {
     std::size_t end;
   };
 
-  static std::shared_ptr<PDFDocument> MakeDocument(const Typeface& typeface);
-  std::shared_ptr<PDFFont> RegularFace(const Typeface& typeface) const;
   std::shared_ptr<PDFFont> BoldFace(const Typeface& typeface) const;
   TextStyle Style(const std::shared_ptr<PDFFont>& face, float size, std::int32_t color) const;
   void PlaceColumns();
@@ -176,7 +153,7 @@ StatementLayout::StatementLayout(const Statement& statement, const std::string& 
       size_(pageSize),
       unit_(pageSize.textScale),
       document_(MakeDocument(typeface)),
-      regular_(RegularFace(typeface)),
+      regular_(AddUpright(*document_, typeface, "Helvetica")),
       bold_(BoldFace(typeface)),
       title_(Style(bold_, 22, kInk)),
       subtitle_(Style(regular_, 10, kQuietInk)),
@@ -203,19 +180,6 @@ StatementLayout::StatementLayout(const Statement& statement, const std::string& 
   const auto preferences = document_->ViewerPreferences();
   preferences->SetPageLayout(folivar::plsOneColumn);
   preferences->SetFitWindow(true);
-}
-
-std::shared_ptr<PDFDocument> StatementLayout::MakeDocument(const Typeface& typeface) {
-  folivar::Platform platform;
-  platform.fontFiles = typeface.files;
-  return PDFDocument::Create(platform);
-}
-
-std::shared_ptr<PDFFont> StatementLayout::RegularFace(const Typeface& typeface) const {
-  const auto fonts = document_->Fonts();
-  if (typeface.family.empty()) return fonts->Add("Helvetica");
-  const bool embed = true;
-  return fonts->Add(typeface.family, folivar::fontTrueType, embed);
 }
 
 // The styles of a TrueType family are one font that changes, the standard faces fonts of their own.

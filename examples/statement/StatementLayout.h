@@ -7,7 +7,7 @@
 
 #include "PageSize.h"
 #include "Statement.h"
-#include "Typeface.h"
+#include "common/Typeface.h"
 
 // Sets a statement as a document of pages of one size: a title block, then the entries as a table
 // whose sums are carried from page to page. `holder`, the account's owner, is UTF-8.

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <exception>
 #include <iostream>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,7 +12,9 @@
 #include "PageSize.h"
 #include "Statement.h"
 #include "StatementLayout.h"
-#include "Typeface.h"
+#include "common/InputText.h"
+#include "common/Typeface.h"
+#include "common/UsageError.h"
 
 namespace {
 
@@ -21,16 +22,7 @@ constexpr std::string_view kUsage =
     "usage: statement [--page-size a4|letter|a5|legal] [--holder NAME]\n"
     "                 [--font NAME [--font-folder FOLDER]...] INPUT.csv OUTPUT.pdf";
 
-constexpr std::string_view kPlainFaceNotice =
-    "there are characters beyond ASCII, which Helvetica shows wrongly or not at all; --font NAME "
-    "embeds a TrueType font that has them";
-
 void Warn(std::string_view notice) { std::cerr << "statement: " << notice << '\n'; }
-
-class UsageError : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
 
 struct Options {
   PageSize pageSize = kPageSizes.front();
@@ -82,19 +74,6 @@ Options ParseOptions(const std::vector<std::string>& arguments) {
   return options;
 }
 
-// What is not a usable font is named and left out.
-Typeface TypefaceOf(const Options& options) {
-  Typeface typeface{options.family};
-  for (const std::string& folder : options.fontFolders) {
-    for (const folivar::Text& refusal : typeface.files->AddFolder(folder)) Warn(refusal.Utf8());
-  }
-  return typeface;
-}
-
-bool IsAscii(std::string_view text) {
-  return std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
-}
-
 bool IsPlain(const Statement& statement, const std::string& holder) {
   const auto& entries = statement.entries;
   return IsAscii(holder) && std::all_of(entries.begin(), entries.end(), [](const Entry& entry) {
@@ -108,8 +87,11 @@ int main(int argc, char** argv) {
   try {
     const Options options = ParseOptions({argv + 1, argv + argc});
     const Statement statement = ReadStatement(options.input);
-    if (options.family.empty() && !IsPlain(statement, options.holder)) Warn(kPlainFaceNotice);
-    LayOutStatement(statement, options.holder, options.pageSize, TypefaceOf(options))
+    if (options.family.empty() && !IsPlain(statement, options.holder)) {
+      Warn(StandardFaceNotice("Helvetica"));
+    }
+    const Typeface typeface = FindTypeface(options.family, options.fontFolders, Warn);
+    LayOutStatement(statement, options.holder, options.pageSize, typeface)
         ->SavePDFFile(options.output);
     return 0;
   } catch (const UsageError& error) {

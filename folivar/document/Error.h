@@ -28,6 +28,7 @@ class FOLIVAR_API Error : public std::runtime_error {
   static Error BadFileName(const std::string& text);          // 52
   static Error FileNotFound(const std::string& text);         // 53
   static Error DiskFull(const std::string& text);             // 61
+  static Error InputPastEnd(const std::string& text);         // 62
   static Error PermissionDenied(const std::string& text);     // 70
   static Error PathFileAccess(const std::string& text);       // 75
   static Error PathNotFound(const std::string& text);         // 76
@@ -36,6 +37,7 @@ class FOLIVAR_API Error : public std::runtime_error {
   static Error InvalidFileFormat(const std::string& text);    // 321
   static Error ActionNotSupported(const std::string& text);   // 445
   static Error KeyInUse(const std::string& text);             // 457
+  static Error UnknownImageType(const std::string& text);     // -2147220504
 
  private:
   std::int32_t number_;

@@ -133,6 +133,11 @@ std::string DigitsOf(double x) {
   return {digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), x).ptr};
 }
 
+float Finite(float sum) {
+  if (!std::isfinite(sum)) throw Error::Overflow("a sum of coordinates is beyond a single");
+  return sum;
+}
+
 const Text& MaxOf(const Text& a, const Text& b) { return CompareIgnoringCase(a, b) >= 0 ? a : b; }
 const Text& MinOf(const Text& a, const Text& b) { return CompareIgnoringCase(a, b) <= 0 ? a : b; }
 

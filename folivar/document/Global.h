@@ -40,6 +40,9 @@ inline double RoundHalfToEven(double x) {
   return x < 0 ? (x - kNoFraction) + kNoFraction : (x + kNoFraction) - kNoFraction;
 }
 
+// A sum of coordinates as it is; raises 6 when it is beyond a single.
+float Finite(float sum);
+
 template <class T>
 concept Arithmetic = std::is_arithmetic_v<T>;
 

@@ -15,7 +15,9 @@
 #include "folivar/document/SaveFile.h"
 #include "folivar/fonts/PDFFont.h"
 #include "folivar/fonts/PDFFonts.h"
+#include "folivar/images/PDFImages.h"
 #include "folivar/navigation/PDFOutline.h"
+#include "folivar/page/PDFTemplates.h"
 
 namespace folivar {
 
@@ -37,8 +39,10 @@ void PDFDocument::Initialise() {
   fonts_ = std::make_shared<PDFFonts>(Internal(), platform_);
   const std::shared_ptr<PDFFont> defaultFont = fonts_->Add("Helvetica");
   pages_ = std::make_shared<PDFPages>(Internal(), Shared<PDFDocument>(), defaultFont);
+  images_ = std::make_shared<PDFImages>(Internal(), Shared<PDFDocument>());
   outline_ = std::make_shared<PDFOutline>();
   catalog_ = std::make_shared<PDFCatalog>(outline_, pages_);
+  templates_ = std::make_shared<PDFTemplates>(Internal(), Shared<PDFDocument>(), defaultFont);
 }
 
 std::shared_ptr<PDFViewerPreferences> PDFDocument::ViewerPreferences() const {
@@ -52,7 +56,8 @@ void PDFDocument::SavePDFFile(TextView fileName) {
     std::int32_t endNumber = 0;
   };
   // The order of the objects in the file.
-  std::array<Step, 4> steps = {{{*catalog_}, {*outline_}, {*pages_}, {*fonts_}}};
+  std::array<Step, 6> steps = {
+      {{*catalog_}, {*outline_}, {*pages_}, {*templates_}, {*images_}, {*fonts_}}};
 
   ObjectNumbers numbers;
   for (Step& step : steps) {

@@ -12,29 +12,34 @@ namespace folivar {
 class Internal;
 class PDFCatalog;
 class PDFFonts;
+class PDFImages;
 class PDFOutline;
 class PDFPages;
+class PDFTemplates;
 class PDFViewerPreferences;
 
 // A PDF 1.3 document in the making: the root of the object model and the one object that a host
 // creates. What it holds can be read, drawn on and saved any number of times.
 class FOLIVAR_API PDFDocument final : public Tagged {
  public:
-  // A document without pages. Its default font, with which every page starts, is Helvetica of size
-  // 10.
+  // A document without pages. Its default font, with which every page and template starts, is
+  // Helvetica of size 10.
   static std::shared_ptr<PDFDocument> Create(Platform platform = {});
 
   PDFDocument(const Internal&, Platform platform);
   ~PDFDocument() override;
 
   // Writes the document as it is now; an existing file is replaced. The same document gives the
-  // same bytes each time. `fileName` is relative to the working folder. Raises 52 for a bad name,
-  // 61 for a full disk, 70, 75 or 76 for a file or folder that cannot be written, and 6 for a
-  // number that PDF cannot hold; the file is closed then, and may be left partly written.
+  // same bytes each time, as long as its images' files do not change. `fileName` is relative to the
+  // working folder. Raises 52 for a bad name, 61 for a full disk, 70, 75 or 76 for a file or folder
+  // that cannot be written, 6 for a number that PDF cannot hold, and what PDFImage::FileName says;
+  // the file is closed then, and may be left partly written.
   void SavePDFFile(TextView fileName);
 
   std::shared_ptr<PDFPages> Pages() const { return pages_; }
   std::shared_ptr<PDFFonts> Fonts() const { return fonts_; }
+  std::shared_ptr<PDFTemplates> Templates() const { return templates_; }
+  std::shared_ptr<PDFImages> Images() const { return images_; }
   std::shared_ptr<PDFViewerPreferences> ViewerPreferences() const;
 
   // The font files that the document takes TrueType faces from before the system's: those of its
@@ -47,8 +52,10 @@ class FOLIVAR_API PDFDocument final : public Tagged {
   Platform platform_;
   std::shared_ptr<PDFFonts> fonts_;
   std::shared_ptr<PDFPages> pages_;
+  std::shared_ptr<PDFImages> images_;
   std::shared_ptr<PDFOutline> outline_;
   std::shared_ptr<PDFCatalog> catalog_;
+  std::shared_ptr<PDFTemplates> templates_;
 };
 
 }  // namespace folivar

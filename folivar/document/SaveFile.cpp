@@ -11,7 +11,8 @@ namespace {
 
 constexpr std::string_view kHeader = "%PDF-1.3\n%\xE2\xE3\xCF\xD3\n";
 constexpr std::uint64_t kLargestOffset = 9'999'999'999;  // ten digits
-constexpr std::size_t kFull = std::size_t{256} * 1024;
+constexpr std::size_t kFull = std::size_t{256} * 1024;   // gathered
+constexpr std::size_t kLarge = std::size_t{64} * 1024;   // not worth a copy
 
 }  // namespace
 
@@ -26,14 +27,15 @@ PDFText& SaveFile::BeginObject(std::int32_t number) {
   return gathered_;
 }
 
+PDFText& SaveFile::OpenObject() {
+  assert(isObjectOpen_);
+  return gathered_;
+}
+
 void SaveFile::AppendBytes(std::string_view bytes) {
   assert(isObjectOpen_);
-  if (gathered_.Size() + bytes.size() <= kFull) {
-    gathered_.Append(bytes);
-    return;
-  }
-  Flush();
-  if (bytes.size() <= kFull) {
+  if (bytes.size() >= kLarge || gathered_.Size() + bytes.size() > kFull) Flush();
+  if (bytes.size() < kLarge) {
     gathered_.Append(bytes);
   } else {
     sink_.Write(bytes);

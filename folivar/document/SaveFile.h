@@ -21,6 +21,9 @@ class SaveFile {
   // "7 0 obj\n". What is appended to the text returned, up to EndObject, is the object's own.
   PDFText& BeginObject(std::int32_t number);
 
+  // The same text, as long as the object is open.
+  PDFText& OpenObject();
+
   // Puts bytes of any size into the open object; large ones are not copied.
   void AppendBytes(std::string_view bytes);
 

@@ -6,6 +6,14 @@
 #include "folivar/document/Global.h"
 
 namespace folivar {
+namespace {
+
+[[noreturn]] void RaiseNoNumber(const Value& value) {
+  if (value.IsNull()) throw Error::InvalidNull("Null stands where a number is wanted");
+  throw Error::TypeMismatch("A number is wanted");
+}
+
+}  // namespace
 
 std::int32_t Int32From(const Value& value) {
   using Limits = std::numeric_limits<std::int32_t>;
@@ -22,8 +30,13 @@ std::int32_t Int32From(const Value& value) {
     }
     return static_cast<std::int32_t>(rounded);
   }
-  if (value.IsNull()) throw Error::InvalidNull("Null stands where a number is wanted");
-  throw Error::TypeMismatch("A number is wanted");
+  RaiseNoNumber(value);
+}
+
+double DoubleFrom(const Value& value) {
+  if (const auto* whole = value.As<std::int64_t>()) return static_cast<double>(*whole);
+  if (const auto* real = value.As<double>()) return *real;
+  RaiseNoNumber(value);
 }
 
 }  // namespace folivar

@@ -82,4 +82,7 @@ class FOLIVAR_API Value {
 // for what is no number.
 FOLIVAR_API std::int32_t Int32From(const Value& value);
 
+// The value as a real, whole numbers included: 94 for Null, 13 for what is no number.
+FOLIVAR_API double DoubleFrom(const Value& value);
+
 }  // namespace folivar

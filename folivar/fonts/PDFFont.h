@@ -13,8 +13,8 @@ namespace folivar {
 
 class Internal;
 
-// A face at a size, with decorations; made by PDFFonts::Add or by Clone. Pages refer to the font
-// object: what is changed here shows in the text drawn from then on.
+// A face at a size, with decorations; made by PDFFonts::Add or by Clone. Pages and templates
+// refer to the font object: what is changed here shows in the text drawn from then on.
 //
 // Measures are in points, computed in single precision; one that is beyond a single raises 6. Text
 // is measured as it goes into the file: a character outside Windows code page 1252 as "?".

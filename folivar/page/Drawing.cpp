@@ -1,27 +1,39 @@
 #include "folivar/page/Drawing.h"
 
-#include <cmath>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "folivar/document/AnsiText.h"
 #include "folivar/document/Error.h"
+#include "folivar/document/Global.h"
+#include "folivar/document/Internal.h"
 #include "folivar/document/PDFText.h"
+#include "folivar/document/Value.h"
+#include "folivar/document/XObject.h"
 #include "folivar/fonts/FontMetrics.h"
+#include "folivar/images/PDFImage.h"
 #include "folivar/page/Surface.h"
 #include "folivar/page/TextLines.h"
 
 namespace folivar {
 namespace {
 
-// Takes back what an operation has appended, and the pen's move, unless the operation completes.
+// Takes back what an operation has appended, the pen's move and the growth of the box, unless the
+// operation completes.
 class Operation {
  public:
-  explicit Operation(Surface& surface)
-      : surface_(surface), piece_(surface.Content()), curPos_(surface.CurPos()) {}
+  Operation(Surface& surface, ClipBox* growing)
+      : surface_(surface),
+        growing_(growing),
+        piece_(surface.Content()),
+        curPos_(surface.CurPos()),
+        clipBox_(growing != nullptr ? *growing : ClipBox{}) {}
   ~Operation() {
-    if (!isComplete_) surface_.SetCurPos(curPos_);
+    if (isComplete_) return;
+    surface_.SetCurPos(curPos_);
+    if (growing_ != nullptr) *growing_ = clipBox_;
   }
   Operation(const Operation&) = delete;
   Operation& operator=(const Operation&) = delete;
@@ -33,8 +45,10 @@ class Operation {
 
  private:
   Surface& surface_;
+  ClipBox* growing_;
   PDFTextPiece piece_;
   Surface::Point curPos_;
+  ClipBox clipBox_;
   bool isComplete_ = false;
 };
 
@@ -102,15 +116,8 @@ struct Box {
   float top;
 };
 
-// A sum of coordinates must not overflow, even where it is not written.
-void CheckFinite(float sum) {
-  if (!std::isfinite(sum)) throw Error::Overflow("a sum of coordinates is beyond a single");
-}
-
 Box BoxOf(float left, float bottom, float width, float height) {
-  Box box{left, bottom, left + width, bottom + height};
-  CheckFinite(box.right);
-  CheckFinite(box.top);
+  Box box{left, bottom, Finite(left + width), Finite(bottom + height)};
   if (width < 0) std::swap(box.left, box.right);
   if (height < 0) std::swap(box.bottom, box.top);
   return box;
@@ -144,6 +151,15 @@ float Indent(const Box& box, const FontMetrics& font, std::string_view line,
   return alignment == htaRight ? box.right - width - box.left : (box.right - box.left - width) / 2;
 }
 
+// Of an image that is drawn: what is given, or a point for each pixel.
+double MeasureOf(const Value& given, double pixels) {
+  const double measure = given.IsMissing() ? pixels : DoubleFrom(given);
+  if (!std::isfinite(measure)) {
+    throw Error::Overflow("nothing can be drawn " + DigitsOf(measure) + " points large");
+  }
+  return measure;
+}
+
 }  // namespace
 
 //   BT
@@ -161,7 +177,7 @@ void Drawing::DrawText(TextView text, float x, float y) {
   const FontMetrics metrics(font);
   PDFText& content = surface_.Content();
 
-  Operation operation(surface_);
+  Operation operation(surface_, growing_);
   BeginText(content, metrics, x, y, lines);
   std::string_view separator;
   for (const std::string_view line : lines) {
@@ -169,6 +185,7 @@ void Drawing::DrawText(TextView text, float x, float y) {
     separator = "T*\n";
   }
   EndText(content, metrics);
+  if (growing_ != nullptr) ExtendByText(metrics, lines, isPlain, x, y);
   Decorate(*this, content, font, lines, x, y);
   RegisterFace(surface_, font, metrics);
   operation.Complete();
@@ -194,7 +211,7 @@ void Drawing::DrawTextAligned(TextView text, float left, float bottom, float wid
   const float baseline = FirstBaseline(box, metrics, lines, vertAlignment);
   PDFText& content = surface_.Content();
 
-  Operation operation(surface_);
+  Operation operation(surface_, growing_);
   BeginText(content, metrics, box.left, baseline, lines);
   std::string_view separator;
   for (const std::string_view line : lines) {
@@ -209,8 +226,25 @@ void Drawing::DrawTextAligned(TextView text, float left, float bottom, float wid
     separator = "T*\n";
   }
   EndText(content, metrics);
+  Extend(box.left, box.bottom);
+  Extend(box.right, box.top);
   RegisterFace(surface_, font, metrics);
   operation.Complete();
+}
+
+// Deliberate: a line is measured with the backslashes that escaping adds; existing files have boxes
+// of this size.
+void Drawing::ExtendByText(const FontMetrics& font, const TextLines& lines, bool isPlain, float x,
+                           float y) {
+  const float size = font.EffectiveSize();
+  float widest = -std::numeric_limits<float>::infinity();
+  for (const std::string_view line : lines) {
+    const float width =
+        isPlain ? font.Face().MeasureWidth(line) : font.Face().MeasureWidth(EscapedBytes(line));
+    widest = MaxOf(widest, FontMetrics::Scaled(width, size));
+  }
+  Extend(x, y + font.Scaled(font.Face().FontBoxTop()));
+  Extend(x + widest, y - font.Leading() * static_cast<float>(lines.Count()));
 }
 
 //   10  20  m
@@ -219,6 +253,8 @@ void Drawing::DrawTextAligned(TextView text, float left, float bottom, float wid
 void Drawing::DrawLine(float x1, float y1, float x2, float y2) {
   surface_.AppendContent(Real{x1}, " ", Real{y1}, " m\n", Real{x2}, " ", Real{y2}, " l\nS\n");
   surface_.SetCurPos({x2, y2});
+  Extend(x1, y1);
+  Extend(x2, y2);
 }
 
 void Drawing::DrawLineTo(float x, float y) {
@@ -232,14 +268,63 @@ void Drawing::DrawLineTo(float x, float y) {
 // Deliberate: the "m" before "re" and the "n" after "f" change nothing; existing files have them.
 void Drawing::DrawRect(float left, float bottom, float width, float height, bool stroke,
                        bool fill) {
-  const float right = left + width;
-  const float top = bottom + height;
-  CheckFinite(right);
-  CheckFinite(top);
+  const float right = Finite(left + width);
+  const float top = Finite(bottom + height);
   const std::string_view paint = stroke ? (fill ? "b\n" : "s\n") : (fill ? "f n\n" : "n\n");
   surface_.AppendContent(Real{left}, " ", Real{bottom}, " m\n", Real{left}, " ", Real{bottom}, " ",
                          Real{width}, " ", Real{height}, " re\n", paint);
   surface_.SetCurPos({right, top});
+  Extend(left, bottom);
+  Extend(right, top);
+}
+
+//   q
+//   1 0 0 1 10 20  cm
+//   /T1 Do
+//   Q
+void Drawing::DrawTemplate(const std::shared_ptr<XObject>& placed, const Value& x, const Value& y) {
+  surface_.CheckIsOfDocument(placed.get(), "template");
+  const std::string_view name = placed->ResourceName(Internal());
+  Operation operation(surface_, growing_);
+  if (x.IsMissing() || y.IsMissing()) {
+    surface_.AppendContent(name, " Do\n");
+  } else {
+    surface_.AppendContent("q\n1 0 0 1 ", Real{DoubleFrom(x)}, Real{DoubleFrom(y)}, " cm\n", name,
+                           " Do\nQ\n");
+  }
+  surface_.ResourceDictionary().AddTemplateResource(placed);
+  operation.Complete();
+}
+
+//   q
+//   200 0 0 100 72 600  cm
+//   /I1 Do
+//   Q
+void Drawing::DrawImage(const std::shared_ptr<PDFImage>& image, float x, float y,
+                        const Value& width, const Value& height, bool maintainAspectRatio) {
+  surface_.CheckIsOfDocument(image.get(), "image");
+  const double pixelWidth = image->Width();
+  const double pixelHeight = image->Height();
+  double drawnWidth = MeasureOf(width, pixelWidth);
+  double drawnHeight = MeasureOf(height, pixelHeight);
+  if (maintainAspectRatio) {
+    if (pixelWidth == 0 || pixelHeight == 0) {
+      throw Error::DivisionByZero("the image " + NameOf(*image) +
+                                  " has no pixels whose ratio could be kept");
+    }
+    const double scale = MinOf(drawnWidth / pixelWidth, drawnHeight / pixelHeight);
+    drawnWidth = scale * pixelWidth;
+    drawnHeight = scale * pixelHeight;
+  }
+
+  const std::string_view name = static_cast<const XObject&>(*image).ResourceName(Internal());
+  Operation operation(surface_, growing_);
+  surface_.AppendContent("q\n", Real{drawnWidth}, "0 0 ", Real{drawnHeight}, Real{x}, Real{y},
+                         " cm\n", name, " Do\nQ\n");
+  surface_.ResourceDictionary().AddImageResource(image);
+  operation.Complete();
+  Extend(x, y);
+  Extend(static_cast<float>(x + drawnWidth), static_cast<float>(y + drawnHeight));
 }
 
 }  // namespace folivar

@@ -13,10 +13,11 @@ namespace folivar {
 class Internal;
 class Surface;
 
-// The drawing state of one page: colours, line style, transformations. Made with the page, the same
-// object each time. Every setter appends its operator to the page's content at once (setting the
-// same colour twice writes it twice) and remembers the value for its getter. Numbers that PDF
-// cannot hold (not finite, or 2^31 and beyond) raise 6, and then nothing is stored or appended.
+// The drawing state of one page or template: colours, line style, transformations. Made with its
+// owner, the same object each time. Every setter appends its operator to the owner's content at
+// once (setting the same colour twice writes it twice) and remembers the value for its getter.
+// Numbers that PDF cannot hold (not finite, or 2^31 and beyond) raise 6, and then nothing is stored
+// or appended.
 //
 // Colours are 0x00BBGGRR, red in the low byte; the top byte is kept but means nothing.
 class FOLIVAR_API PDFGraphicsState final : public Object {
@@ -44,7 +45,7 @@ class FOLIVAR_API PDFGraphicsState final : public Object {
   void SetLineDashPattern(float dashOn, float dashOff);
 
   // Saves the state and restores the state saved last. After Push the getters report 0 until the
-  // setters are used again, though the page goes on drawing as before. Pop always returns false;
+  // setters are used again, though drawing goes on as before. Pop always returns false;
   // it raises 9 when nothing was pushed. A Push without its Pop is not corrected.
   void Push();
   bool Pop();

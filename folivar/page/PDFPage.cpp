@@ -12,8 +12,10 @@
 #include "folivar/document/PDFText.h"
 #include "folivar/document/SaveFile.h"
 #include "folivar/fonts/PDFFont.h"
+#include "folivar/images/PDFImage.h"
 #include "folivar/page/Drawing.h"
 #include "folivar/page/PDFGraphicsState.h"
+#include "folivar/page/PDFTemplate.h"
 #include "folivar/page/Surface.h"
 
 namespace folivar {
@@ -22,8 +24,7 @@ PDFPage::PDFPage(const Internal& internal, std::weak_ptr<PDFPages> parent,
                  std::weak_ptr<PDFDocument> document, std::shared_ptr<PDFFont> font, Text key)
     : key_(std::move(key)),
       parent_(std::move(parent)),
-      document_(std::move(document)),
-      surface_(std::make_shared<Surface>()),
+      surface_(std::make_shared<Surface>(std::move(document))),
       graphicsState_(std::make_shared<PDFGraphicsState>(internal, surface_)) {
   surface_->SetFont(std::move(font));
 }
@@ -34,7 +35,7 @@ void PDFPage::SetFont(std::shared_ptr<PDFFont> font) {
 }
 
 std::shared_ptr<PDFDocument> PDFPage::ParentDocument() const {
-  if (auto document = document_.lock()) return document;
+  if (auto document = surface_->ParentDocument().lock()) return document;
   throw Error::ObjectNotSet("ParentDocument: the document of this PDFPage is gone");
 }
 
@@ -44,17 +45,14 @@ void PDFPage::SetPageExtents(float width, float height) {
 }
 
 void PDFPage::SetClipBox(float left, float bottom, float right, float top) {
-  clipLeft_ = left;
-  clipBottom_ = bottom;
-  clipRight_ = right;
-  clipTop_ = top;
+  clipBox_ = {left, bottom, right, top};
 }
 
 void PDFPage::GetClipBox(float& left, float& bottom, float& right, float& top) const {
-  left = clipLeft_;
-  bottom = clipBottom_;
-  right = clipRight_;
-  top = clipTop_;
+  left = clipBox_.left;
+  bottom = clipBox_.bottom;
+  right = clipBox_.right;
+  top = clipBox_.top;
 }
 
 void PDFPage::DrawText(TextView text, float x, float y) {
@@ -91,6 +89,24 @@ void PDFPage::DrawRect(float left, float bottom, float width, float height, bool
            [&] { Drawing(*surface_).DrawRect(left, bottom, width, height, stroke, fill); });
 }
 
+void PDFPage::DrawImage(const std::shared_ptr<PDFImage>& image, float x, float y,
+                        const Value& width, const Value& height, bool maintainAspectRatio) {
+  InMember("PDFPage.DrawImage",
+           [&] { Drawing(*surface_).DrawImage(image, x, y, width, height, maintainAspectRatio); });
+}
+
+void PDFPage::SetThumbnail(std::shared_ptr<PDFImage> thumbnail) {
+  if (thumbnail) {
+    InMember("PDFPage.Thumbnail", [&] { surface_->CheckIsOfDocument(thumbnail.get(), "image"); });
+  }
+  thumbnail_ = std::move(thumbnail);
+}
+
+void PDFPage::DrawTemplate(const std::shared_ptr<PDFTemplate>& placed, const Value& x,
+                           const Value& y) {
+  InMember("PDFPage.DrawTemplate", [&] { Drawing(*surface_).DrawTemplate(placed, x, y); });
+}
+
 void PDFPage::NumberObjects(ObjectNumbers& numbers) {
   objectNumber_ = numbers.Take();
   contentNumber_ = numbers.Take();
@@ -112,6 +128,7 @@ void PDFPage::WriteObjects(SaveFile& file) {
 //   /Font << /F0 6 0 R
 //    >>
 //   >>
+//   /Thumb 9 0 R
 //   >>
 //   endobj
 void PDFPage::BuildPageObject(PDFText& text) const {
@@ -126,14 +143,17 @@ void PDFPage::BuildPageObject(PDFText& text) const {
   }
   text.Append("/Contents ", Reference{contentNumber_}, "\n/Resources ");
   surface_->ResourceDictionary().BuildResourceText(text);
+  if (const XObject* thumbnail = thumbnail_.get()) {
+    text.Append("/Thumb ", Reference{thumbnail->ObjectNumber(Internal())}, "\n");
+  }
   text.Append(">>\n");
 }
 
 void PDFPage::AppendBoxes(PDFText& text) const {
   text.Append("/MediaBox [ 0 0 ", Real{width_}, " ", Real{height_}, "]\n");
-  if (clipTop_ >= 0) {
-    text.Append("/CropBox [ ", Real{clipLeft_}, " ", Real{clipBottom_}, " ", Real{clipRight_}, " ",
-                Real{clipTop_}, "]\n");
+  if (clipBox_.top >= 0) {
+    text.Append("/CropBox [ ", Real{clipBox_.left}, " ", Real{clipBox_.bottom}, " ",
+                Real{clipBox_.right}, " ", Real{clipBox_.top}, "]\n");
   }
 }
 
@@ -145,15 +165,8 @@ void PDFPage::AppendBoxes(PDFText& text) const {
 //   endstream
 //   endobj
 void PDFPage::WriteContentStream(SaveFile& file) const {
-  constexpr std::string_view kBegin = "q\n";
-  constexpr std::string_view kEnd = "Q\n";
-  const std::string_view content = surface_->Content().Bytes();
-  const std::size_t length = kBegin.size() + content.size() + kEnd.size();
-  file.BeginObject(contentNumber_)
-      .Append("<< /Length ", TenDigits{length}, " >>\nstream\n", kBegin);
-  file.AppendBytes(content);
-  file.AppendBytes(kEnd);
-  file.AppendBytes("endstream\n");
+  file.BeginObject(contentNumber_).Append("<< ");
+  surface_->WriteStream(file);
   file.EndObject();
 }
 

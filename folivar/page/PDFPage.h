@@ -7,6 +7,8 @@
 #include "folivar/document/ObjectWriter.h"
 #include "folivar/document/Tagged.h"
 #include "folivar/document/Text.h"
+#include "folivar/document/Value.h"
+#include "folivar/page/ClipBox.h"
 #include "folivar/page/PDFTextAlignment.h"
 
 namespace folivar {
@@ -15,7 +17,9 @@ class Internal;
 class PDFDocument;
 class PDFFont;
 class PDFGraphicsState;
+class PDFImage;
 class PDFPages;
+class PDFTemplate;
 class PDFText;
 class Surface;
 
@@ -80,6 +84,25 @@ class FOLIVAR_API PDFPage final : public Tagged, public ObjectWriter {
   void DrawRect(float left, float bottom, float width, float height, bool stroke = true,
                 bool fill = false);
 
+  // Draws an image with its lower left corner at (x, y), `width` by `height` points large; a
+  // measure left out is the image's in pixels, as points. To maintain the aspect ratio, the image
+  // becomes as large as fits into these measures; otherwise it is stretched to them. Raises 91 for
+  // null, 5 for an image of another document, 11 for the ratio of an image without a file, 13 for a
+  // measure that is no number and 94 for Null.
+  void DrawImage(const std::shared_ptr<PDFImage>& image, float x, float y, const Value& width = {},
+                 const Value& height = {}, bool maintainAspectRatio = true);
+
+  // The image that readers may show in place of the page; null at first, and null for none. Setting
+  // an image of another document raises 5.
+  std::shared_ptr<PDFImage> Thumbnail() const { return thumbnail_; }
+  void SetThumbnail(std::shared_ptr<PDFImage> thumbnail);
+
+  // Places a template with its origin at (x, y), any numbers; with either left out, at the origin.
+  // A template of another document raises 5, null 91; a place that is no number 13 or, for Null,
+  // 94.
+  void DrawTemplate(const std::shared_ptr<PDFTemplate>& placed, const Value& x = {},
+                    const Value& y = {});
+
   // The page's object number in the save in progress.
   std::int32_t ObjectNumber(const Internal&) const { return objectNumber_; }
 
@@ -94,15 +117,12 @@ class FOLIVAR_API PDFPage final : public Tagged, public ObjectWriter {
 
   Text key_;
   std::weak_ptr<PDFPages> parent_;
-  std::weak_ptr<PDFDocument> document_;
   std::shared_ptr<Surface> surface_;
   std::shared_ptr<PDFGraphicsState> graphicsState_;
+  std::shared_ptr<PDFImage> thumbnail_;
   float width_ = 612;
   float height_ = 792;
-  float clipLeft_ = -1;
-  float clipTop_ = -1;
-  float clipRight_ = -1;
-  float clipBottom_ = -1;
+  ClipBox clipBox_{-1, -1, -1, -1};
   std::int32_t objectNumber_ = 0;
   std::int32_t contentNumber_ = 0;
 };

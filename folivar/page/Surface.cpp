@@ -1,17 +1,25 @@
 #include "folivar/page/Surface.h"
 
+#include <cstddef>
+#include <string>
 #include <utility>
 
 #include "folivar/document/Error.h"
 #include "folivar/document/Internal.h"
+#include "folivar/document/SaveFile.h"
+#include "folivar/document/XObject.h"
 
 namespace folivar {
 namespace {
 
+// Also when the object is gone.
+template <class T>
+bool AreSame(const std::weak_ptr<T>& a, const std::weak_ptr<T>& b) {
+  return !a.owner_before(b) && !b.owner_before(a);
+}
+
 bool HaveSameOwner(const FaceUser& a, const FaceUser& b) {
-  const auto& ownerOfA = a.Owner(Internal());
-  const auto& ownerOfB = b.Owner(Internal());
-  return !ownerOfA.owner_before(ownerOfB) && !ownerOfB.owner_before(ownerOfA);
+  return AreSame(a.Owner(Internal()), b.Owner(Internal()));
 }
 
 }  // namespace
@@ -24,6 +32,30 @@ void Surface::SetFont(std::shared_ptr<PDFFont> font) {
   }
   resources_.AddFontResource(*font);
   font_ = std::move(font);
+}
+
+void Surface::CheckIsOfDocument(const XObject* object, std::string_view kind) const {
+  if (object == nullptr) throw Error::ObjectNotSet("no " + std::string(kind) + " is given");
+  if (!AreSame(object->ParentDocument(Internal()), document_)) {
+    throw Error::InvalidArgument("the " + std::string(kind) + " " + NameOf(*object) +
+                                 " belongs to another document");
+  }
+}
+
+//   /Length 0000000004 >>
+//   stream
+//   q
+//   Q
+//   endstream
+void Surface::WriteStream(SaveFile& file) const {
+  constexpr std::string_view kBegin = "q\n";
+  constexpr std::string_view kEnd = "Q\n";
+  const std::string_view content = content_.Bytes();
+  const std::size_t length = kBegin.size() + content.size() + kEnd.size();
+  file.OpenObject().Append("/Length ", TenDigits{length}, " >>\nstream\n", kBegin);
+  file.AppendBytes(content);
+  file.AppendBytes(kEnd);
+  file.AppendBytes("endstream\n");
 }
 
 }  // namespace folivar

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <string_view>
+#include <utility>
 
 #include "folivar/document/PDFResourceDictionary.h"
 #include "folivar/document/PDFText.h"
@@ -8,10 +10,19 @@
 
 namespace folivar {
 
-// What is drawn on: the content of one page, the resources it uses, its current font and its pen.
-// Shared by the page and its graphics state, so that either may outlive the other.
+class PDFDocument;
+class SaveFile;
+class XObject;
+
+// What is drawn on: the content of one page or template, the resources it uses, its current font
+// and its pen. Shared by its owner and the owner's graphics state, so that either may outlive the
+// other.
 class Surface {
  public:
+  explicit Surface(std::weak_ptr<PDFDocument> document) : document_(std::move(document)) {}
+
+  const std::weak_ptr<PDFDocument>& ParentDocument() const { return document_; }
+
   // Makes `font` current and lists it among the resources. Raises 91 for null and 5 for a font of
   // another document: its face would be missing in the file.
   void SetFont(std::shared_ptr<PDFFont> font);
@@ -22,10 +33,17 @@ class Surface {
   void AppendContent(const Parts&... parts) {
     content_.Append(parts...);
   }
-  // For operations of several pieces, and for the save.
+  // For operations of several pieces.
   PDFText& Content() { return content_; }
 
+  // Puts the content into the open object, from the length that ends its dictionary on.
+  void WriteStream(SaveFile& file) const;
+
   PDFResourceDictionary& ResourceDictionary() { return resources_; }
+
+  // Raises 91 for null and 5 for an object of another document, which would be missing in the file.
+  // `kind` stands in the error's text: "template".
+  void CheckIsOfDocument(const XObject* object, std::string_view kind) const;
 
   // The pen: where DrawLineTo starts. 0, 0 at first.
   struct Point {
@@ -36,6 +54,7 @@ class Surface {
   void SetCurPos(Point position) { curPos_ = position; }
 
  private:
+  std::weak_ptr<PDFDocument> document_;
   PDFText content_;
   PDFResourceDictionary resources_;
   std::shared_ptr<PDFFont> font_;

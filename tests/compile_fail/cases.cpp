@@ -10,7 +10,8 @@
 
 #include <memory>
 
-void Host(folivar::PDFPage& page, [[maybe_unused]] folivar::ObjectNumbers& numbers) {
+void Host(folivar::PDFPage& page, [[maybe_unused]] folivar::PDFTemplate& drawn,
+          [[maybe_unused]] folivar::ObjectNumbers& numbers) {
   [[maybe_unused]] folivar::ObjectWriter& writer = page;
   page.SetWidth(100);
 
@@ -37,6 +38,30 @@ void Host(folivar::PDFPage& page, [[maybe_unused]] folivar::ObjectNumbers& numbe
   const auto fonts = folivar::PDFDocument::Create()->Fonts();
   fonts->StyledFace({}, *std::shared_ptr<folivar::PDFFontInfo>(), true, false,
                     PDFFonts::IfAbsent::kMake);
+#elif defined(CASE_MakeImage)
+  std::make_shared<folivar::PDFImage>();
+#elif defined(CASE_NumberImage)
+  page.Thumbnail()->NumberObjects(numbers);
+#elif defined(CASE_NumberImages)
+  page.ParentDocument()->Images()->NumberObjects(numbers);
+#elif defined(CASE_NameOfAnImage)
+  folivar::XObject& object = *page.Thumbnail();
+  object.ResourceName({});
+#elif defined(CASE_RemoveImage)
+  page.ParentDocument()->Images()->Remove(1);
+#elif defined(CASE_MakeTemplate)
+  std::make_shared<folivar::PDFTemplate>();
+#elif defined(CASE_NumberTemplate)
+  drawn.NumberObjects(numbers);
+#elif defined(CASE_NumberTemplates)
+  page.ParentDocument()->Templates()->NumberObjects(numbers);
+#elif defined(CASE_NameOfATemplate)
+  folivar::XObject& object = drawn;
+  object.ResourceName({});
+#elif defined(CASE_PlaceOnATemplate)
+  drawn.DrawTemplate(nullptr);
+#elif defined(CASE_RemoveTemplate)
+  page.ParentDocument()->Templates()->Remove(1);
 #elif defined(CASE_CharacterAsKey)
   page.SetTag('a');
 #elif defined(CASE_AppendNothingWrong)

@@ -17,6 +17,7 @@ TEST(Error, MakersGiveTheNumbersOfAutomation) {
   EXPECT_EQ(Error::BadFileName("").Number(), 52);
   EXPECT_EQ(Error::FileNotFound("").Number(), 53);
   EXPECT_EQ(Error::DiskFull("").Number(), 61);
+  EXPECT_EQ(Error::InputPastEnd("").Number(), 62);
   EXPECT_EQ(Error::PermissionDenied("").Number(), 70);
   EXPECT_EQ(Error::PathFileAccess("").Number(), 75);
   EXPECT_EQ(Error::PathNotFound("").Number(), 76);
@@ -24,6 +25,7 @@ TEST(Error, MakersGiveTheNumbersOfAutomation) {
   EXPECT_EQ(Error::InvalidNull("").Number(), 94);
   EXPECT_EQ(Error::ActionNotSupported("").Number(), 445);
   EXPECT_EQ(Error::KeyInUse("").Number(), 457);
+  EXPECT_EQ(Error::UnknownImageType("").Number(), -2147220504);
 }
 
 TEST(Error, CarriesItsText) {

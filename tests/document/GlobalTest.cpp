@@ -181,6 +181,14 @@ TEST(RoundHalfToEven, LeavesWhatIsNotFinite) {
   EXPECT_TRUE(std::isnan(RoundHalfToEven(kNotANumber)));
 }
 
+TEST(Finite, GivesASumAsItIsOrRaises6) {
+  constexpr float kLargest = std::numeric_limits<float>::max();
+  EXPECT_EQ(Finite(-1.5F), -1.5F);
+  EXPECT_EQ(Finite(kLargest), kLargest);
+  EXPECT_EQ(ErrorNumberOf([] { Finite(kLargest + kLargest); }), 6);
+  EXPECT_EQ(ErrorNumberOf([] { Finite(std::numeric_limits<float>::quiet_NaN()); }), 6);
+}
+
 TEST(MaxOfMinOf, CompareNumbers) {
   EXPECT_EQ(MaxOf(1, 2), 2);
   EXPECT_EQ(MaxOf(2, 1), 2);

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "folivar/folivar.h"
+#include "tests/support/BmpFile.h"
 #include "tests/support/Content.h"
 
 // Runs under the address sanitizer, which tells when freed memory is touched or anything leaks.
@@ -98,7 +99,85 @@ class Held {
   std::shared_ptr<PDFGraphicsState> state_;
 };
 
-TEST(Lifetime, EveryOrderOfReleaseIsSafe) {
+// The same of a template and of a page that shows it.
+class HeldWithTemplate {
+ public:
+  static constexpr std::size_t kCount = 6;
+
+  HeldWithTemplate()
+      : document_(PDFDocument::Create()),
+        templates_(document_->Templates()),
+        page_(document_->Pages()->Add()),
+        drawn_(templates_->Add("drawn")),
+        font_(document_->Fonts()->Add("Courier")),
+        state_(drawn_->GraphicsState()) {
+    drawn_->SetFont(font_);
+    page_->DrawTemplate(drawn_);
+  }
+
+  void Release(std::size_t which) {
+    switch (which) {
+      case 0:
+        document_.reset();
+        break;
+      case 1:
+        templates_.reset();
+        break;
+      case 2:
+        page_.reset();
+        break;
+      case 3:
+        drawn_.reset();
+        break;
+      case 4:
+        font_.reset();
+        break;
+      default:
+        state_.reset();
+        break;
+    }
+  }
+
+  void UseWhatIsLeft() const {
+    if (templates_) {
+      const auto added = templates_->Add();
+      added->DrawText("more", 0, 0);
+      if (page_) page_->DrawTemplate(added, 1, 2);
+      EXPECT_EQ(templates_->Item("drawn")->Key(), "drawn");
+      for (const auto& each : *templates_) each->DrawLine(0, 0, 1, 1);
+    }
+    if (page_) {
+      page_->DrawText("text", 1, 2);
+      const auto other = PDFDocument::Create()->Templates()->Add();
+      EXPECT_EQ(ErrorNumberOf([&] { page_->DrawTemplate(other); }), 5);
+    }
+    if (drawn_) {
+      drawn_->DrawText("text", 1, 2);
+      drawn_->SetFont(drawn_->Font()->Clone());
+      if (page_) page_->DrawTemplate(drawn_, 3, 4);
+    }
+    if (font_) {
+      EXPECT_FLOAT_EQ(font_->TextWidth("mm"), 12);
+    }
+    if (state_) {
+      state_->Push();
+      state_->SetFillColor(1);
+      state_->Pop();
+    }
+  }
+
+ private:
+  std::shared_ptr<PDFDocument> document_;
+  std::shared_ptr<PDFTemplates> templates_;
+  std::shared_ptr<PDFPage> page_;
+  std::shared_ptr<PDFTemplate> drawn_;
+  std::shared_ptr<PDFFont> font_;
+  std::shared_ptr<PDFGraphicsState> state_;
+};
+
+// Returns the number of orders.
+template <class Held>
+int ReleaseInEveryOrder() {
   std::array<std::size_t, Held::kCount> order{};
   std::iota(order.begin(), order.end(), std::size_t{0});
   int orders = 0;
@@ -110,7 +189,13 @@ TEST(Lifetime, EveryOrderOfReleaseIsSafe) {
     }
     ++orders;
   } while (std::next_permutation(order.begin(), order.end()));
-  EXPECT_EQ(orders, 5040);
+  return orders;
+}
+
+TEST(Lifetime, EveryOrderOfReleaseIsSafe) { EXPECT_EQ(ReleaseInEveryOrder<Held>(), 5040); }
+
+TEST(Lifetime, EveryOrderOfReleaseOfATemplateIsSafe) {
+  EXPECT_EQ(ReleaseInEveryOrder<HeldWithTemplate>(), 720);
 }
 
 TEST(Lifetime, NothingKeepsADocumentAlive) {
@@ -121,6 +206,38 @@ TEST(Lifetime, NothingKeepsADocumentAlive) {
   document.reset();
   EXPECT_TRUE(watch.expired());
   page->DrawText("still here", 0, 0);
+}
+
+TEST(Lifetime, ImagesAndPagesThatShowThemMayOutliveEachOther) {
+  auto document = PDFDocument::Create();
+  auto images = document->Images();
+  auto image = images->Add("picture");
+  auto page = document->Pages()->Add();
+  image->SetFileName(WriteBlankBmp("blank.bmp", 4, 3).u8string());
+  document.reset();
+  page->DrawImage(image, 0, 0);
+  page->SetThumbnail(image);
+  page->DrawImage(images->Add(), 0, 0, 1, 1, false);
+  images.reset();
+  page->DrawImage(image, 10, 10);
+  const std::weak_ptr<PDFImage> watch = image;
+  image.reset();
+  EXPECT_EQ(page->Thumbnail()->Width(), 4);
+  page.reset();
+  EXPECT_TRUE(watch.expired());
+}
+
+TEST(Lifetime, TemplateKeepsNothingAlive) {
+  auto document = PDFDocument::Create();
+  const std::weak_ptr<PDFDocument> watch = document;
+  auto drawn = document->Templates()->Add();
+  const std::weak_ptr<PDFTemplate> watchTemplate = drawn;
+  document->Pages()->Add()->DrawTemplate(drawn);
+  document.reset();
+  EXPECT_TRUE(watch.expired());
+  drawn->DrawText("still here", 0, 0);
+  drawn.reset();
+  EXPECT_TRUE(watchTemplate.expired());
 }
 
 TEST(Lifetime, LoopOverPagesMayRemoveThem) {

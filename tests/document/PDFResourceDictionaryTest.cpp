@@ -1,8 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <memory>
 #include <string>
+#include <utility>
 
 #include "folivar/document/PDFResourceDictionary.h"
+#include "folivar/document/XObject.h"
 #include "folivar/folivar.h"
 #include "tests/support/SavedDocument.h"
 
@@ -14,6 +18,28 @@ std::string TextOf(const PDFResourceDictionary& resources) {
   resources.BuildResourceText(text);
   return std::string(text.Bytes());
 }
+
+// A template or an image, as the dictionary sees it.
+class NumberedObject final : public XObject {
+ public:
+  NumberedObject(std::string resourceName, std::int32_t number)
+      : resourceName_(std::move(resourceName)), number_(number) {}
+
+  const Text& Key() const override { return key_; }
+  void SetNumber(std::int32_t number) { number_ = number; }
+
+ private:
+  const std::string& ResourceName(const Internal&) const override { return resourceName_; }
+  std::int32_t ObjectNumber(const Internal&) const override { return number_; }
+  const std::weak_ptr<PDFDocument>& ParentDocument(const Internal&) const override {
+    return document_;
+  }
+
+  Text key_;
+  std::string resourceName_;
+  std::int32_t number_;
+  std::weak_ptr<PDFDocument> document_;
+};
 
 TEST(PDFResourceDictionary, FontsEntryIsThereEvenWhenEmpty) {
   EXPECT_EQ(TextOf(PDFResourceDictionary()), "<< \n/Font << >>\n>>\n");
@@ -33,6 +59,46 @@ TEST(PDFResourceDictionary, FaceIsListedOnceInTheOrderOfFirstUse) {
   resources.AddFontResource(*courier);
   Save(*document, "numbers.pdf", Check::kForm);  // gives the faces the numbers 4 and 5
   EXPECT_EQ(TextOf(resources), "<< \n/Font << /F1 5 0 R\n /F0 4 0 R\n >>\n>>\n");
+}
+
+TEST(PDFResourceDictionary, XObjectEntryListsTemplatesBeforeImagesInTheOrderOfFirstUse) {
+  PDFResourceDictionary resources;
+  resources.AddImageResource(std::make_shared<NumberedObject>("/I2", 12));
+  resources.AddTemplateResource(std::make_shared<NumberedObject>("/T3", 9));
+  resources.AddImageResource(std::make_shared<NumberedObject>("/I1", 11));
+  resources.AddTemplateResource(std::make_shared<NumberedObject>("/T1", 7));
+  EXPECT_EQ(TextOf(resources),
+            "<< \n/Font << >>\n/XObject << /T3 9 0 R\n /T1 7 0 R\n /I2 12 0 R\n /I1 11 0 R\n"
+            " >>\n>>\n");
+}
+
+TEST(PDFResourceDictionary, XObjectEntryIsThereForTemplatesAloneAndForImagesAlone) {
+  PDFResourceDictionary templates;
+  templates.AddTemplateResource(std::make_shared<NumberedObject>("/T1", 7));
+  EXPECT_EQ(TextOf(templates), "<< \n/Font << >>\n/XObject << /T1 7 0 R\n >>\n>>\n");
+
+  PDFResourceDictionary images;
+  images.AddImageResource(std::make_shared<NumberedObject>("/I1", 9));
+  EXPECT_EQ(TextOf(images), "<< \n/Font << >>\n/XObject << /I1 9 0 R\n >>\n>>\n");
+}
+
+TEST(PDFResourceDictionary, XObjectUsedAgainIsListedOnce) {
+  const auto letterhead = std::make_shared<NumberedObject>("/T1", 7);
+  const auto logo = std::make_shared<NumberedObject>("/I1", 8);
+  PDFResourceDictionary resources;
+  for (int i = 0; i < 3; ++i) {
+    resources.AddTemplateResource(letterhead);
+    resources.AddImageResource(logo);
+  }
+  EXPECT_EQ(TextOf(resources), "<< \n/Font << >>\n/XObject << /T1 7 0 R\n /I1 8 0 R\n >>\n>>\n");
+}
+
+TEST(PDFResourceDictionary, NumbersAreThoseOfTheSaveInProgress) {
+  const auto letterhead = std::make_shared<NumberedObject>("/T1", 7);
+  PDFResourceDictionary resources;
+  resources.AddTemplateResource(letterhead);
+  letterhead->SetNumber(2147483647);
+  EXPECT_EQ(TextOf(resources), "<< \n/Font << >>\n/XObject << /T1 2147483647 0 R\n >>\n>>\n");
 }
 
 }  // namespace

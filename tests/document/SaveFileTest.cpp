@@ -9,24 +9,11 @@
 #include "folivar/document/SaveFile.h"
 #include "tests/support/Content.h"
 #include "tests/support/ManyBytes.h"
+#include "tests/support/MemorySink.h"
 #include "tests/support/StrictPdf.h"
 
 namespace folivar::test {
 namespace {
-
-class MemorySink final : public ByteSink {
- public:
-  void Write(std::string_view bytes) override {
-    bytes_ += bytes;
-    writes_.push_back(bytes.size());
-  }
-  const std::string& Bytes() const { return bytes_; }
-  const std::vector<std::size_t>& Writes() const { return writes_; }
-
- private:
-  std::string bytes_;
-  std::vector<std::size_t> writes_;
-};
 
 class CountingSink final : public ByteSink {
  public:
@@ -85,7 +72,8 @@ TEST(SaveFile, WritesObjectsOfAnySizeInOrder) {
   MemorySink sink;
   SaveFile file(sink);
   std::vector<std::string> contents;
-  for (const std::size_t size : {0U, 1U, 1000U, 262'143U, 262'144U, 262'145U, 10U, 900'000U, 3U}) {
+  for (const std::size_t size : {0U, 1U, 1000U, 131'070U, 131'072U, 131'074U, 262'143U, 262'144U,
+                                 262'145U, 10U, 900'000U, 3U}) {
     const auto number = static_cast<std::int32_t>(contents.size() + 1);
     contents.emplace_back(size, static_cast<char>('a' + number));
     file.BeginObject(number).Append("<< /Length ", static_cast<std::uint32_t>(size),

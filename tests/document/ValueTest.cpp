@@ -137,5 +137,22 @@ TEST(Int32From, Raises94ForNullAnd13ForWhatIsNoNumber) {
   EXPECT_EQ(NumberOfInt32Error(Value::Host(1)), 13);
 }
 
+TEST(DoubleFrom, TakesRealsUnroundedAndWholeNumbers) {
+  EXPECT_EQ(DoubleFrom(Value(0.1)), 0.1);
+  EXPECT_EQ(DoubleFrom(Value(0.1F)), 0.10000000149011612);
+  EXPECT_EQ(DoubleFrom(Value(-1e300)), -1e300);
+  EXPECT_EQ(DoubleFrom(Value(-7)), -7);
+  EXPECT_EQ(DoubleFrom(Value(std::int64_t{1} << 53)), 9007199254740992);
+  EXPECT_EQ(DoubleFrom(Value(std::uint64_t{1} << 63)), 9223372036854775808.0);
+}
+
+TEST(DoubleFrom, Raises94ForNullAnd13ForWhatIsNoNumber) {
+  EXPECT_EQ(ErrorNumberOf([] { DoubleFrom(Value::Null()); }), 94);
+  EXPECT_EQ(ErrorNumberOf([] { DoubleFrom(Value()); }), 13);
+  EXPECT_EQ(ErrorNumberOf([] { DoubleFrom(Value::Empty()); }), 13);
+  EXPECT_EQ(ErrorNumberOf([] { DoubleFrom(Value("1")); }), 13);
+  EXPECT_EQ(ErrorNumberOf([] { DoubleFrom(Value(true)); }), 13);
+}
+
 }  // namespace
 }  // namespace folivar::test

@@ -1,10 +1,16 @@
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <functional>
 #include <limits>
+#include <memory>
 #include <string>
+#include <string_view>
 
 #include "folivar/folivar.h"
+#include "tests/support/BmpFile.h"
 #include "tests/support/Content.h"
+#include "tests/support/SavedDocument.h"
 
 // Expected numbers come from Helvetica's published metrics: box bottom -225 and top 931 (leading
 // 1156), ascender 718, descender -207, underline -100 and 50 thick, strikeout at 718 / 3.
@@ -261,6 +267,96 @@ TEST(DrawTextAligned, WhatOverflowsAppendsNothing) {
             "");
 }
 
+TEST(DrawTemplate, WithoutAPlaceWritesOnlyTheDoLine) {
+  EXPECT_EQ(ContentAfter([](PDFPage& page) {
+              page.DrawTemplate(page.ParentDocument()->Templates()->Add());
+            }),
+            "/T1 Do\n");
+}
+
+TEST(DrawTemplate, WithAPlaceIsMovedThere) {
+  EXPECT_EQ(ContentAfter([](PDFPage& page) {
+              page.DrawTemplate(page.ParentDocument()->Templates()->Add(), 10, 20);
+            }),
+            "q\n1 0 0 1 10 20  cm\n/T1 Do\nQ\n");
+}
+
+TEST(DrawTemplate, LoneCoordinateIsIgnored) {
+  EXPECT_EQ(ContentAfter([](PDFPage& page) {
+              const auto drawn = page.ParentDocument()->Templates()->Add();
+              page.DrawTemplate(drawn, 10);
+              page.DrawTemplate(drawn, {}, 20);
+              page.DrawTemplate(drawn, Value::Null());
+            }),
+            "/T1 Do\n/T1 Do\n/T1 Do\n");
+}
+
+// The first would be 16777216 as a single, the others 0.1 and 3 with other digits behind.
+TEST(DrawTemplate, PlaceIsNotRoundedToSingle) {
+  EXPECT_EQ(ContentAfter([](PDFPage& page) {
+              const auto drawn = page.ParentDocument()->Templates()->Add();
+              page.DrawTemplate(drawn, 16777217.25, -123456.7891);
+              page.DrawTemplate(drawn, std::int64_t{2147483647}, 0.1F);
+            }),
+            "q\n1 0 0 1 16777217.25 -123456.7891  cm\n/T1 Do\nQ\n"
+            "q\n1 0 0 1 2147483647 0.1  cm\n/T1 Do\nQ\n");
+}
+
+TEST(DrawTemplate, DoesNotMoveThePen) {
+  EXPECT_EQ(ContentAfter([](PDFPage& page) {
+              page.SetCurPos(1, 2);
+              page.DrawTemplate(page.ParentDocument()->Templates()->Add(), 10, 20);
+              page.DrawLineTo(3, 4);
+            }),
+            "q\n1 0 0 1 10 20  cm\n/T1 Do\nQ\n1  2  m\n3  4  l\nS\n");
+}
+
+TEST(DrawTemplate, WhatCannotBePlacedAppendsAndListsNothing) {
+  const auto document = PDFDocument::Create();
+  const auto page = document->Pages()->Add();
+  const auto drawn = document->Templates()->Add();
+  EXPECT_EQ(ErrorNumberOf([&] { page->DrawTemplate(nullptr, 1, 2); }), 91);
+  EXPECT_EQ(ErrorNumberOf([&] { page->DrawTemplate(nullptr); }), 91);
+  EXPECT_EQ(ErrorNumberOf([&] { page->DrawTemplate(drawn, 1, 3e9); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { page->DrawTemplate(drawn, kNotANumber, 1); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { page->DrawTemplate(drawn, "1", 1); }), 13);
+  EXPECT_EQ(ErrorNumberOf([&] { page->DrawTemplate(drawn, 1, Value::Null()); }), 94);
+  const SavedDocument saved = Save(*document, "nothing.pdf");
+  EXPECT_EQ(saved.pdf.Stream(5), "q\nQ\n");
+  EXPECT_EQ(saved.pdf.Object(4).find("/XObject"), std::string_view::npos);
+}
+
+TEST(DrawTemplate, TemplateOfAnotherDocumentIsRefusedByName) {
+  const auto other = PDFDocument::Create();
+  const auto named = other->Templates()->Add("logo");
+  const auto unnamed = other->Templates()->Add();
+  EXPECT_EQ(ContentAfter([&](PDFPage& page) {
+              EXPECT_EQ(ErrorNumberOf([&] { page.DrawTemplate(named, 1, 2); }), 5);
+              EXPECT_EQ(ErrorTextOf([&] { page.DrawTemplate(named, 1, 2); }),
+                        "PDFPage.DrawTemplate: the template 'logo' belongs to another document");
+              EXPECT_EQ(ErrorTextOf([&] { page.DrawTemplate(unnamed); }),
+                        "PDFPage.DrawTemplate: the template /T2 belongs to another document");
+              EXPECT_EQ(ErrorTextOf([&] { page.DrawTemplate(nullptr); }),
+                        "PDFPage.DrawTemplate: no template is given");
+            }),
+            "");
+}
+
+TEST(DrawTemplate, TemplatePlacedTwiceIsListedOnce) {
+  const auto document = PDFDocument::Create();
+  const auto page = document->Pages()->Add();
+  const auto first = document->Templates()->Add();
+  const auto second = document->Templates()->Add();
+  page->DrawTemplate(second);
+  page->DrawTemplate(first, 1, 2);
+  page->DrawTemplate(second, 3, 4);
+  const SavedDocument saved = Save(*document, "twice.pdf");
+  EXPECT_NE(saved.pdf.Object(4).find(
+                "/Resources << \n/Font << /F0 8 0 R\n >>\n/XObject << /T2 7 0 R\n /T1 6 0 R\n >>\n"
+                ">>\n"),
+            std::string_view::npos);
+}
+
 TEST(DrawLine, StrokesAndMovesThePen) {
   EXPECT_EQ(ContentAfter([](PDFPage& page) {
               page.DrawLine(10, 20, 30, 40);
@@ -328,6 +424,158 @@ TEST(DrawRect, SumThatOverflowsDrawsNothing) {
               EXPECT_EQ(ErrorNumberOf([&] { page.DrawRect(0, 0, 1, kNotANumber); }), 6);
             }),
             "");
+}
+
+// An image of 400 by 100 pixels in the page's document.
+std::shared_ptr<PDFImage> WideImage(PDFPage& page) {
+  auto image = page.ParentDocument()->Images()->Add();
+  image->SetFileName(WriteBlankBmp("wide.bmp", 400, 100).u8string());
+  return image;
+}
+
+std::string ContentWithImage(
+    const std::function<void(PDFPage&, const std::shared_ptr<PDFImage>&)>& draw) {
+  return ContentAfter([&](PDFPage& page) { draw(page, WideImage(page)); });
+}
+
+TEST(DrawImage, IsAsLargeAsItsPixelsByDefault) {
+  EXPECT_EQ(ContentWithImage([](PDFPage& page, const auto& image) {
+              page.DrawImage(image, 72, 600.5F);
+              page.DrawImage(image, 0, 0, {}, {}, false);
+            }),
+            "q\n400 0 0 100 72 600.5  cm\n/I1 Do\nQ\n"
+            "q\n400 0 0 100 0 0  cm\n/I1 Do\nQ\n");
+}
+
+TEST(DrawImage, FitsIntoTheMeasuresGiven) {
+  EXPECT_EQ(ContentWithImage([](PDFPage& page, const auto& image) {
+              page.DrawImage(image, 1, 2, 200, 100);
+              page.DrawImage(image, 1, 2, 1000, 100);
+              page.DrawImage(image, 1, 2, 800, 1000);
+            }),
+            "q\n200 0 0 50 1 2  cm\n/I1 Do\nQ\n"
+            "q\n400 0 0 100 1 2  cm\n/I1 Do\nQ\n"
+            "q\n800 0 0 200 1 2  cm\n/I1 Do\nQ\n");
+}
+
+TEST(DrawImage, SquareOf400PixelsIn200By100) {
+  EXPECT_EQ(ContentAfter([](PDFPage& page) {
+              const auto image = page.ParentDocument()->Images()->Add();
+              image->SetFileName(WriteBlankBmp("square.bmp", 400, 400).u8string());
+              page.DrawImage(image, 0, 0, 200, 100);
+              page.DrawImage(image, 0, 0, 200, 100, false);
+            }),
+            "q\n100 0 0 100 0 0  cm\n/I1 Do\nQ\n"
+            "q\n200 0 0 100 0 0  cm\n/I1 Do\nQ\n");
+}
+
+// With the ratio kept, the measure left out is a limit of one point a pixel.
+TEST(DrawImage, OneMeasureMayBeLeftOut) {
+  EXPECT_EQ(ContentWithImage([](PDFPage& page, const auto& image) {
+              page.DrawImage(image, 0, 0, 200);
+              page.DrawImage(image, 0, 0, 2000);
+              page.DrawImage(image, 0, 0, {}, 25);
+              page.DrawImage(image, 0, 0, 200, {}, false);
+              page.DrawImage(image, 0, 0, {}, 25, false);
+            }),
+            "q\n200 0 0 50 0 0  cm\n/I1 Do\nQ\n"
+            "q\n400 0 0 100 0 0  cm\n/I1 Do\nQ\n"
+            "q\n100 0 0 25 0 0  cm\n/I1 Do\nQ\n"
+            "q\n200 0 0 100 0 0  cm\n/I1 Do\nQ\n"
+            "q\n400 0 0 25 0 0  cm\n/I1 Do\nQ\n");
+}
+
+// As singles 5000.0002 and 5000.0004 would be 5000 and 5000.0005.
+TEST(DrawImage, MeasuresAreNotRoundedToSingles) {
+  EXPECT_EQ(ContentWithImage([](PDFPage& page, const auto& image) {
+              page.DrawImage(image, 0, 0, 5000.0002, 5000.0004, false);
+              page.DrawImage(image, 0, 0, 5000.0004, 9000);
+            }),
+            "q\n5000.0002 0 0 5000.0004 0 0  cm\n/I1 Do\nQ\n"
+            "q\n5000.0004 0 0 1250.0001 0 0  cm\n/I1 Do\nQ\n");
+}
+
+TEST(DrawImage, MeasuresOf0AndBelowAreTakenAsTheyAre) {
+  EXPECT_EQ(ContentWithImage([](PDFPage& page, const auto& image) {
+              page.DrawImage(image, 0, 0, 0, 0);
+              page.DrawImage(image, 0, 0, 200, -100);
+              page.DrawImage(image, 0, 0, -200, 100, false);
+            }),
+            "q\n0 0 0 0 0 0  cm\n/I1 Do\nQ\n"
+            "q\n-400 0 0 -100 0 0  cm\n/I1 Do\nQ\n"
+            "q\n-200 0 0 100 0 0  cm\n/I1 Do\nQ\n");
+}
+
+TEST(DrawImage, DoesNotMoveThePen) {
+  EXPECT_EQ(ContentWithImage([](PDFPage& page, const auto& image) {
+              page.SetCurPos(1, 2);
+              page.DrawImage(image, 50, 60);
+              page.DrawLineTo(3, 4);
+            }),
+            "q\n400 0 0 100 50 60  cm\n/I1 Do\nQ\n1  2  m\n3  4  l\nS\n");
+}
+
+TEST(DrawImage, ListsTheImageOnceAmongTheResources) {
+  const auto document = PDFDocument::Create();
+  const auto page = document->Pages()->Add();
+  const auto image = WideImage(*page);
+  for (int i = 0; i < 3; ++i) page->DrawImage(image, 0, 0);
+  document->Pages()->Add();
+  const SavedDocument saved = Save(*document, "listed.pdf");
+  EXPECT_NE(saved.pdf.Object(4).find("\n/XObject << /I1 8 0 R\n >>\n"), std::string_view::npos);
+  EXPECT_EQ(saved.pdf.Object(6).find("/XObject"), std::string_view::npos);
+}
+
+TEST(DrawImage, WhatCannotBeDrawnIsNeitherWrittenNorListed) {
+  const auto document = PDFDocument::Create();
+  const auto page = document->Pages()->Add();
+  const auto image = WideImage(*page);
+  const auto number = [&](const Value& width, const Value& height, float x = 0) {
+    return ErrorNumberOf([&] { page->DrawImage(image, x, 0, width, height); });
+  };
+  EXPECT_EQ(number({}, {}, kInfinity), 6);
+  EXPECT_EQ(number(3e9, 3e9), 6);
+  EXPECT_EQ(number(kNotANumber, 1), 6);
+  EXPECT_EQ(number(1, kNotANumber), 6);
+  EXPECT_EQ(number(kInfinity, 1), 6);
+  EXPECT_EQ(number(1, -kInfinity), 6);
+  EXPECT_EQ(number("100", {}), 13);
+  EXPECT_EQ(number(true, {}), 13);
+  EXPECT_EQ(number(Value::Empty(), {}), 13);
+  EXPECT_EQ(number({}, Value::Null()), 94);
+  EXPECT_EQ(ErrorNumberOf([&] { page->DrawImage(nullptr, 0, 0); }), 91);
+  EXPECT_EQ(ErrorTextOf([&] { page->DrawImage(nullptr, 0, 0); }),
+            "PDFPage.DrawImage: no image is given");
+  EXPECT_EQ(ContentOf(*page), "");
+  const SavedDocument saved = Save(*document, "nothing.pdf");
+  EXPECT_EQ(saved.pdf.Object(4).find("/XObject"), std::string_view::npos);
+}
+
+TEST(DrawImage, ImageOfAnotherDocumentIsRefused) {
+  const auto other = PDFDocument::Create();
+  const auto page = other->Pages()->Add();
+  const auto image = WideImage(*page);
+  const auto keyed = other->Images()->Add("logo");
+  EXPECT_EQ(ContentAfter([&](PDFPage& mine) {
+              EXPECT_EQ(ErrorNumberOf([&] { mine.DrawImage(image, 0, 0); }), 5);
+              EXPECT_EQ(ErrorTextOf([&] { mine.DrawImage(image, 0, 0); }),
+                        "PDFPage.DrawImage: the image /I1 belongs to another document");
+              EXPECT_EQ(ErrorTextOf([&] { mine.DrawImage(keyed, 0, 0); }),
+                        "PDFPage.DrawImage: the image 'logo' belongs to another document");
+            }),
+            "");
+}
+
+// The ratio of nothing cannot be kept; a size can be given before the file.
+TEST(DrawImage, ImageWithoutAFileHasNoRatio) {
+  EXPECT_EQ(ContentAfter([](PDFPage& page) {
+              const auto image = page.ParentDocument()->Images()->Add();
+              EXPECT_EQ(ErrorNumberOf([&] { page.DrawImage(image, 0, 0); }), 11);
+              EXPECT_EQ(ErrorNumberOf([&] { page.DrawImage(image, 0, 0, 10, 10); }), 11);
+              page.DrawImage(image, 0, 0, 10, 20, false);
+              image->SetFileName(WriteBlankBmp("late.bmp", 1, 1).u8string());
+            }),
+            "q\n10 0 0 20 0 0  cm\n/I1 Do\nQ\n");
 }
 
 }  // namespace

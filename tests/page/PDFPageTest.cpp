@@ -4,9 +4,11 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "folivar/folivar.h"
 #include "folivar/page/PDFPage.h"
+#include "tests/support/BmpFile.h"
 #include "tests/support/Content.h"
 #include "tests/support/SavedDocument.h"
 
@@ -140,6 +142,36 @@ TEST(PDFPage, TagHoldsAnything) {
   EXPECT_EQ(*page->Tag().As<std::shared_ptr<Object>>(), page->Font());
   page->SetTag(Value::Host(std::string("my own")));
   EXPECT_EQ(std::any_cast<std::string>(*page->Tag().As<std::any>()), "my own");
+}
+
+TEST(PDFPage, ThumbnailIsWrittenWhenItIsSet) {
+  const auto document = PDFDocument::Create();
+  const auto page = document->Pages()->Add();
+  EXPECT_EQ(page->Thumbnail(), nullptr);
+  const auto image = document->Images()->Add();
+  image->SetFileName(WriteBlankBmp("thumbnail.bmp", 76, 98).u8string());
+  page->SetThumbnail(image);
+  EXPECT_EQ(page->Thumbnail(), image);
+  const SavedDocument saved = Save(*document, "thumbnail.pdf");
+  EXPECT_EQ(saved.pdf.Object(4),
+            "<< /Type /Page\n/Parent 3 0 R\n/MediaBox [ 0 0 612  792 ]\n/Contents 5 0 R\n"
+            "/Resources << \n/Font << /F0 7 0 R\n >>\n>>\n/Thumb 6 0 R\n>>\n");
+
+  page->SetThumbnail(nullptr);
+  EXPECT_EQ(page->Thumbnail(), nullptr);
+  EXPECT_EQ(Save(*document, "none.pdf").pdf.Object(4).find("/Thumb"), std::string_view::npos);
+}
+
+TEST(PDFPage, ThumbnailOfAnotherDocumentIsRefused) {
+  const auto document = PDFDocument::Create();
+  const auto page = document->Pages()->Add();
+  const auto image = document->Images()->Add();
+  page->SetThumbnail(image);
+  const auto other = PDFDocument::Create()->Images()->Add();
+  EXPECT_EQ(ErrorNumberOf([&] { page->SetThumbnail(other); }), 5);
+  EXPECT_EQ(ErrorTextOf([&] { page->SetThumbnail(other); }),
+            "PDFPage.Thumbnail: the image /I1 belongs to another document");
+  EXPECT_EQ(page->Thumbnail(), image);
 }
 
 }  // namespace

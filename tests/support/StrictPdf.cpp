@@ -47,6 +47,9 @@ bool IsKnownWord(std::string_view word) {
   return IsDigits(word.substr(0, point)) && IsDigits(word.substr(point + 1));
 }
 
+bool IsHexDigit(char byte) {
+  return std::string_view("0123456789ABCDEF").find(byte) != std::string_view::npos;
+}
 bool IsBlank(char byte) { return byte == ' ' || byte == '\n'; }
 bool IsDelimiter(char byte) {
   return std::string_view("()<>[]{}/%").find(byte) != std::string_view::npos;
@@ -83,6 +86,7 @@ class Cursor {
     const char first = bytes_[position_];
     if (first == '[' || first == ']') return Take(1);
     if (first == '(') return SkipString(where);
+    if (first == '<') return SkipHexString(where);
     if (first != '/' && IsDelimiter(first)) Fail(position_, where + ": stray " + first);
     std::size_t size = 1;
     while (position_ + size < bytes_.size() && !IsBlank(bytes_[position_ + size]) &&
@@ -108,6 +112,15 @@ class Cursor {
       if (byte == '(') ++depth;
       if (byte == ')') --depth;
     } while (depth > 0);
+    return "()";
+  }
+
+  std::string_view SkipHexString(const std::string& where) {
+    const std::size_t start = ++position_;
+    while (!IsAtEnd() && IsHexDigit(bytes_[position_])) ++position_;
+    if (!Sees(">")) Fail(position_, where + ": hexadecimal string without end");
+    if ((position_ - start) % 2 != 0) Fail(position_, where + ": half a byte in a string");
+    ++position_;
     return "()";
   }
 

@@ -65,6 +65,17 @@ TEST(StrictPdf, DoesNotReadReferencesOutOfStrings) {
   EXPECT_EQ(ComplaintAbout(With("/Type /Catalog", "/T (9 0 R(\\)))")), "");
 }
 
+TEST(StrictPdf, TakesHexadecimalStrings) {
+  EXPECT_EQ(ComplaintAbout(With("/Type /Catalog", "/T <00FF7E> <>")), "");
+  EXPECT_EQ(ComplaintAbout(With("/Type /Catalog", "/T [<1234> ]  ")), "");
+}
+
+TEST(StrictPdf, RefusesHexadecimalStringsThatAreNotComplete) {
+  ExpectRefused(With("/Type /Catalog", "/T <00FF7E0>  "), "half a byte");
+  ExpectRefused(With("/Type /Catalog", "/T <00FF7Exy> "), "string without end");
+  ExpectRefused(With("/Type /Catalog", "/T <00FF7E    "), "string without end");
+}
+
 TEST(StrictPdf, RefusesAnObjectOrAStreamThatIsNotThere) {
   const StrictPdf pdf{std::string(kSound)};
   EXPECT_THROW(pdf.Object(0), std::runtime_error);

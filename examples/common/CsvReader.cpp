@@ -1,4 +1,4 @@
-#include "CsvReader.h"
+#include "common/CsvReader.h"
 
 #include <folivar/folivar.h>
 
@@ -9,7 +9,7 @@
 #include <system_error>
 #include <utility>
 
-#include "InputError.h"
+#include "common/InputError.h"
 
 namespace {
 

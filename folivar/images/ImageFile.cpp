@@ -1,0 +1,13 @@
+#include "folivar/images/ImageFile.h"
+
+#include "folivar/document/Error.h"
+
+namespace folivar {
+
+void ImageFile::ReadAgain(std::uint64_t offset, std::span<char> out) {
+  if (Read(offset, out) == out.size()) return;
+  throw Error::InputPastEnd("Input past end of " + Name() + ", which has become shorter than " +
+                            std::to_string(offset + out.size()) + " bytes");
+}
+
+}  // namespace folivar

@@ -1,0 +1,116 @@
+#include "folivar/images/JPEGInfo.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <limits>
+#include <memory>
+#include <string>
+
+#include "folivar/document/ByteSink.h"
+#include "folivar/document/Error.h"
+#include "folivar/images/ImageFile.h"
+
+namespace folivar {
+namespace {
+
+constexpr std::uint8_t kMarker = 0xFF;
+constexpr std::uint8_t kStartOfImage = 0xD8;
+constexpr std::uint8_t kFirstFrameHeader = 0xC0;
+constexpr std::uint8_t kLastFrameHeader = 0xCB;
+constexpr std::size_t kShortestSegment = 2;  // its length counts itself
+
+// A walk over a file from its front, read in pieces.
+class Walk {
+ public:
+  explicit Walk(ImageFile& file) : file_(file) {}
+
+  // The next bytes, valid until the next call; null when the file ends before.
+  const char* Take(std::size_t count) {
+    if (position_ + count > start_ + size_) {
+      start_ = position_;
+      size_ = file_.Read(start_, piece_);
+      if (size_ < count) return nullptr;
+    }
+    const char* bytes = piece_.data() + (position_ - start_);
+    position_ += count;
+    return bytes;
+  }
+
+  void Skip(std::size_t count) { position_ += count; }
+
+ private:
+  ImageFile& file_;
+  std::array<char, 4096> piece_;
+  std::uint64_t start_ = 0;  // of the piece in the file
+  std::size_t size_ = 0;
+  std::uint64_t position_ = 0;
+};
+
+std::uint8_t Byte(char byte) { return static_cast<std::uint8_t>(byte); }
+std::uint16_t BigEndian(const char* bytes) {
+  return static_cast<std::uint16_t>(Byte(bytes[0]) * 256 + Byte(bytes[1]));
+}
+
+std::int16_t Pixels(std::uint16_t number, const char* what, const ImageFile& file) {
+  if (number > std::numeric_limits<std::int16_t>::max()) {
+    throw Error::Overflow("A " + std::string(what) + " of " + std::to_string(number) +
+                          " pixels does not fit into 16 bits, in " + file.Name());
+  }
+  return static_cast<std::int16_t>(number);
+}
+
+struct Frame {
+  std::int16_t height = 0;
+  std::int16_t width = 0;
+};
+
+//   FF D8            start of image
+//   FF E0  00 10 ... a segment of 16 bytes, its length included
+//   FF C0  00 11  08  00 02  00 03 ...  the frame header: length, precision, height, width
+// False when there is no frame header, or what comes before it is cut short or has no length.
+bool FindFrame(ImageFile& file, Frame& frame) {
+  Walk walk(file);
+  while (const char* marker = walk.Take(2)) {
+    const std::uint8_t code = Byte(marker[1]);
+    if (Byte(marker[0]) != kMarker || code == kStartOfImage) continue;
+    if (code >= kFirstFrameHeader && code <= kLastFrameHeader) {
+      const char* header = walk.Take(7);
+      if (header == nullptr || BigEndian(header) < kShortestSegment) return false;
+      frame.height = Pixels(BigEndian(header + 3), "height", file);
+      frame.width = Pixels(BigEndian(header + 5), "width", file);
+      return true;
+    }
+    const char* length = walk.Take(2);
+    if (length == nullptr || BigEndian(length) < kShortestSegment) return false;
+    walk.Skip(BigEndian(length) - kShortestSegment);
+  }
+  return false;
+}
+
+}  // namespace
+
+bool JPEGInfo::LoadImageInfo(ImageFile& file) {
+  Frame frame;
+  if (!FindFrame(file, frame)) return false;
+  if (file.Size() > std::numeric_limits<std::int32_t>::max()) {
+    throw Error::Overflow("More than 2147483647 bytes are in " + file.Name());
+  }
+  width_ = frame.width;
+  height_ = frame.height;
+  fileLength_ = static_cast<std::int32_t>(file.Size());
+  return true;
+}
+
+void JPEGInfo::WriteImageStream(ImageFile& file, ByteSink& out) const {
+  const auto length = static_cast<std::size_t>(fileLength_);
+  const std::size_t capacity = std::min(length, kImagePiece);
+  const auto piece = std::make_unique_for_overwrite<char[]>(capacity);
+  for (std::size_t offset = 0; offset < length; offset += capacity) {
+    const std::size_t size = std::min(capacity, length - offset);
+    file.ReadAgain(offset, {piece.get(), size});
+    out.Write({piece.get(), size});
+  }
+}
+
+}  // namespace folivar

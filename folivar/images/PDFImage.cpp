@@ -1,0 +1,157 @@
+#include "folivar/images/PDFImage.h"
+
+#include <array>
+#include <cassert>
+#include <cstddef>
+#include <string_view>
+#include <utility>
+
+#include "folivar/document/ByteSink.h"
+#include "folivar/document/CaseFold.h"
+#include "folivar/document/Error.h"
+#include "folivar/document/FileSource.h"
+#include "folivar/document/Global.h"
+#include "folivar/document/InMember.h"
+#include "folivar/document/ObjectNumbers.h"
+#include "folivar/document/PDFText.h"
+#include "folivar/document/SaveFile.h"
+#include "folivar/images/BMPInfo.h"
+#include "folivar/images/ImageFile.h"
+#include "folivar/images/ImageReader.h"
+#include "folivar/images/JPEGInfo.h"
+
+namespace folivar {
+namespace {
+
+template <class Reader>
+std::unique_ptr<ImageReader> Make() {
+  return std::make_unique<Reader>();
+}
+
+struct Format {
+  std::u16string_view extension;
+  std::string_view filter;  // the line of the image's dictionary that tells it
+  std::unique_ptr<ImageReader> (*makeReader)();
+};
+
+// The formats that images are read from, sorted by extension.
+constexpr auto kFormats = std::to_array<Format>({
+    {u"bmp", "", Make<BMPInfo>},
+    {u"jpeg", "/Filter /DCTDecode", Make<JPEGInfo>},
+    {u"jpg", "/Filter /DCTDecode", Make<JPEGInfo>},
+});
+
+// The format that the text behind the last point of the name tells, or null.
+const Format* FormatOf(const Text& fileName) {
+  const auto point = FindLastInRange(fileName, u".", 1, 0);
+  if (point == 0) return nullptr;
+  const auto extension =
+      std::u16string_view(fileName.Utf16()).substr(static_cast<std::size_t>(point));
+  for (const Format& format : kFormats) {
+    if (CompareIgnoringCase(extension, format.extension) == 0) return &format;
+  }
+  return nullptr;
+}
+
+// What cannot be opened because it is not there, for whatever reason, raises 53.
+FileSource Open(const Text& fileName) {
+  try {
+    return FileSource(fileName);
+  } catch (const Error&) {
+    if (FileExists(fileName)) throw;
+    throw Error::FileNotFound("Image file '" + fileName.Utf8() + "' does not exist");
+  }
+}
+
+// The image data on their way into the file.
+class StreamSink final : public ByteSink {
+ public:
+  explicit StreamSink(SaveFile& file) : file_(file) {}
+
+  void Write(std::string_view bytes) override {
+    file_.AppendBytes(bytes);
+    written_ += bytes.size();
+  }
+
+  std::size_t Written() const { return written_; }
+
+ private:
+  SaveFile& file_;
+  std::size_t written_ = 0;
+};
+
+}  // namespace
+
+PDFImage::PDFImage(const Internal&, std::weak_ptr<PDFDocument> document, Text key,
+                   std::string resourceName)
+    : document_(std::move(document)),
+      key_(std::move(key)),
+      resourceName_(std::move(resourceName)) {}
+
+PDFImage::~PDFImage() = default;
+
+void PDFImage::SetFileName(TextView fileName) {
+  Text name = InMember("PDFImage.FileName", [&] { return Text(fileName); });
+  const Format* format = InMember("PDFImage.FileName", [&] { return FormatOf(name); });
+  std::unique_ptr<ImageReader> reader;
+  if (format != nullptr) {
+    FileSource source = Open(name);
+    ImageFile file(source, name.Utf8());
+    reader = format->makeReader();
+    if (!reader->LoadImageInfo(file)) reader.reset();
+  }
+  if (!reader) {
+    throw Error::UnknownImageType("Error: Image type unknown for " + name.Utf8() + ".");
+  }
+  fileName_ = std::move(name);
+  filter_ = format->filter;
+  reader_ = std::move(reader);
+}
+
+std::int32_t PDFImage::Width() const { return reader_ ? reader_->Width() : 0; }
+std::int32_t PDFImage::Height() const { return reader_ ? reader_->Height() : 0; }
+
+void PDFImage::NumberObjects(ObjectNumbers& numbers) {
+  if (!reader_) {
+    throw Error::ObjectNotSet("The image " + NameOf(*this) + " was never given a file");
+  }
+  objectNumber_ = numbers.Take();
+}
+
+void PDFImage::WriteObjects(SaveFile& file) {
+  FileSource source = Open(fileName_);
+  ImageFile imageFile(source, fileName_.Utf8());
+  AppendDictionary(file.BeginObject(objectNumber_));
+  StreamSink stream(file);
+  reader_->WriteImageStream(imageFile, stream);
+  assert(std::cmp_equal(stream.Written(), reader_->ImageStreamSize()));
+  file.AppendBytes("\nendstream\n");
+  file.EndObject();
+}
+
+//   9 0 obj
+//   << /Type /XObject
+//   /Subtype /Image
+//   /Name /I1
+//   /Width 640
+//   /Height 480
+//   /ColorSpace /DeviceRGB
+//   /BitsPerComponent 8
+//   /Interpolate false
+//   /Filter /DCTDecode
+//   /Length 51234 >>
+//   stream
+//   ...
+//   endstream
+//   endobj
+// Width and height end with a blank. Without a filter its line is empty.
+void PDFImage::AppendDictionary(PDFText& text) const {
+  text.Append("<< /Type /XObject\n/Subtype /Image\n/Name ", std::string_view(resourceName_),
+              "\n/Width ", Real{static_cast<double>(reader_->Width())}, "\n/Height ",
+              Real{static_cast<double>(reader_->Height())}, "\n/ColorSpace ", reader_->ColorSpace(),
+              "\n/BitsPerComponent ", reader_->BitsPerComponent(), "\n/Interpolate ",
+              PdfBool(interpolate_), "\n", filter_, "\n/Length ", reader_->ImageStreamSize(),
+              " >>\nstream\n");
+}
+
+}  // namespace folivar

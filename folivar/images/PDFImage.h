@@ -1,0 +1,80 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "folivar/document/Api.h"
+#include "folivar/document/ObjectWriter.h"
+#include "folivar/document/Text.h"
+#include "folivar/document/XObject.h"
+
+namespace folivar {
+
+class ImageReader;
+class PDFText;
+
+// A picture that the document holds once, to be drawn any number of times (PDFPage::DrawImage) or
+// shown as a page's thumbnail: made by PDFImages::Add, and then given a file.
+class FOLIVAR_API PDFImage final : public XObject, public ObjectWriter {
+ public:
+  PDFImage(const Internal&, std::weak_ptr<PDFDocument> document, Text key,
+           std::string resourceName);
+  ~PDFImage() override;
+
+  // Whether readers smooth the picture where it is drawn larger than it is; false at first.
+  bool Interpolate() const { return interpolate_; }
+  void SetInterpolate(bool interpolate) { interpolate_ = interpolate; }
+
+  // The key given to PDFImages::Add; empty without one.
+  const Text& Key() const override { return key_; }
+
+  // The picture's file, empty at first. Its extension tells its format, without regard to case:
+  // "jpg" and "jpeg" are JPEG files, "bmp" are uncompressed Windows bitmaps of 1, 4, 8 or 24 bits a
+  // pixel, stored from the bottom up, with a header of 40 bytes. The name is relative to the
+  // working folder.
+  //
+  // JPEG files are written as they are, and declared as 8 bits of red, green and blue also when
+  // they are grey or have four components. Bitmaps of one bit are black and white, 0 being black,
+  // whatever their palette.
+  //
+  // The file is inspected at once and read again by every save, which copies its data piece by
+  // piece; meanwhile it is not open. A save raises 53 when the file is gone, 62 when it has become
+  // shorter, and 91 for an image that was never given a file.
+  //
+  // Raises -2147220504 for a file of another format, "Error: Image type unknown for a.gif.", and
+  // for bitmaps of other kinds, "Unknown BMP format"; 53 for a file that does not exist; 6 for a
+  // JPEG file of 32768 pixels or more in width or height or longer than 2^31 - 1 bytes; 52, 70, 75
+  // or 76 for a file that cannot be read. The image stays as it was then.
+  const Text& FileName() const { return fileName_; }
+  void SetFileName(TextView fileName);
+
+  // Pixels; 0 without a file.
+  std::int32_t Width() const;
+  std::int32_t Height() const;
+
+ private:
+  // XObject
+  const std::string& ResourceName(const Internal&) const override { return resourceName_; }
+  std::int32_t ObjectNumber(const Internal&) const override { return objectNumber_; }
+  const std::weak_ptr<PDFDocument>& ParentDocument(const Internal&) const override {
+    return document_;
+  }
+  // ObjectWriter
+  void NumberObjects(ObjectNumbers& numbers) override;
+  void WriteObjects(SaveFile& file) override;
+
+  void AppendDictionary(PDFText& text) const;
+
+  std::weak_ptr<PDFDocument> document_;
+  Text key_;
+  std::string resourceName_;
+  Text fileName_;
+  std::string_view filter_;              // "/Filter /DCTDecode", or empty
+  std::unique_ptr<ImageReader> reader_;  // null without a file
+  bool interpolate_ = false;
+  std::int32_t objectNumber_ = 0;
+};
+
+}  // namespace folivar

@@ -1,0 +1,36 @@
+#include "folivar/images/PDFImages.h"
+
+#include <string>
+#include <utility>
+
+#include "folivar/document/Internal.h"
+
+namespace folivar {
+namespace {
+
+ObjectWriter& AsWriter(const std::shared_ptr<PDFImage>& image) { return *image; }
+
+}  // namespace
+
+PDFImages::PDFImages(const Internal&, std::weak_ptr<PDFDocument> document)
+    : MemberList("PDFImages"), document_(std::move(document)) {}
+
+// The first image is "/I1".
+std::shared_ptr<PDFImage> PDFImages::Add(TextView key, const Value& before, const Value& after) {
+  auto image = std::make_shared<PDFImage>(Internal(), document_, Text(key),
+                                          "/I" + std::to_string(count() + 1));
+  members_.Add(image, key, before, after);
+  return image;
+}
+
+void PDFImages::NumberObjects(ObjectNumbers& numbers) {
+  members_.ForEach(
+      [&](const std::shared_ptr<PDFImage>& image) { AsWriter(image).NumberObjects(numbers); });
+}
+
+void PDFImages::WriteObjects(SaveFile& file) {
+  members_.ForEach(
+      [&](const std::shared_ptr<PDFImage>& image) { AsWriter(image).WriteObjects(file); });
+}
+
+}  // namespace folivar

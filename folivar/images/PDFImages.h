@@ -1,0 +1,40 @@
+#pragma once
+
+#include <memory>
+
+#include "folivar/document/Api.h"
+#include "folivar/document/MemberList.h"
+#include "folivar/document/Object.h"
+#include "folivar/document/ObjectWriter.h"
+#include "folivar/document/Text.h"
+#include "folivar/document/Value.h"
+#include "folivar/images/PDFImage.h"
+
+namespace folivar {
+
+class Internal;
+class PDFDocument;
+
+// The images of a document; reached through PDFDocument::Images. An image is never taken out.
+class FOLIVAR_API PDFImages final : public Object,
+                                    public ObjectWriter,
+                                    public MemberList<PDFImage> {
+ public:
+  PDFImages(const Internal&, std::weak_ptr<PDFDocument> document);
+
+  // Makes an image, yet without a file, at the place before or after the image that `before` or
+  // `after` names (position or key), or at the end. An empty key is no key. Raises 5 when both
+  // places are given, 457 for a key in use, then 5 for a key or 9 for a position that names no
+  // image.
+  std::shared_ptr<PDFImage> Add(TextView key = {}, const Value& before = {},
+                                const Value& after = {});
+
+ private:
+  // ObjectWriter
+  void NumberObjects(ObjectNumbers& numbers) override;
+  void WriteObjects(SaveFile& file) override;
+
+  std::weak_ptr<PDFDocument> document_;
+};
+
+}  // namespace folivar

@@ -1,0 +1,41 @@
+#include "folivar/page/PDFTemplates.h"
+
+#include <string>
+#include <utility>
+
+#include "folivar/document/Internal.h"
+#include "folivar/fonts/PDFFont.h"
+
+namespace folivar {
+namespace {
+
+ObjectWriter& AsWriter(const std::shared_ptr<PDFTemplate>& member) { return *member; }
+
+}  // namespace
+
+PDFTemplates::PDFTemplates(const Internal&, std::weak_ptr<PDFDocument> document,
+                           std::shared_ptr<PDFFont> defaultFont)
+    : MemberList("PDFTemplates"),
+      document_(std::move(document)),
+      defaultFont_(std::move(defaultFont)) {}
+
+// Templates are never taken out, so a name that counts them is never given twice.
+std::shared_ptr<PDFTemplate> PDFTemplates::Add(TextView key, const Value& before,
+                                               const Value& after) {
+  auto added = std::make_shared<PDFTemplate>(Internal(), document_, defaultFont_, Text(key),
+                                             "/T" + std::to_string(count() + 1));
+  members_.Add(added, key, before, after);
+  return added;
+}
+
+void PDFTemplates::NumberObjects(ObjectNumbers& numbers) {
+  members_.ForEach(
+      [&](const std::shared_ptr<PDFTemplate>& member) { AsWriter(member).NumberObjects(numbers); });
+}
+
+void PDFTemplates::WriteObjects(SaveFile& file) {
+  members_.ForEach(
+      [&](const std::shared_ptr<PDFTemplate>& member) { AsWriter(member).WriteObjects(file); });
+}
+
+}  // namespace folivar

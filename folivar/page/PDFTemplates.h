@@ -1,0 +1,44 @@
+#pragma once
+
+#include <memory>
+
+#include "folivar/document/Api.h"
+#include "folivar/document/MemberList.h"
+#include "folivar/document/Object.h"
+#include "folivar/document/ObjectWriter.h"
+#include "folivar/document/Text.h"
+#include "folivar/document/Value.h"
+#include "folivar/page/PDFTemplate.h"
+
+namespace folivar {
+
+class Internal;
+class PDFDocument;
+class PDFFont;
+
+// The templates of a document; reached through PDFDocument::Templates. All of them are written,
+// also those that no page shows; none can be taken out.
+class FOLIVAR_API PDFTemplates final : public Object,
+                                       public ObjectWriter,
+                                       public MemberList<PDFTemplate> {
+ public:
+  PDFTemplates(const Internal&, std::weak_ptr<PDFDocument> document,
+               std::shared_ptr<PDFFont> defaultFont);
+
+  // Makes an empty template whose current font is the document's default font, at the place before
+  // or after the template that `before` or `after` names (position or key), or at the end. An empty
+  // key is no key. Raises 5 when both places are given, 457 for a key in use, then 5 for a key or 9
+  // for a position that names no template.
+  std::shared_ptr<PDFTemplate> Add(TextView key = {}, const Value& before = {},
+                                   const Value& after = {});
+
+ private:
+  // ObjectWriter
+  void NumberObjects(ObjectNumbers& numbers) override;
+  void WriteObjects(SaveFile& file) override;
+
+  std::weak_ptr<PDFDocument> document_;
+  std::shared_ptr<PDFFont> defaultFont_;
+};
+
+}  // namespace folivar

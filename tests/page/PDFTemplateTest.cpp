@@ -1,0 +1,688 @@
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <limits>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "folivar/folivar.h"
+#include "folivar/page/PDFTemplate.h"
+#include "tests/support/BmpFile.h"
+#include "tests/support/Content.h"
+#include "tests/support/SavedDocument.h"
+#include "tests/support/Tools.h"
+
+// Expected measures come from Helvetica's published metrics at size 10: box top 9.31, leading
+// 11.56, "A" 6.67 wide, "(" 3.33, "\" 2.78, "l" 2.22; underline 1 below the baseline.
+
+namespace folivar::test {
+namespace {
+
+constexpr float kInfinity = std::numeric_limits<float>::infinity();
+constexpr float kNotANumber = std::numeric_limits<float>::quiet_NaN();
+constexpr float kLargest = std::numeric_limits<float>::max();
+
+struct Edges {
+  float left = 0;
+  float bottom = 0;
+  float right = 0;
+  float top = 0;
+};
+
+Edges EdgesOf(const PDFTemplate& drawn) {
+  Edges edges;
+  drawn.GetClipBox(edges.left, edges.bottom, edges.right, edges.top);
+  return edges;
+}
+
+void ExpectEdges(const PDFTemplate& drawn, const Edges& expected) {
+  const Edges edges = EdgesOf(drawn);
+  EXPECT_FLOAT_EQ(edges.left, expected.left);
+  EXPECT_FLOAT_EQ(edges.bottom, expected.bottom);
+  EXPECT_FLOAT_EQ(edges.right, expected.right);
+  EXPECT_FLOAT_EQ(edges.top, expected.top);
+}
+
+// The clip box of a template that starts inside out, so that every edge comes from the drawing.
+Edges BoxAround(const std::function<void(PDFTemplate&)>& draw) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  drawn->SetClipBox(1e6F, 1e6F, -1e6F, -1e6F);
+  draw(*drawn);
+  return EdgesOf(*drawn);
+}
+
+void ExpectBoxAround(const std::function<void(PDFTemplate&)>& draw, const Edges& expected) {
+  const Edges edges = BoxAround(draw);
+  EXPECT_FLOAT_EQ(edges.left, expected.left);
+  EXPECT_FLOAT_EQ(edges.bottom, expected.bottom);
+  EXPECT_FLOAT_EQ(edges.right, expected.right);
+  EXPECT_FLOAT_EQ(edges.top, expected.top);
+}
+
+std::shared_ptr<PDFFont> Decorated(PDFTemplate& drawn) {
+  auto font = drawn.Font()->Clone();
+  drawn.SetFont(font);
+  return font;
+}
+
+// The template's stream in a document without pages: catalog, outline and page tree come first.
+std::string StreamAfter(const std::function<void(PDFTemplate&)>& draw) {
+  const auto document = PDFDocument::Create();
+  draw(*document->Templates()->Add());
+  return std::string(Save(*document, "content.pdf", Check::kForm).pdf.Stream(4));
+}
+
+TEST(PDFTemplate, StartsEmptyInTheDefaultFont) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  ExpectEdges(*drawn, {0, 0, 0, 0});
+  EXPECT_TRUE(drawn->AutoSizeClipBox());
+  EXPECT_EQ(drawn->Key(), "");
+  EXPECT_EQ(drawn->Font()->FontFace(), "Helvetica");
+  EXPECT_EQ(drawn->Font()->Size(), 10);
+  EXPECT_TRUE(drawn->Tag().IsEmpty());
+  EXPECT_EQ(drawn->GraphicsState(), drawn->GraphicsState());
+  EXPECT_EQ(drawn->GraphicsState()->LineWidth(), 1);
+  float x = 1;
+  float y = 1;
+  drawn->GetCurPos(x, y);
+  EXPECT_EQ(x, 0);
+  EXPECT_EQ(y, 0);
+}
+
+TEST(PDFTemplate, EmptyTemplateIsOneObject) {
+  const auto document = PDFDocument::Create();
+  document->Templates()->Add();
+  const SavedDocument saved = Save(*document, "empty.pdf");
+  EXPECT_EQ(saved.pdf.Count(), 5);
+  EXPECT_EQ(saved.pdf.Object(4),
+            "<< /Type /XObject\n/Subtype /Form\n/FormType 1\n/BBox [ 0  0  0  0 ]\n"
+            "/Resources << \n/Font << /F0 5 0 R\n >>\n>>\n/Length 0000000004 >>\n"
+            "stream\nq\nQ\nendstream\n");
+}
+
+// Courier's box is from -250 to 805, and every character is 600 wide.
+TEST(PDFTemplate, ClipBoxIsWrittenFromTheBottomLeftToTheTopRight) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  drawn->SetFont(document->Fonts()->Add("Courier"));
+  drawn->DrawLine(-10.5F, 20, 30, 40.25F);
+  drawn->DrawText("(x)", 1, 2);
+  const SavedDocument saved = Save(*document, "line.pdf");
+  EXPECT_EQ(saved.pdf.Object(4),
+            "<< /Type /XObject\n/Subtype /Form\n/FormType 1\n/BBox [ -10.5  -8.55  31  40.25 ]\n"
+            "/Resources << \n/Font << /F0 5 0 R\n /F1 6 0 R\n >>\n>>\n/Length 0000000069 >>\n"
+            "stream\nq\n-10.5  20  m\n30  40.25  l\nS\n"
+            "BT\n/F1 10  Tf\n1  2  Td\n(\\(x\\)) Tj\nET\nQ\nendstream\n");
+}
+
+TEST(PDFTemplate, EdgesAreReadAndWritten) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  drawn->SetTop(70);
+  drawn->SetRight(50);
+  drawn->SetLeft(10);
+  drawn->SetBottom(20);
+  EXPECT_EQ(drawn->Left(), 10);
+  EXPECT_EQ(drawn->Bottom(), 20);
+  EXPECT_EQ(drawn->Right(), 50);
+  EXPECT_EQ(drawn->Top(), 70);
+  EXPECT_EQ(drawn->Width(), 40);
+  EXPECT_EQ(drawn->Height(), 50);
+  ExpectEdges(*drawn, {10, 20, 50, 70});
+}
+
+TEST(PDFTemplate, RightBelowLeftSwapsTheTwo) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  drawn->SetClipBox(10, 0, 50, 0);
+  drawn->SetRight(4);
+  ExpectEdges(*drawn, {4, 0, 10, 0});
+  drawn->SetRight(4);
+  ExpectEdges(*drawn, {4, 0, 4, 0});
+}
+
+TEST(PDFTemplate, BottomAboveTopSwapsTheTwo) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  drawn->SetClipBox(0, 10, 0, 50);
+  drawn->SetBottom(60);
+  ExpectEdges(*drawn, {0, 50, 0, 60});
+  drawn->SetBottom(60);
+  ExpectEdges(*drawn, {0, 60, 0, 60});
+}
+
+// Deliberate: the other edges and the sizes put nothing in order.
+TEST(PDFTemplate, DeliberateLeftTopWidthAndHeightSwapNothing) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  drawn->SetClipBox(10, 20, 30, 40);
+  drawn->SetWidth(-5);
+  drawn->SetHeight(-7);
+  ExpectEdges(*drawn, {10, 20, 5, 13});
+  EXPECT_EQ(drawn->Width(), -5);
+  EXPECT_EQ(drawn->Height(), -7);
+  drawn->SetLeft(100);
+  drawn->SetTop(-100);
+  ExpectEdges(*drawn, {100, 20, 5, -100});
+  drawn->SetClipBox(4, 3, 2, 1);
+  ExpectEdges(*drawn, {4, 3, 2, 1});
+}
+
+TEST(PDFTemplate, SizesAreComputedInSinglePrecision) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  drawn->SetClipBox(16777216, 16777216, 16777216, 16777216);
+  drawn->SetWidth(1);  // halfway to the next single, which is odd
+  drawn->SetHeight(3);
+  ExpectEdges(*drawn, {16777216, 16777216, 16777216, 16777220});
+  EXPECT_EQ(drawn->Right(), 16777216);
+  EXPECT_EQ(drawn->Top(), 16777220);
+}
+
+TEST(PDFTemplate, SizeBeyondASingleRaises6AndChangesNothing) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  drawn->SetClipBox(-kLargest, -kLargest, kLargest, kLargest);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->Width(); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->Height(); }), 6);
+  drawn->SetClipBox(kLargest, kLargest, 1, 2);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->SetWidth(kLargest); }), 6);
+  EXPECT_EQ(ErrorTextOf([&] { drawn->SetHeight(kLargest); }),
+            "PDFTemplate.Height: a sum of coordinates is beyond a single");
+  EXPECT_EQ(drawn->Right(), 1);
+  EXPECT_EQ(drawn->Top(), 2);
+}
+
+TEST(PDFTemplate, BoxGrownFromTheStartHasTheOrigin) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  drawn->DrawLine(10, 20, 30, 40);
+  ExpectEdges(*drawn, {0, 0, 30, 40});
+  drawn->DrawLine(-1, 50, 5, -2);
+  ExpectEdges(*drawn, {-1, -2, 30, 50});
+}
+
+TEST(PDFTemplate, LinesGrowTheBoxByTheirEnds) {
+  ExpectBoxAround([](PDFTemplate& drawn) { drawn.DrawLine(30, 20, 10, 40); }, {10, 20, 30, 40});
+  ExpectBoxAround(
+      [](PDFTemplate& drawn) {
+        drawn.SetCurPos(-3, 60);
+        drawn.DrawLineTo(8, 5);
+      },
+      {-3, 5, 8, 60});
+}
+
+TEST(PDFTemplate, MovingThePenGrowsNothing) {
+  ExpectBoxAround(
+      [](PDFTemplate& drawn) {
+        drawn.SetCurPos(1000, 1000);
+        drawn.SetCurPos(2, 3);
+        drawn.DrawLineTo(2, 3);
+      },
+      {2, 3, 2, 3});
+}
+
+TEST(PDFTemplate, RectanglesGrowTheBoxByTwoCorners) {
+  ExpectBoxAround([](PDFTemplate& drawn) { drawn.DrawRect(10, 20, 100, 50); }, {10, 20, 110, 70});
+  ExpectBoxAround([](PDFTemplate& drawn) { drawn.DrawRect(10, 20, -100, -50, false, false); },
+                  {-90, -30, 10, 20});
+}
+
+// As they are placed at last: with the ratio kept, and with measures left out.
+TEST(PDFTemplate, ImagesGrowTheBoxByTwoCorners) {
+  const auto document = PDFDocument::Create();
+  const auto image = document->Images()->Add();
+  image->SetFileName(WriteBlankBmp("wide.bmp", 400, 100).u8string());
+  const auto expectBox = [&](const std::function<void(PDFTemplate&)>& draw, const Edges& expected) {
+    const auto drawn = document->Templates()->Add();
+    drawn->SetClipBox(1e6F, 1e6F, -1e6F, -1e6F);
+    draw(*drawn);
+    ExpectEdges(*drawn, expected);
+  };
+  expectBox([&](PDFTemplate& drawn) { drawn.DrawImage(image, 10, 20); }, {10, 20, 410, 120});
+  expectBox([&](PDFTemplate& drawn) { drawn.DrawImage(image, 10, 20, 200, 100); },
+            {10, 20, 210, 70});
+  expectBox([&](PDFTemplate& drawn) { drawn.DrawImage(image, 10, 20, -200, 100.5, false); },
+            {-190, 20, 10, 120.5F});
+  expectBox([&](PDFTemplate& drawn) { drawn.DrawImage(image, 0.1F, 0, 0.2, 0.2, false); },
+            {0.1F, 0, 0.3F, 0.2F});
+}
+
+TEST(PDFTemplate, ImageIsDrawnAsOnAPage) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  const auto image = document->Images()->Add();
+  image->SetFileName(WriteBlankBmp("wide.bmp", 400, 100).u8string());
+  drawn->DrawImage(image, 72, 600, 200, 100);
+  EXPECT_EQ(ErrorTextOf([&] { drawn->DrawImage(nullptr, -500, 0); }),
+            "PDFTemplate.DrawImage: no image is given");
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawImage(image, -500, 0, 3e9, 3e9); }), 6);
+  const SavedDocument saved = Save(*document, "image.pdf", Check::kForm);
+  EXPECT_EQ(saved.pdf.Stream(4), "q\nq\n200 0 0 50 72 600  cm\n/I1 Do\nQ\nQ\n");
+  EXPECT_NE(saved.pdf.Object(4).find("/BBox [ 0  0  272  650 ]\n"), std::string_view::npos);
+  EXPECT_NE(saved.pdf.Object(4).find("\n/XObject << /I1 5 0 R\n >>\n"), std::string_view::npos);
+  EXPECT_TRUE(saved.pdf.Object(5).starts_with("<< /Type /XObject\n/Subtype /Image\n"));
+}
+
+TEST(PDFTemplate, TextGrowsTheBoxFromTheFontsTopToALeadingBelow) {
+  ExpectBoxAround([](PDFTemplate& drawn) { drawn.DrawText("A", 100, 200); },
+                  {100, 188.44F, 106.67F, 209.31F});
+  ExpectBoxAround([](PDFTemplate& drawn) { drawn.DrawText("", 100, 200); },
+                  {100, 188.44F, 100, 209.31F});
+}
+
+TEST(PDFTemplate, TextGrowsTheBoxOverItsWidestLineAndAllLines) {
+  ExpectBoxAround([](PDFTemplate& drawn) { drawn.DrawText("A\r\nAAA\nA\n", 100, 200); },
+                  {100, 153.76F, 120.01F, 209.31F});
+}
+
+// Deliberate: the backslashes count, as they do for decorations.
+TEST(PDFTemplate, DeliberateTextGrowsTheBoxByTheEscapedLine) {
+  ExpectBoxAround([](PDFTemplate& drawn) { drawn.DrawText("(", 0, 0); },
+                  {0, -11.56F, 6.11F, 9.31F});
+  ExpectBoxAround([](PDFTemplate& drawn) { drawn.DrawText("A\\\nA", 0, 0); },
+                  {0, -23.12F, 12.23F, 9.31F});
+  // "ll" is 4.44 wide, but "(" is written with a backslash and comes to 6.11.
+  ExpectBoxAround([](PDFTemplate& drawn) { drawn.DrawText("ll\n(", 0, 0); },
+                  {0, -23.12F, 6.11F, 9.31F});
+}
+
+// TextWidth is that of the size shown, 0.65 of the full one; the heights are those of the full one.
+TEST(PDFTemplate, SubscriptGrowsTheBoxByItsReducedWidthAndFullHeight) {
+  ExpectBoxAround(
+      [](PDFTemplate& drawn) {
+        Decorated(drawn)->SetSubscript(true);
+        drawn.DrawText("AA", 0, 0);
+      },
+      {0, -11.56F, 8.671F, 9.31F});
+}
+
+// The underline is as wide as the text in full size.
+TEST(PDFTemplate, DecorationsGrowTheBoxAgain) {
+  ExpectBoxAround(
+      [](PDFTemplate& drawn) {
+        const auto font = Decorated(drawn);
+        font->SetSuperscript(true);
+        font->SetUnderline(true);
+        drawn.DrawText("AA", 0, 0);
+      },
+      {0, -11.56F, 13.34F, 9.31F});
+}
+
+// A size below zero turns the text round: widths, tops and leadings change their side.
+TEST(PDFTemplate, TextOfANegativeSizeGrowsTheBoxToTheOtherSide) {
+  ExpectBoxAround(
+      [](PDFTemplate& drawn) {
+        Decorated(drawn)->SetSize(-10);
+        drawn.DrawText("A\nAA", 0, 0);
+      },
+      {-6.67F, -9.31F, 0, 23.12F});
+}
+
+TEST(PDFTemplate, AlignedTextGrowsTheBoxByTheBoxPassed) {
+  ExpectBoxAround(
+      [](PDFTemplate& drawn) {
+        drawn.DrawTextAligned("far wider than the box\nand higher", 10, 20, 5, 6, htaRight, vtaTop);
+      },
+      {10, 20, 15, 26});
+  ExpectBoxAround([](PDFTemplate& drawn) { drawn.DrawTextAligned("x", 10, 20, -5, -6); },
+                  {5, 14, 10, 20});
+}
+
+TEST(PDFTemplate, EmptyAlignedTextGrowsNothing) {
+  ExpectBoxAround([](PDFTemplate& drawn) { drawn.DrawTextAligned("", 10, 20, 5, 6); },
+                  {1e6F, 1e6F, -1e6F, -1e6F});
+}
+
+TEST(PDFTemplate, TransformationsAndLineWidthsDoNotCountForTheBox) {
+  ExpectBoxAround(
+      [](PDFTemplate& drawn) {
+        drawn.GraphicsState()->SetLineWidth(50);
+        drawn.GraphicsState()->Translate(1000, 1000);
+        drawn.DrawLine(1, 2, 3, 4);
+      },
+      {1, 2, 3, 4});
+}
+
+TEST(PDFTemplate, BoxGrowsOnlyWhileAutoSizeClipBoxIsOn) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  drawn->SetAutoSizeClipBox(false);
+  EXPECT_FALSE(drawn->AutoSizeClipBox());
+  const auto font = Decorated(*drawn);
+  font->SetUnderline(true);
+  drawn->DrawText("A", 100, 100);
+  drawn->DrawTextAligned("A", 100, 100, 50, 50);
+  drawn->DrawLine(100, 100, 200, 200);
+  drawn->DrawLineTo(300, 300);
+  drawn->DrawRect(100, 100, 500, 500);
+  ExpectEdges(*drawn, {0, 0, 0, 0});
+  drawn->SetAutoSizeClipBox(true);
+  ExpectEdges(*drawn, {0, 0, 0, 0});
+  drawn->DrawLine(1, 2, 3, 4);
+  ExpectEdges(*drawn, {0, 0, 3, 4});
+}
+
+TEST(PDFTemplate, FailedDrawingAppendsNothingAndGrowsNothing) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  drawn->SetCurPos(7, 8);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawLine(50, 50, kInfinity, 0); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawLineTo(kNotANumber, 0); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawRect(kLargest, 0, kLargest, 0); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawRect(0, 0, 3e9F, 0); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawText("A", 3e9F, 0); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawTextAligned("A", 3e9F, 0, 1, 1); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawText("\xFF", 50, 50); }), 5);
+  Decorated(*drawn)->SetUnderline(true);
+  // The text itself can be written here, the end of its underline not.
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawText("AAAAAAAAAAAAAAAAAAAAAAA", 2147483520.0F, -500); }),
+            6);
+  ExpectEdges(*drawn, {0, 0, 0, 0});
+  float x = 0;
+  float y = 0;
+  drawn->GetCurPos(x, y);
+  EXPECT_EQ(x, 7);
+  EXPECT_EQ(y, 8);
+  EXPECT_EQ(Save(*document, "nothing.pdf", Check::kForm).pdf.Stream(4), "q\nQ\n");
+}
+
+TEST(PDFTemplate, ErrorsNameTheMember) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  const std::string inf = ": a value of inf cannot be written: PDF numbers are below 2^31";
+  EXPECT_EQ(ErrorTextOf([&] { drawn->DrawText("A", kInfinity, 0); }), "PDFTemplate.DrawText" + inf);
+  EXPECT_EQ(ErrorTextOf([&] { drawn->DrawLine(kInfinity, 0, 0, 0); }),
+            "PDFTemplate.DrawLine" + inf);
+  EXPECT_EQ(ErrorTextOf([&] { drawn->DrawLineTo(kInfinity, 0); }), "PDFTemplate.DrawLineTo" + inf);
+  EXPECT_EQ(ErrorTextOf([&] { drawn->DrawTextAligned("A", 0, 0, kInfinity, 0); }),
+            "PDFTemplate.DrawTextAligned: a sum of coordinates is beyond a single");
+  EXPECT_EQ(ErrorTextOf([&] { drawn->DrawRect(0, 0, 0, kInfinity); }),
+            "PDFTemplate.DrawRect: a sum of coordinates is beyond a single");
+  EXPECT_EQ(ErrorTextOf([&] { drawn->SetFont(nullptr); }), "PDFTemplate.Font: no font is given");
+}
+
+TEST(PDFTemplate, BoxThatCannotBeWrittenFailsTheSaveAndNamesTheTemplate) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add("logo");
+  drawn->SetTop(kNotANumber);
+  EXPECT_EQ(ErrorNumberOf([&] { Save(*document, "broken"); }), 6);
+  EXPECT_EQ(ErrorTextOf([&] { Save(*document, "broken"); }),
+            "The clip box of the PDFTemplate 'logo': a value of nan cannot be written: PDF numbers "
+            "are below 2^31");
+  drawn->SetTop(1);
+  document->Templates()->Add()->SetLeft(-3e9F);
+  EXPECT_EQ(ErrorTextOf([&] { Save(*document, "broken"); }),
+            "The clip box of the PDFTemplate /T2: a value of -3e+09 cannot be written: PDF numbers "
+            "are below 2^31");
+}
+
+TEST(PDFTemplate, FontOfAnotherDocumentIsRefused) {
+  const auto document = PDFDocument::Create();
+  const auto other = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  const auto font = drawn->Font();
+  EXPECT_EQ(ErrorTextOf([&] { drawn->SetFont(other->Fonts()->Add("Courier")); }),
+            "PDFTemplate.Font: Font 'Courier' belongs to another document");
+  EXPECT_EQ(drawn->Font(), font);
+}
+
+TEST(PDFTemplate, TagHoldsAnything) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  drawn->SetTag(42);
+  EXPECT_EQ(*drawn->Tag().As<std::int64_t>(), 42);
+  drawn->SetTag(drawn->Font());
+  EXPECT_EQ(*drawn->Tag().As<std::shared_ptr<Object>>(), drawn->Font());
+}
+
+TEST(PDFTemplate, EveryOperationWritesItsOperators) {
+  EXPECT_EQ(StreamAfter([](PDFTemplate& drawn) {
+              drawn.DrawText("one\ntwo", 1, 2);
+              drawn.DrawTextAligned("A", 10, 20, 100, 50, htaRight, vtaTop);
+              drawn.DrawLine(10, 20, 30, 40);
+              drawn.DrawLineTo(50, 60);
+              drawn.DrawRect(1, 2, 3, 4);
+              drawn.DrawRect(1, 2, 3, 4, true, true);
+              drawn.DrawRect(1, 2, 3, 4, false, true);
+              drawn.DrawRect(1, 2, 3, 4, false, false);
+              drawn.DrawLineTo(0, 0);
+            }),
+            "q\nBT\n/F0 10  Tf\n1  2  Td\n11.56  TL\n(one) Tj\nT*\n(two) Tj\nET\n"
+            "BT\n/F0 10  Tf\n10  62.82  Td\n93.33  0 Td\n(A) Tj\n-93.33  0 Td\nET\n"
+            "10  20  m\n30  40  l\nS\n30  40  m\n50  60  l\nS\n"
+            "1  2  m\n1  2  3  4  re\ns\n1  2  m\n1  2  3  4  re\nb\n"
+            "1  2  m\n1  2  3  4  re\nf n\n1  2  m\n1  2  3  4  re\nn\n"
+            "4  6  m\n0  0  l\nS\nQ\n");
+}
+
+TEST(PDFTemplate, DecorationsAreBracketedAndMoveThePen) {
+  EXPECT_EQ(StreamAfter([](PDFTemplate& drawn) {
+              Decorated(drawn)->SetUnderline(true);
+              drawn.DrawText("A", 100, 200);
+              drawn.DrawLineTo(0, 0);
+            }),
+            "q\nBT\n/F0 10  Tf\n100  200  Td\n(A) Tj\nET\nq\n0.5  w\n100  199  m\n106.67  199  l\n"
+            "S\nQ\n106.67  199  m\n0  0  l\nS\nQ\n");
+}
+
+TEST(PDFTemplate, GraphicsStateIsNestedInItsOwnContent) {
+  EXPECT_EQ(StreamAfter([](PDFTemplate& drawn) {
+              const auto state = drawn.GraphicsState();
+              state->SetLineWidth(3);
+              state->Push();
+              EXPECT_EQ(state->LineWidth(), 0);
+              state->SetFillColor(0x0000FF);
+              state->Translate(10, 20);
+              state->Push();
+              state->SetLineWidth(2);
+              state->Pop();
+              EXPECT_EQ(state->FillColor(), 0x0000FF);
+              EXPECT_EQ(state->LineWidth(), 0);
+              EXPECT_FALSE(state->Pop());
+              EXPECT_EQ(state->LineWidth(), 3);
+              EXPECT_EQ(ErrorNumberOf([&] { state->Pop(); }), 9);
+            }),
+            "q\n3  w\nq\n1 0 0 rg\n1 0 0 1 10 20  cm\nq\n2  w\nQ\nQ\nQ\n");
+}
+
+TEST(PDFTemplate, WhatIsDrawnOnATemplateIsNotOnThePage) {
+  const auto document = PDFDocument::Create();
+  const auto page = document->Pages()->Add();
+  const auto drawn = document->Templates()->Add();
+  drawn->SetFont(document->Fonts()->Add("Courier"));
+  drawn->GraphicsState()->SetFillColor(0xFF);
+  drawn->DrawText("in the template", 0, 0);
+  page->DrawTemplate(drawn, 72, 700);
+  EXPECT_EQ(ContentOf(*page), "q\n1 0 0 1 72 700  cm\n/T1 Do\nQ\n");
+  EXPECT_EQ(page->GraphicsState()->FillColor(), 0);
+  const SavedDocument saved = Save(*document, "separate.pdf");
+  EXPECT_NE(saved.pdf.Object(4).find("/Font << /F0 7 0 R\n >>\n/XObject << /T1 6 0 R\n >>\n"),
+            std::string_view::npos);
+  EXPECT_NE(saved.pdf.Object(6).find("/Font << /F0 7 0 R\n /F1 8 0 R\n >>\n>>\n/Length"),
+            std::string_view::npos);
+  EXPECT_EQ(TextOf(saved.path), "in the template\n\f");
+}
+
+TEST(PDFTemplate, DrawnAThousandTimesItIsWrittenOnce) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add("letterhead");
+  drawn->DrawText("letterhead", 0, 0);
+  for (int i = 0; i < 10; ++i) {
+    const auto page = document->Pages()->Add();
+    for (int j = 0; j < 100; ++j) page->DrawTemplate(drawn, 5 * i, 7 * j);
+  }
+  const SavedDocument saved = Save(*document, "thousand.pdf");
+  ASSERT_EQ(saved.pdf.Count(), 3 + 2 * 10 + 1 + 1);
+  std::size_t written = 0;
+  for (std::size_t at = 0; (at = saved.bytes.find("(letterhead)", at)) != std::string::npos; ++at) {
+    ++written;
+  }
+  EXPECT_EQ(written, 1);
+  for (std::size_t page = 0; page < 10; ++page) {
+    const std::string object(saved.pdf.Object(4 + 2 * page));
+    EXPECT_NE(object.find("/XObject << /T1 24 0 R\n >>\n"), std::string::npos) << object;
+  }
+  std::string shown;
+  for (int i = 0; i < 1000; ++i) shown += i % 100 == 99 ? "letterhead\n\f" : "letterhead\n";
+  EXPECT_EQ(TextOf(saved.path), shown);
+}
+
+TEST(PDFTemplate, ShowsAsItIsWhenSaved) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  document->Pages()->Add()->DrawTemplate(drawn, 72, 700);
+  drawn->DrawText("drawn later", 0, 0);
+  EXPECT_EQ(TextOf(Save(*document, "one.pdf").path), "drawn later\n\f");
+  drawn->DrawText("after a save", 0, -20);
+  EXPECT_EQ(TextOf(Save(*document, "two.pdf").path), "drawn later\nafter a save\n\f");
+}
+
+TEST(PDFTemplate, LongContentIsWrittenWhole) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  std::string expected = "q\n";
+  for (int i = 0; i < 20000; ++i) {
+    drawn->DrawLine(100, 100, 200.5F, 200.25F);
+    expected += "100  100  m\n200.5  200.25  l\nS\n";
+  }
+  EXPECT_TRUE(Save(*document, "long.pdf", Check::kForm).pdf.Stream(4) == expected + "Q\n");
+}
+
+// A drawing with a bit of everything, within 0, 0 and 200, 150.
+template <class Target>
+void DrawCard(Target& target, PDFDocument& document) {
+  const auto state = target.GraphicsState();
+  state->Push();
+  state->SetFillColor(0xC0E0FF);
+  state->SetStrokeColor(0x802000);
+  state->SetLineWidth(3);
+  target.DrawRect(4, 4, 190, 140, true, true);
+  state->Pop();
+  target.DrawRect(0, 0, 200, 150, false, false);  // room for the thick line
+  const auto font = document.Fonts()->Add("Times-Italic");
+  font->SetSize(20);
+  font->SetUnderline(true);
+  target.SetFont(font);
+  target.DrawText("Text (italic)\nand more", 20, 110);
+  target.DrawTextAligned("aligned", 10, 10, 170, 30, htaRight, vtaCenter);
+  state->Push();
+  state->Translate(100, 40);
+  state->Rotate(20);
+  state->SetLineDashPattern(6, 2);
+  target.DrawRect(0, 0, 40, 20);
+  target.DrawLineTo(70, 5);
+  state->Pop();
+  target.DrawLine(20, 20, 60.5F, 40.25F);
+}
+
+void ExpectSamePictures(const SavedDocument& a, const SavedDocument& b, const SavedDocument& blank,
+                        int dotsPerInch) {
+  const auto picturesOfA = PicturesOf(a.path, dotsPerInch);
+  const auto picturesOfB = PicturesOf(b.path, dotsPerInch);
+  const auto blanks = PicturesOf(blank.path, dotsPerInch);
+  for (std::size_t i = 0; i < picturesOfA.size(); ++i) {
+    EXPECT_TRUE(picturesOfA[i].bytes == picturesOfB[i].bytes) << picturesOfA[i].program;
+    EXPECT_FALSE(picturesOfA[i].bytes == blanks[i].bytes) << picturesOfA[i].program;
+  }
+}
+
+class PDFTemplatePictures : public testing::Test {
+ protected:
+  SavedDocument Drawn(const char* name, const std::function<void(PDFPage&, PDFDocument&)>& draw) {
+    const auto document = PDFDocument::Create();
+    const auto page = document->Pages()->Add();
+    page->SetPageExtents(300, 250);
+    draw(*page, *document);
+    return Save(*document, name);
+  }
+  SavedDocument Blank() {
+    return Drawn("blank.pdf", [](PDFPage&, PDFDocument&) {});
+  }
+};
+
+TEST_F(PDFTemplatePictures, TemplateLooksLikeTheSameDrawingOnThePage) {
+  const SavedDocument placed = Drawn("placed.pdf", [](PDFPage& page, PDFDocument& document) {
+    const auto card = document.Templates()->Add();
+    DrawCard(*card, document);
+    page.DrawTemplate(card);
+  });
+  const SavedDocument direct =
+      Drawn("direct.pdf", [](PDFPage& page, PDFDocument& document) { DrawCard(page, document); });
+  ExpectSamePictures(placed, direct, Blank(), 144);
+}
+
+TEST_F(PDFTemplatePictures, PlacedTemplatesLookLikeMovedDrawings) {
+  const std::array<std::array<float, 2>, 3> places = {{{0, 0}, {70, 80}, {95.5F, 33.25F}}};
+  const SavedDocument placed = Drawn("placed.pdf", [&](PDFPage& page, PDFDocument& document) {
+    const auto card = document.Templates()->Add();
+    DrawCard(*card, document);
+    for (const auto& [x, y] : places) page.DrawTemplate(card, x, y);
+  });
+  const SavedDocument direct = Drawn("direct.pdf", [&](PDFPage& page, PDFDocument& document) {
+    for (const auto& [x, y] : places) {
+      page.GraphicsState()->Push();
+      page.GraphicsState()->Translate(x, y);
+      DrawCard(page, document);
+      page.GraphicsState()->Pop();
+    }
+  });
+  ExpectSamePictures(placed, direct, Blank(), 144);
+}
+
+// The colour that the page has set does not show through a template that sets its own, and what the
+// template sets is gone behind it.
+TEST_F(PDFTemplatePictures, TemplateTakesThePagesStateAndLeavesItAsItWas) {
+  const SavedDocument placed = Drawn("placed.pdf", [](PDFPage& page, PDFDocument& document) {
+    const auto squares = document.Templates()->Add();
+    squares->DrawRect(10, 10, 50, 50, false, true);
+    squares->GraphicsState()->SetFillColor(0x00FF00);
+    squares->DrawRect(70, 10, 50, 50, false, true);
+    page.GraphicsState()->SetFillColor(0x0000FF);
+    page.DrawTemplate(squares);
+    page.DrawRect(130, 10, 50, 50, false, true);
+  });
+  const SavedDocument direct = Drawn("direct.pdf", [](PDFPage& page, PDFDocument&) {
+    page.GraphicsState()->SetFillColor(0x0000FF);
+    page.DrawRect(10, 10, 50, 50, false, true);
+    page.DrawRect(130, 10, 50, 50, false, true);
+    page.GraphicsState()->SetFillColor(0x00FF00);
+    page.DrawRect(70, 10, 50, 50, false, true);
+  });
+  ExpectSamePictures(placed, direct, Blank(), 72);
+}
+
+// The box lies at 70, 80 to 110, 140 of the page; at 72 dots an inch a dot is a point. The dots at
+// its edges, inside and outside, are not looked at: programs differ in them.
+TEST_F(PDFTemplatePictures, NothingShowsOutsideTheClipBox) {
+  const SavedDocument placed = Drawn("placed.pdf", [](PDFPage& page, PDFDocument& document) {
+    const auto square = document.Templates()->Add();
+    square->DrawRect(0, 0, 100, 100, false, true);
+    square->SetClipBox(20, 30, 60, 90);
+    page.DrawTemplate(square, 50, 50);
+  });
+  for (const Picture& picture : PicturesOf(placed.path, 72)) {
+    const std::string_view dots =
+        std::string_view(picture.bytes).substr(picture.bytes.size() - 300 * 250 * 3);
+    for (std::size_t row = 0; row < 250; ++row) {
+      for (std::size_t column = 0; column < 300; ++column) {
+        const std::string_view dot = dots.substr((row * 300 + column) * 3, 3);
+        const std::size_t above = 249 - row;  // points from the bottom
+        if (column < 69 || column > 110 || above < 79 || above > 140) {
+          ASSERT_EQ(dot, "\xFF\xFF\xFF") << picture.program << " at " << column << ", " << above;
+        } else if (column > 70 && column < 109 && above > 80 && above < 139) {
+          ASSERT_EQ(dot, std::string_view("\0\0\0", 3))
+              << picture.program << " at " << column << ", " << above;
+        }
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace folivar::test
