@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 // The work that every library is given: the same texts, coordinates and colours, in the same order.
 // A program names its Document and calls RunWorkload<Document>(argc, argv) from main. A Document
@@ -23,7 +24,14 @@
 //   void FillRect(Color, Rect);
 //   void PaintRect(Color stroke, Color fill, Rect);     // fills, then strokes
 //   void EndPage();
+//   void MakeTemplate(const Letterhead&);               // one in a document
+//   void PlaceTemplate(Point origin);
 //   void Save();
+//
+// and, if it can place the pictures in files:
+//
+//   Picture LoadPicture(const std::string& path);
+//   void DrawPicture(const Picture&, Rect);
 //
 // Lengths are points from the bottom left corner of the page. Text is in the TrueType font of the
 // font file, which is embedded; without a font file it is in Helvetica.
@@ -45,6 +53,11 @@ struct Rect {
   float width;
   float height;
 };
+
+// What every picture measures.
+inline constexpr int kPictureWidth = 2001;
+inline constexpr int kPictureHeight = 2000;
+inline constexpr std::size_t kPictureCount = 20;
 
 struct Color {
   std::uint8_t red;
@@ -90,22 +103,49 @@ class Lines {
   std::array<std::string, 64> lines_;
 };
 
+// What a template shows within its box: lines of text in a black frame.
+struct Letterhead {
+  static constexpr Rect kBox = {0, 0, 468, 72};
+  static constexpr Rect kFrame = {1, 1, 466, 70};
+  static Point PlaceOf(std::size_t line) { return {6, 56.5F - 11.75F * static_cast<float>(line)}; }
+
+  std::array<std::string, 5> lines;  // without parentheses
+};
+
 template <class Document>
 class Workloads {
  public:
-  Workloads(std::string folder, std::string fontFile)
-      : folder_(std::move(folder)), fontFile_(std::move(fontFile)) {}
+  // `input` is what a workload reads: for those that place pictures their folder, which has 0.jpg,
+  // 1.jpg and so on; for others a font file, or nothing.
+  Workloads(std::string folder, std::string input)
+      : folder_(std::move(folder)), input_(std::move(input)) {}
 
   // `size` pages of `lineCount` lines.
   void Text(std::size_t size, std::size_t lineCount) {
-    Document document(PathOf(0), fontFile_);
+    Document document(PathOf(0), input_);
     for (std::size_t page = 0; page < size; ++page) AddTextPage(document, page, lineCount);
+    document.Save();
+  }
+
+  // `size` pages that place one template.
+  void Template(std::size_t size) {
+    Document document(PathOf(0), input_);
+    Letterhead letterhead;
+    for (std::size_t i = 0; i < letterhead.lines.size(); ++i) {
+      letterhead.lines[i] = lines_.At(1 + i);
+    }
+    document.MakeTemplate(letterhead);
+    for (std::size_t page = 0; page < size; ++page) {
+      document.BeginPage();
+      document.PlaceTemplate({72, 700.25F});
+      document.EndPage();
+    }
     document.Save();
   }
 
   // `size` pages of 1,000 lines and rectangles, each with colours of its own.
   void Vector(std::size_t size) {
-    Document document(PathOf(0), fontFile_);
+    Document document(PathOf(0), input_);
     for (std::size_t page = 0; page < size; ++page) {
       document.BeginPage();
       for (std::size_t primitive = 0; primitive < 1000; ++primitive) Draw(document, primitive % 4);
@@ -114,10 +154,29 @@ class Workloads {
     document.Save();
   }
 
+  // `size` pages, each with one of the pictures in files with this extension, in turn.
+  void Pictures(std::size_t size, const std::string& extension) {
+    if constexpr (requires(Document & document) { document.LoadPicture(extension); }) {
+      Document document(PathOf(0), "");
+      std::vector<decltype(document.LoadPicture(extension))> pictures;
+      for (std::size_t number = 0; number < kPictureCount; ++number) {
+        pictures.push_back(document.LoadPicture(input_ + "/" + std::to_string(number) + extension));
+      }
+      for (std::size_t page = 0; page < size; ++page) {
+        document.BeginPage();
+        document.DrawPicture(pictures[page % kPictureCount], {36, 126, 540, 540});
+        document.EndPage();
+      }
+      document.Save();
+    } else {
+      throw std::runtime_error("There is no way to place pictures");
+    }
+  }
+
   // `size` documents of one page with `lineCount` lines.
   void Documents(std::size_t size, std::size_t lineCount) {
     for (std::size_t number = 0; number < size; ++number) {
-      Document document(PathOf(number), fontFile_);
+      Document document(PathOf(number), input_);
       AddTextPage(document, number, lineCount);
       document.Save();
     }
@@ -165,24 +224,30 @@ class Workloads {
   }
 
   std::string folder_;
-  std::string fontFile_;
+  std::string input_;
   Lines lines_;
   Sequence sequence_;
 };
 
-// NAME SIZE FOLDER [FONT_FILE]; the files are FOLDER/0.pdf, FOLDER/1.pdf and so on.
+// NAME SIZE FOLDER [INPUT]; the files are FOLDER/0.pdf, FOLDER/1.pdf and so on.
 template <class Document>
 void RunNamed(std::string_view name, std::size_t size, const std::string& folder,
-              const std::string& fontFile) {
-  Workloads<Document> workloads(folder, fontFile);
+              const std::string& input) {
+  Workloads<Document> workloads(folder, input);
   if (name == "text") {
     workloads.Text(size, 60);
   } else if (name == "light") {
     workloads.Text(size, 5);
   } else if (name == "empty") {
     workloads.Text(size, 0);
+  } else if (name == "template") {
+    workloads.Template(size);
   } else if (name == "vector") {
     workloads.Vector(size);
+  } else if (name == "jpeg") {
+    workloads.Pictures(size, ".jpg");
+  } else if (name == "bmp") {
+    workloads.Pictures(size, ".bmp");
   } else if (name == "small") {
     workloads.Documents(size, 5);
   } else if (name == "startup") {
@@ -204,10 +269,10 @@ inline std::size_t NumberFrom(std::string_view digits) {
 template <class Document>
 int RunWorkload(int argc, char** argv) {
   try {
-    if (argc < 4 || argc > 5) {
-      throw std::runtime_error("Arguments: WORKLOAD SIZE FOLDER [FONT_FILE]");
+    if (argc != 4 && argc != 5) {
+      throw std::runtime_error("Arguments: WORKLOAD SIZE FOLDER [INPUT]");
     }
-    RunNamed<Document>(argv[1], NumberFrom(argv[2]), argv[3], argc > 4 ? argv[4] : "");
+    RunNamed<Document>(argv[1], NumberFrom(argv[2]), argv[3], argc == 5 ? argv[4] : "");
     return 0;
   } catch (const std::exception& error) {
     std::fprintf(stderr, "%s: %s\n", argv[0], error.what());

@@ -5,6 +5,8 @@
 
 #include FT_FREETYPE_H
 
+#include <cstddef>
+#include <fstream>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -41,24 +43,30 @@ class FreeType {
   FT_Library library_ = nullptr;
 };
 
+std::string BytesOf(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  file.seekg(0, std::ios::end);
+  std::string bytes(static_cast<std::size_t>(file.tellg()), '\0');
+  file.seekg(0);
+  file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  if (!file) throw std::runtime_error("Cannot read '" + path + "'");
+  return bytes;
+}
+
 // Cairo has no standard faces: without a font file it takes what the system offers as Helvetica. It
 // embeds the part of a font that is used. It compresses streams, which cannot be switched off, and
 // counts downwards from the top of the page.
 class Document {
  public:
+  using Picture = std::shared_ptr<cairo_surface_t>;
+
   Document(const std::string& path, const std::string& fontFile)
       : surface_(cairo_pdf_surface_create(path.c_str(), bench::kPageWidth, bench::kPageHeight)),
         context_(cairo_create(surface_.get())) {
-    cairo_t* cairo = context_.get();
-    if (fontFile.empty()) {
-      cairo_select_font_face(cairo, "Helvetica", CAIRO_FONT_SLANT_NORMAL, CAIRO_FONT_WEIGHT_NORMAL);
-    } else {
+    if (!fontFile.empty()) {
       face_.reset(cairo_ft_font_face_create_for_ft_face(FreeTypeOfProcess().Open(fontFile), 0));
-      cairo_set_font_face(cairo, face_.get());
     }
-    cairo_set_font_size(cairo, bench::kFontSize);
-    cairo_set_line_width(cairo, 1);
-    Check(cairo_status(cairo));
+    SetUp(context_.get());
   }
 
   void BeginPage() {}
@@ -95,7 +103,55 @@ class Document {
     cairo_stroke(context_.get());
   }
 
+  // The file stands for a surface of one pixel, which is then drawn as large as the rectangle:
+  // cairo goes through a surface's own pixels although it does not write them.
+  Picture LoadPicture(const std::string& path) {
+    Picture picture(cairo_image_surface_create(CAIRO_FORMAT_RGB24, 1, 1), cairo_surface_destroy);
+    auto bytes = std::make_unique<std::string>(BytesOf(path));
+    const auto* data = reinterpret_cast<const unsigned char*>(bytes->data());
+    const std::size_t size = bytes->size();
+    Check(cairo_surface_set_mime_data(
+        picture.get(), CAIRO_MIME_TYPE_JPEG, data, size,
+        [](void* held) { delete static_cast<std::string*>(held); }, bytes.release()));
+    return picture;
+  }
+
+  void DrawPicture(const Picture& picture, bench::Rect rect) {
+    cairo_t* cairo = context_.get();
+    cairo_save(cairo);
+    cairo_translate(cairo, rect.left, Down(rect.bottom + rect.height));
+    cairo_scale(cairo, rect.width, rect.height);
+    cairo_set_source_surface(cairo, picture.get(), 0, 0);
+    cairo_paint(cairo);
+    cairo_restore(cairo);
+  }
+
   void EndPage() { cairo_show_page(context_.get()); }
+
+  // A recording, which cairo writes once as a form object.
+  void MakeTemplate(const bench::Letterhead& letterhead) {
+    const bench::Rect& box = bench::Letterhead::kBox;
+    const cairo_rectangle_t extents = {box.left, box.bottom, box.width, box.height};
+    template_.reset(cairo_recording_surface_create(CAIRO_CONTENT_COLOR_ALPHA, &extents));
+    const std::unique_ptr<cairo_t, Destroyer> context(cairo_create(template_.get()));
+    cairo_t* cairo = context.get();
+    SetUp(cairo);
+    for (std::size_t i = 0; i < letterhead.lines.size(); ++i) {
+      const bench::Point at = bench::Letterhead::PlaceOf(i);
+      cairo_move_to(cairo, at.x, box.height - at.y);
+      cairo_show_text(cairo, letterhead.lines[i].c_str());
+    }
+    const bench::Rect& frame = bench::Letterhead::kFrame;
+    cairo_rectangle(cairo, frame.left, frame.bottom, frame.width, frame.height);
+    cairo_stroke(cairo);
+    Check(cairo_status(cairo));
+  }
+
+  void PlaceTemplate(bench::Point origin) {
+    cairo_set_source_surface(context_.get(), template_.get(), origin.x,
+                             Down(origin.y) - bench::Letterhead::kBox.height);
+    cairo_paint(context_.get());
+  }
 
   void Save() {
     Check(cairo_status(context_.get()));
@@ -116,6 +172,17 @@ class Document {
     return freeType;
   }
 
+  void SetUp(cairo_t* cairo) {
+    if (face_) {
+      cairo_set_font_face(cairo, face_.get());
+    } else {
+      cairo_select_font_face(cairo, "Helvetica", CAIRO_FONT_SLANT_NORMAL, CAIRO_FONT_WEIGHT_NORMAL);
+    }
+    cairo_set_font_size(cairo, bench::kFontSize);
+    cairo_set_line_width(cairo, 1);
+    Check(cairo_status(cairo));
+  }
+
   static double Down(float y) { return bench::kPageHeight - y; }
 
   void SetColor(bench::Color color) {
@@ -131,6 +198,7 @@ class Document {
   std::unique_ptr<cairo_font_face_t, Destroyer> face_;  // null without a font file
   std::unique_ptr<cairo_surface_t, Destroyer> surface_;
   std::unique_ptr<cairo_t, Destroyer> context_;
+  std::unique_ptr<cairo_surface_t, Destroyer> template_;
 };
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include <folivar/folivar.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -53,7 +54,31 @@ class Document {
     page_->DrawRect(rect.left, rect.bottom, rect.width, rect.height, true, true);
   }
 
+  std::shared_ptr<folivar::PDFImage> LoadPicture(const std::string& path) {
+    auto image = document_->Images()->Add();
+    image->SetFileName(path);
+    return image;
+  }
+
+  void DrawPicture(const std::shared_ptr<folivar::PDFImage>& picture, bench::Rect rect) {
+    page_->DrawImage(picture, rect.left, rect.bottom, rect.width, rect.height, false);
+  }
+
   void EndPage() {}
+
+  void MakeTemplate(const bench::Letterhead& letterhead) {
+    template_ = document_->Templates()->Add();
+    for (std::size_t i = 0; i < letterhead.lines.size(); ++i) {
+      const bench::Point at = bench::Letterhead::PlaceOf(i);
+      template_->DrawText(letterhead.lines[i], at.x, at.y);
+    }
+    const bench::Rect& frame = bench::Letterhead::kFrame;
+    template_->DrawRect(frame.left, frame.bottom, frame.width, frame.height);
+    const bench::Rect& box = bench::Letterhead::kBox;
+    template_->SetClipBox(box.left, box.bottom, box.left + box.width, box.bottom + box.height);
+  }
+
+  void PlaceTemplate(bench::Point origin) { page_->DrawTemplate(template_, origin.x, origin.y); }
 
   void Save() { document_->SavePDFFile(path_); }
 
@@ -63,6 +88,7 @@ class Document {
   std::shared_ptr<folivar::PDFFont> font_;  // null: the document's own, Helvetica 10
   std::shared_ptr<folivar::PDFPage> page_;
   std::shared_ptr<folivar::PDFGraphicsState> state_;
+  std::shared_ptr<folivar::PDFTemplate> template_;
 };
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include <hpdf.h>
 
+#include <cstddef>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -22,8 +23,8 @@ Handle Check(Handle handle) {
 
 float Share(std::uint8_t component) { return static_cast<float>(component) / 255; }
 
-// Text that follows text is one text object, and the font is set once for each page: as little work
-// as the library allows.
+// Text that follows text is one text object, and the font is set once for each page that has text:
+// as little work as the library allows.
 class Document {
  public:
   Document(std::string path, const std::string& fontFile)
@@ -41,10 +42,12 @@ class Document {
     page_ = Check(HPDF_AddPage(document_.get()));
     Check(HPDF_Page_SetWidth(page_, bench::kPageWidth));
     Check(HPDF_Page_SetHeight(page_, bench::kPageHeight));
-    Check(HPDF_Page_SetFontAndSize(page_, font_, bench::kFontSize));
+    isFontSet_ = false;
   }
 
   void DrawText(const std::string& line, bench::Point at) {
+    if (!isFontSet_) Check(HPDF_Page_SetFontAndSize(page_, font_, bench::kFontSize));
+    isFontSet_ = true;
     if (!isInText_) Check(HPDF_Page_BeginText(page_));
     isInText_ = true;
     Check(HPDF_Page_TextOut(page_, at.x, at.y, line.c_str()));
@@ -80,7 +83,52 @@ class Document {
     Check(HPDF_Page_FillStroke(page_));
   }
 
+  HPDF_Image LoadPicture(const std::string& path) {
+    return Check(HPDF_LoadJpegImageFromFile(document_.get(), path.c_str()));
+  }
+
+  void DrawPicture(HPDF_Image picture, bench::Rect rect) {
+    Check(HPDF_Page_DrawImage(page_, picture, rect.left, rect.bottom, rect.width, rect.height));
+  }
+
   void EndPage() { EndText(); }
+
+  // The library places form objects, but has no call that makes one: it is put together from the
+  // parts that the library itself uses, with operators written by hand.
+  void MakeTemplate(const bench::Letterhead& letterhead) {
+    HPDF_MMgr memory = document_->mmgr;
+    template_ = Check(HPDF_DictStream_New(memory, document_->xref));
+    template_->header.obj_class |= HPDF_OSUBCLASS_XOBJECT;
+    HPDF_Dict resources = Check(HPDF_Dict_New(memory));
+    HPDF_Dict fonts = Check(HPDF_Dict_New(memory));
+    Check(HPDF_Dict_AddName(template_, "Type", "XObject"));
+    Check(HPDF_Dict_AddName(template_, "Subtype", "Form"));
+    const bench::Rect& box = bench::Letterhead::kBox;
+    const HPDF_Box edges = {box.left, box.bottom, box.left + box.width, box.bottom + box.height};
+    Check(HPDF_Dict_Add(template_, "BBox", Check(HPDF_Box_Array_New(memory, edges))));
+    Check(HPDF_Dict_Add(template_, "Resources", resources));
+    Check(HPDF_Dict_Add(resources, "Font", fonts));
+    Check(HPDF_Dict_Add(fonts, "F", font_));
+
+    std::string content;
+    for (std::size_t i = 0; i < letterhead.lines.size(); ++i) {
+      const bench::Point at = bench::Letterhead::PlaceOf(i);
+      content += "BT /F " + std::to_string(bench::kFontSize) + " Tf " + std::to_string(at.x) + " " +
+                 std::to_string(at.y) + " Td (" + letterhead.lines[i] + ") Tj ET\n";
+    }
+    const bench::Rect& frame = bench::Letterhead::kFrame;
+    content += std::to_string(frame.left) + " " + std::to_string(frame.bottom) + " " +
+               std::to_string(frame.width) + " " + std::to_string(frame.height) + " re S\n";
+    Check(HPDF_Stream_WriteStr(template_->stream, content.c_str()));
+  }
+
+  void PlaceTemplate(bench::Point origin) {
+    EndText();
+    Check(HPDF_Page_GSave(page_));
+    Check(HPDF_Page_Concat(page_, 1, 0, 0, 1, origin.x, origin.y));
+    Check(HPDF_Page_ExecuteXObject(page_, template_));
+    Check(HPDF_Page_GRestore(page_));
+  }
 
   void Save() { Check(HPDF_SaveToFile(document_.get(), path_.c_str())); }
 
@@ -110,6 +158,8 @@ class Document {
   std::unique_ptr<std::remove_pointer_t<HPDF_Doc>, Freer> document_;
   HPDF_Font font_ = nullptr;
   HPDF_Page page_ = nullptr;
+  HPDF_XObject template_ = nullptr;
+  bool isFontSet_ = false;
   bool isInText_ = false;
 };
 
