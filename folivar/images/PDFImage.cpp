@@ -43,10 +43,10 @@ constexpr auto kFormats = std::to_array<Format>({
 
 // The format that the text behind the last point of the name tells, or null.
 const Format* FormatOf(const Text& fileName) {
-  const auto point = FindLastInRange(fileName, u".", 1, 0);
-  if (point == 0) return nullptr;
-  const auto extension =
-      std::u16string_view(fileName.Utf16()).substr(static_cast<std::size_t>(point));
+  const std::u16string_view name = fileName.Utf16();
+  const std::size_t point = name.rfind(u'.');
+  if (point == std::u16string_view::npos) return nullptr;
+  const std::u16string_view extension = name.substr(point + 1);
   for (const Format& format : kFormats) {
     if (CompareIgnoringCase(extension, format.extension) == 0) return &format;
   }
@@ -92,7 +92,7 @@ PDFImage::~PDFImage() = default;
 
 void PDFImage::SetFileName(TextView fileName) {
   Text name = InMember("PDFImage.FileName", [&] { return Text(fileName); });
-  const Format* format = InMember("PDFImage.FileName", [&] { return FormatOf(name); });
+  const Format* format = FormatOf(name);
   std::unique_ptr<ImageReader> reader;
   if (format != nullptr) {
     FileSource source = Open(name);
@@ -126,7 +126,11 @@ void PDFImage::WriteObjects(SaveFile& file) {
   reader_->WriteImageStream(imageFile, stream);
   assert(std::cmp_equal(stream.Written(), reader_->ImageStreamSize()));
   file.AppendBytes("\nendstream\n");
-  file.EndObject();
+  try {
+    file.EndObject();
+  } catch (const Error& error) {
+    throw Error(error.Number(), "Image file '" + fileName_.Utf8() + "': " + error.what());
+  }
 }
 
 //   9 0 obj

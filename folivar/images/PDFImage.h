@@ -44,9 +44,10 @@ class FOLIVAR_API PDFImage final : public XObject, public ObjectWriter {
   // shorter, and 91 for an image that was never given a file.
   //
   // Raises -2147220504 for a file of another format, "Error: Image type unknown for a.gif.", and
-  // for bitmaps of other kinds, "Unknown BMP format"; 53 for a file that does not exist; 6 for a
-  // JPEG file of 32768 pixels or more in width or height or longer than 2^31 - 1 bytes; 52, 70, 75
-  // or 76 for a file that cannot be read. The image stays as it was then.
+  // for bitmaps of other kinds, "Unknown BMP format"; 53 for a file that is not found, whatever the
+  // reason; 6 for a JPEG file of 32768 pixels or more in width or height or longer than 2^31 - 1
+  // bytes; 70 or 75 for a file that cannot be read. The image stays as it was then. A save raises 6
+  // for an image whose object would be longer than 2^31 - 1 bytes.
   const Text& FileName() const { return fileName_; }
   void SetFileName(TextView fileName);
 

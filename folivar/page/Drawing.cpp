@@ -1,5 +1,6 @@
 #include "folivar/page/Drawing.h"
 
+#include <cmath>
 #include <limits>
 #include <string>
 #include <string_view>

@@ -105,8 +105,8 @@ class FOLIVAR_API PDFTemplate final : public XObject, public ObjectWriter {
   // Draws an image with its lower left corner at (x, y), `width` by `height` points large; a
   // measure left out is the image's in pixels, as points. To maintain the aspect ratio, the image
   // becomes as large as fits into these measures; otherwise it is stretched to them. Raises 91 for
-  // null, 5 for an image of another document, 11 for the ratio of an image without a file, 13 for a
-  // measure that is no number and 94 for Null.
+  // null, 5 for an image of another document, 11 for the ratio of an image without pixels (no
+  // file yet, or a JPEG whose header says 0), 13 for a measure that is no number and 94 for Null.
   void DrawImage(const std::shared_ptr<PDFImage>& image, float x, float y, const Value& width = {},
                  const Value& height = {}, bool maintainAspectRatio = true);
 

@@ -55,6 +55,8 @@ TEST_F(PDFImageInADocument, StartsWithoutAFile) {
   EXPECT_FALSE(image_->Interpolate());
   EXPECT_EQ(image_->Key(), "logo");
   EXPECT_TRUE(image_->Tag().IsEmpty());
+  image_->SetTag("my own");
+  EXPECT_EQ(*image_->Tag().As<Text>(), "my own");
 }
 
 TEST_F(PDFImageInADocument, JpegIsWrittenAsItIs) {

@@ -361,6 +361,9 @@ TEST(PDFTemplate, BoxGrowsOnlyWhileAutoSizeClipBoxIsOn) {
   drawn->DrawLine(100, 100, 200, 200);
   drawn->DrawLineTo(300, 300);
   drawn->DrawRect(100, 100, 500, 500);
+  const auto image = document->Images()->Add();
+  image->SetFileName(WriteBlankBmp("image.bmp", 4, 3).u8string());
+  drawn->DrawImage(image, 100, 100);
   ExpectEdges(*drawn, {0, 0, 0, 0});
   drawn->SetAutoSizeClipBox(true);
   ExpectEdges(*drawn, {0, 0, 0, 0});
