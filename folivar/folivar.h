@@ -29,3 +29,5 @@
 #include "folivar/platform/Platform.h"
 #include "folivar/platform/SystemFonts.h"
 #include "folivar/platform/Warnings.h"
+#include "folivar/textbox/PDFTextBox.h"
+#include "folivar/textbox/PDFTextBoxes.h"

@@ -77,7 +77,14 @@ void AnsiText::Convert(std::u16string_view units) {
     long_.resize(units.size());
     out = long_.data();
   }
-  std::transform(units.begin(), units.end(), out, AnsiByte);
+  char16_t all = 0;
+  for (const char16_t unit : units) all = static_cast<char16_t>(all | unit);
+  if (all <= 0xFF) {
+    std::transform(units.begin(), units.end(), out,
+                   [](char16_t unit) { return static_cast<char>(unit); });
+  } else {
+    std::transform(units.begin(), units.end(), out, AnsiByte);
+  }
   bytes_ = std::string_view(out, units.size());
   traits_ = TraitsOf(bytes_);
 }

@@ -24,6 +24,13 @@ class SaveFile {
   // The same text, as long as the object is open.
   PDFText& OpenObject();
 
+  // An empty text for what must be known as a whole before it is put into the open object; what was
+  // in it before is gone.
+  PDFText& Draft() {
+    draft_.Truncate(0);
+    return draft_;
+  }
+
   // Puts bytes of any size into the open object; large ones are not copied.
   void AppendBytes(std::string_view bytes);
 
@@ -55,6 +62,7 @@ class SaveFile {
 
   ByteSink& sink_;
   PDFText gathered_;
+  PDFText draft_;
   std::uint64_t flushed_ = 0;  // bytes that the sink has
   std::uint64_t objectStart_ = 0;
   bool isObjectOpen_ = false;

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 
 #include "folivar/document/Api.h"
 
@@ -68,6 +69,12 @@ class FOLIVAR_API Text {
   Text() = default;
   // Raises 5 for text that is not UTF-8.
   explicit Text(TextView text);
+  // Of UTF-16 units that need not be copied.
+  static Text Of(std::u16string units) {
+    Text text;
+    text.units_ = std::move(units);
+    return text;
+  }
 
   bool IsEmpty() const { return units_.empty(); }
   const std::u16string& Utf16() const { return units_; }

@@ -33,6 +33,14 @@ std::int32_t Int32From(const Value& value) {
   RaiseNoNumber(value);
 }
 
+bool BoolFrom(const Value& value) {
+  if (const auto* flag = value.As<bool>()) return *flag;
+  if (const auto* whole = value.As<std::int64_t>()) return *whole != 0;
+  if (const auto* real = value.As<double>()) return *real != 0;
+  if (value.IsNull()) throw Error::InvalidNull("Null stands where a flag is wanted");
+  throw Error::TypeMismatch("A flag is wanted");
+}
+
 double DoubleFrom(const Value& value) {
   if (const auto* whole = value.As<std::int64_t>()) return static_cast<double>(*whole);
   if (const auto* real = value.As<double>()) return *real;

@@ -82,6 +82,10 @@ class FOLIVAR_API Value {
 // for what is no number.
 FOLIVAR_API std::int32_t Int32From(const Value& value);
 
+// The value as a flag, numbers other than 0 being true: 94 for Null, 13 for what is neither a flag
+// nor a number.
+FOLIVAR_API bool BoolFrom(const Value& value);
+
 // The value as a real, whole numbers included: 94 for Null, 13 for what is no number.
 FOLIVAR_API double DoubleFrom(const Value& value);
 

@@ -1,6 +1,5 @@
 #include "folivar/fonts/FontMetrics.h"
 
-#include <cmath>
 #include <string>
 
 #include "folivar/document/Global.h"
@@ -16,13 +15,8 @@ const PDFFontInfo& FaceOf(const FaceUser& user) { return *user.FontInfo(Internal
 
 FontMetrics::FontMetrics(const PDFFont& font) : font_(font), face_(FaceOf(font)) {}
 
-float FontMetrics::Scaled(float thousandths, float size) {
-  const float product = thousandths * size;
-  if (!std::isfinite(product)) {
-    throw Error::Overflow("a measure of the font at size " + DigitsOf(size) +
-                          " is beyond a single");
-  }
-  return product / 1000;
+void FontMetrics::RaiseBeyondASingle(float size) {
+  throw Error::Overflow("a measure of the font at size " + DigitsOf(size) + " is beyond a single");
 }
 
 float FontMetrics::EffectiveSize(float size) const {
@@ -40,7 +34,7 @@ float FontMetrics::Rise() const {
 bool IsSameFormat(const PDFFont& a, const PDFFont& b) {
   return a.Size() == b.Size() && a.Underline() == b.Underline() && a.StrikeOut() == b.StrikeOut() &&
          a.Subscript() == b.Subscript() && a.Superscript() == b.Superscript() &&
-         FaceOf(a).m_PDFName == FaceOf(b).m_PDFName;
+         (&FaceOf(a) == &FaceOf(b) || FaceOf(a).m_PDFName == FaceOf(b).m_PDFName);
 }
 
 }  // namespace folivar

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cmath>
+
 #include "folivar/document/Error.h"
 #include "folivar/fonts/PDFFont.h"
 #include "folivar/fonts/PDFFontInfo.h"
@@ -16,7 +18,11 @@ class FontMetrics {
 
   // Raises 6 when the product is beyond a single.
   float Scaled(float thousandths) const { return Scaled(thousandths, font_.Size()); }
-  static float Scaled(float thousandths, float size);
+  static float Scaled(float thousandths, float size) {
+    const float product = thousandths * size;
+    if (!std::isfinite(product)) RaiseBeyondASingle(size);
+    return product / 1000;
+  }
 
   float Ascender() const { return Scaled(face_.m_Ascender); }
   float Descender() const { return Scaled(face_.m_Descender); }
@@ -42,6 +48,8 @@ class FontMetrics {
   float SuperscriptSizePts() const { return Scaled(face_.m_SuperscriptSize); }
 
  private:
+  [[noreturn]] static void RaiseBeyondASingle(float size);
+
   const PDFFont& font_;
   const PDFFontInfo& face_;
 };

@@ -55,6 +55,9 @@ class PDFFontInfo final : public Object, public ObjectWriter {
   float FontBoxRight() const { return boxRight_; }
   float FontBoxTop() const { return boxTop_; }
 
+  // By the byte that stands for a character in the file.
+  const CharacterTable& Characters() const { return *characters_; }
+
   // Measuring takes text as the bytes that go into the file (AnsiText).
   float MeasureWidth(std::string_view bytes) const;
   // From the lowest to the highest point of the glyphs, the baseline included.

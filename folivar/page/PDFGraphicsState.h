@@ -13,11 +13,11 @@ namespace folivar {
 class Internal;
 class Surface;
 
-// The drawing state of one page or template: colours, line style, transformations. Made with its
-// owner, the same object each time. Every setter appends its operator to the owner's content at
-// once (setting the same colour twice writes it twice) and remembers the value for its getter.
-// Numbers that PDF cannot hold (not finite, or 2^31 and beyond) raise 6, and then nothing is stored
-// or appended.
+// The drawing state of one page, template or text box: colours, line style, transformations. Made
+// with its owner, the same object each time. Every setter appends its operator to the owner's
+// content at once (setting the same colour twice writes it twice) and remembers the value for its
+// getter. Numbers that PDF cannot hold (not finite, or 2^31 and beyond) raise 6, and then nothing
+// is stored or appended.
 //
 // Colours are 0x00BBGGRR, red in the low byte; the top byte is kept but means nothing.
 class FOLIVAR_API PDFGraphicsState final : public Object {

@@ -17,6 +17,7 @@
 #include "folivar/page/PDFGraphicsState.h"
 #include "folivar/page/PDFTemplate.h"
 #include "folivar/page/Surface.h"
+#include "folivar/textbox/PDFTextBoxes.h"
 
 namespace folivar {
 
@@ -53,6 +54,13 @@ void PDFPage::GetClipBox(float& left, float& bottom, float& right, float& top) c
   bottom = clipBox_.bottom;
   right = clipBox_.right;
   top = clipBox_.top;
+}
+
+std::shared_ptr<PDFTextBoxes> PDFPage::TextBoxes() {
+  if (!textBoxes_) {
+    textBoxes_ = std::make_shared<PDFTextBoxes>(Internal(), Shared<PDFPage>(), surface_);
+  }
+  return textBoxes_;
 }
 
 void PDFPage::DrawText(TextView text, float x, float y) {
@@ -113,9 +121,12 @@ void PDFPage::NumberObjects(ObjectNumbers& numbers) {
 }
 
 void PDFPage::WriteObjects(SaveFile& file) {
+  if (textBoxes_) textBoxes_->RegisterFaces(Internal());
   BuildPageObject(file.BeginObject(objectNumber_));
   file.EndObject();
-  WriteContentStream(file);
+  PDFText& textBoxes = file.Draft();
+  if (textBoxes_) textBoxes_->Render(Internal(), textBoxes);
+  WriteContentStream(file, textBoxes.Bytes());
 }
 
 //   4 0 obj
@@ -164,9 +175,9 @@ void PDFPage::AppendBoxes(PDFText& text) const {
 //   Q
 //   endstream
 //   endobj
-void PDFPage::WriteContentStream(SaveFile& file) const {
+void PDFPage::WriteContentStream(SaveFile& file, std::string_view textBoxes) const {
   file.BeginObject(contentNumber_).Append("<< ");
-  surface_->WriteStream(file);
+  surface_->WriteStream(file, textBoxes);
   file.EndObject();
 }
 

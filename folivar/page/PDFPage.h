@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string_view>
 
 #include "folivar/document/Api.h"
 #include "folivar/document/ObjectWriter.h"
@@ -21,6 +22,7 @@ class PDFImage;
 class PDFPages;
 class PDFTemplate;
 class PDFText;
+class PDFTextBoxes;
 class Surface;
 
 // One page: made by PDFPages::Add. Drawing calls append to the page's content at once, in the order
@@ -59,6 +61,10 @@ class FOLIVAR_API PDFPage final : public Tagged, public ObjectWriter {
 
   // The same object each time.
   std::shared_ptr<PDFGraphicsState> GraphicsState() const { return graphicsState_; }
+
+  // Made on first use; the same object each time. The boxes are drawn over everything else on the
+  // page, whatever its graphics state.
+  std::shared_ptr<PDFTextBoxes> TextBoxes();
 
   // Draws text with its first baseline starting at (x, y). "\n", "\r\n" and "\r" begin a new line,
   // one leading further down. Underline and strikeout of the font are drawn as lines, which move
@@ -113,13 +119,14 @@ class FOLIVAR_API PDFPage final : public Tagged, public ObjectWriter {
 
   void BuildPageObject(PDFText& text) const;
   void AppendBoxes(PDFText& text) const;
-  void WriteContentStream(SaveFile& file) const;
+  void WriteContentStream(SaveFile& file, std::string_view textBoxes) const;
 
   Text key_;
   std::weak_ptr<PDFPages> parent_;
   std::shared_ptr<Surface> surface_;
   std::shared_ptr<PDFGraphicsState> graphicsState_;
   std::shared_ptr<PDFImage> thumbnail_;
+  std::shared_ptr<PDFTextBoxes> textBoxes_;
   float width_ = 612;
   float height_ = 792;
   ClipBox clipBox_{-1, -1, -1, -1};

@@ -13,6 +13,7 @@
 #include "folivar/page/Drawing.h"
 #include "folivar/page/PDFGraphicsState.h"
 #include "folivar/page/Surface.h"
+#include "folivar/textbox/PDFTextBoxes.h"
 
 namespace folivar {
 
@@ -64,6 +65,21 @@ void PDFTemplate::GetClipBox(float& left, float& bottom, float& right, float& to
   bottom = clipBox_.bottom;
   right = clipBox_.right;
   top = clipBox_.top;
+}
+
+std::shared_ptr<PDFTextBoxes> PDFTemplate::TextBoxes() {
+  if (!textBoxes_) {
+    textBoxes_ = std::make_shared<PDFTextBoxes>(Internal(), Shared<PDFTemplate>(), surface_);
+  }
+  return textBoxes_;
+}
+
+void PDFTemplate::ExpandClipBoxToFitTextBoxes() {
+  if (!textBoxes_) return;
+  ClipBox clipBox = clipBox_;
+  InMember("PDFTemplate.ExpandClipBoxToFitTextBoxes",
+           [&] { textBoxes_->ExtendClipBox(Internal(), clipBox); });
+  clipBox_ = clipBox;
 }
 
 void PDFTemplate::DrawText(TextView text, float x, float y) {
@@ -136,6 +152,13 @@ void PDFTemplate::NumberObjects(ObjectNumbers& numbers) { objectNumber_ = number
 //   endstream
 //   endobj
 void PDFTemplate::WriteObjects(SaveFile& file) {
+  // Deliberate: a box that sizes itself is counted as it was before.
+  if (autoSizeClipBox_) ExpandClipBoxToFitTextBoxes();
+  PDFText& textBoxes = file.Draft();
+  if (textBoxes_) {
+    textBoxes_->RegisterFaces(Internal());
+    textBoxes_->Render(Internal(), textBoxes);
+  }
   PDFText& text = file.BeginObject(objectNumber_);
   text.Append("<< /Type /XObject\n/Subtype /Form\n/FormType 1\n");
   try {
@@ -147,7 +170,7 @@ void PDFTemplate::WriteObjects(SaveFile& file) {
   }
   text.Append("/Resources ");
   surface_->ResourceDictionary().BuildResourceText(text);
-  surface_->WriteStream(file);
+  surface_->WriteStream(file, textBoxes.Bytes());
   file.EndObject();
 }
 

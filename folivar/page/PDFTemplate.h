@@ -19,6 +19,7 @@ class PDFDocument;
 class PDFFont;
 class PDFGraphicsState;
 class PDFImage;
+class PDFTextBoxes;
 class Surface;
 
 // A drawing that is in the file once and on any number of pages: made by PDFTemplates::Add, placed
@@ -76,6 +77,15 @@ class FOLIVAR_API PDFTemplate final : public XObject, public ObjectWriter {
   // The same object each time.
   std::shared_ptr<PDFGraphicsState> GraphicsState() const { return graphicsState_; }
 
+  // Made on first use; the same object each time. The boxes are drawn over everything else on the
+  // template, whatever its graphics state.
+  std::shared_ptr<PDFTextBoxes> TextBoxes();
+
+  // Grows the clip box over every text box as it is now. With AutoSizeClipBox every save does so.
+  // Deliberate: it does so before boxes that size themselves are sized. Raises 6 for an edge beyond
+  // a single.
+  void ExpandClipBoxToFitTextBoxes();
+
   // Draws text with its first baseline starting at (x, y). "\n", "\r\n" and "\r" begin a new line,
   // one leading further down. Underline and strikeout of the font are drawn as lines, which move
   // the pen. Grows the box from the top of the font's box on the first line to one leading below
@@ -125,6 +135,7 @@ class FOLIVAR_API PDFTemplate final : public XObject, public ObjectWriter {
   std::string resourceName_;
   std::shared_ptr<Surface> surface_;
   std::shared_ptr<PDFGraphicsState> graphicsState_;
+  std::shared_ptr<PDFTextBoxes> textBoxes_;
   ClipBox clipBox_{0, 0, 0, 0};
   bool autoSizeClipBox_ = true;
   std::int32_t objectNumber_ = 0;

@@ -26,12 +26,20 @@ bool HaveSameOwner(const FaceUser& a, const FaceUser& b) {
 
 void Surface::SetFont(std::shared_ptr<PDFFont> font) {
   if (!font) throw Error::ObjectNotSet("no font is given");
-  if (font_ && !HaveSameOwner(*font, *font_)) {
-    throw Error::InvalidArgument("Font '" + font->FontFace().Utf8() +
-                                 "' belongs to another document");
-  }
+  if (font_) CheckIsOfDocument(*font);
   resources_.AddFontResource(*font);
   font_ = std::move(font);
+}
+
+void Surface::CheckIsOfDocument(const PDFFont& font) const {
+  if (!HaveSameOwner(font, *font_)) {
+    throw Error::InvalidArgument("Font '" + font.FontFace().Utf8() +
+                                 "' belongs to another document");
+  }
+}
+
+bool Surface::IsOfSameDocument(const Surface& other) const {
+  return AreSame(document_, other.document_);
 }
 
 void Surface::CheckIsOfDocument(const XObject* object, std::string_view kind) const {
@@ -46,15 +54,18 @@ void Surface::CheckIsOfDocument(const XObject* object, std::string_view kind) co
 //   stream
 //   q
 //   Q
+//   % Begin Textbox
+//   ...
 //   endstream
-void Surface::WriteStream(SaveFile& file) const {
+void Surface::WriteStream(SaveFile& file, std::string_view textBoxes) const {
   constexpr std::string_view kBegin = "q\n";
   constexpr std::string_view kEnd = "Q\n";
   const std::string_view content = content_.Bytes();
-  const std::size_t length = kBegin.size() + content.size() + kEnd.size();
+  const std::size_t length = kBegin.size() + content.size() + kEnd.size() + textBoxes.size();
   file.OpenObject().Append("/Length ", TenDigits{length}, " >>\nstream\n", kBegin);
   file.AppendBytes(content);
   file.AppendBytes(kEnd);
+  file.AppendBytes(textBoxes);
   file.AppendBytes("endstream\n");
 }
 

@@ -16,7 +16,7 @@ class XObject;
 
 // What is drawn on: the content of one page or template, the resources it uses, its current font
 // and its pen. Shared by its owner and the owner's graphics state, so that either may outlive the
-// other.
+// other. A text box has one too, without a font, for what its graphics state writes.
 class Surface {
  public:
   explicit Surface(std::weak_ptr<PDFDocument> document) : document_(std::move(document)) {}
@@ -36,11 +36,16 @@ class Surface {
   // For operations of several pieces.
   PDFText& Content() { return content_; }
 
-  // Puts the content into the open object, from the length that ends its dictionary on.
-  void WriteStream(SaveFile& file) const;
+  // Puts the content into the open object, from the length that ends its dictionary on; behind it
+  // what draws the text boxes.
+  void WriteStream(SaveFile& file, std::string_view textBoxes) const;
 
   PDFResourceDictionary& ResourceDictionary() { return resources_; }
 
+  // Raises 5 for a font of another document than the current one's.
+  void CheckIsOfDocument(const PDFFont& font) const;
+  // Also when the document is gone.
+  bool IsOfSameDocument(const Surface& other) const;
   // Raises 91 for null and 5 for an object of another document, which would be missing in the file.
   // `kind` stands in the error's text: "template".
   void CheckIsOfDocument(const XObject* object, std::string_view kind) const;

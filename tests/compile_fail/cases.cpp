@@ -62,6 +62,12 @@ void Host(folivar::PDFPage& page, [[maybe_unused]] folivar::PDFTemplate& drawn,
   drawn.DrawTemplate(nullptr);
 #elif defined(CASE_RemoveTemplate)
   page.ParentDocument()->Templates()->Remove(1);
+#elif defined(CASE_MakeTextBox)
+  std::make_shared<folivar::PDFTextBox>();
+#elif defined(CASE_RenderTextBox)
+  page.TextBoxes()->Item(1)->RegisterFaces({});
+#elif defined(CASE_TextBoxOfATextBox)
+  page.TextBoxes()->Item(1)->TextBoxes();
 #elif defined(CASE_CharacterAsKey)
   page.SetTag('a');
 #elif defined(CASE_AppendNothingWrong)

@@ -10,6 +10,7 @@
 #include "folivar/folivar.h"
 #include "tests/support/BmpFile.h"
 #include "tests/support/Content.h"
+#include "tests/support/SavedDocument.h"
 
 // Runs under the address sanitizer, which tells when freed memory is touched or anything leaks.
 
@@ -175,6 +176,74 @@ class HeldWithTemplate {
   std::shared_ptr<PDFGraphicsState> state_;
 };
 
+// The same of a text box and what it is made of.
+class HeldWithTextBox {
+ public:
+  static constexpr std::size_t kCount = 6;
+
+  HeldWithTextBox()
+      : document_(PDFDocument::Create()),
+        page_(document_->Pages()->Add()),
+        boxes_(page_->TextBoxes()),
+        box_(boxes_->Add("box")),
+        font_(document_->Fonts()->Add("Courier")),
+        state_(box_->GraphicsState()) {
+    box_->SetText("0123456789");
+    box_->SetSelLength(-5);
+    box_->SetSelFont(font_);
+  }
+
+  void Release(std::size_t which) {
+    switch (which) {
+      case 0:
+        document_.reset();
+        break;
+      case 1:
+        page_.reset();
+        break;
+      case 2:
+        boxes_.reset();
+        break;
+      case 3:
+        box_.reset();
+        break;
+      case 4:
+        font_.reset();
+        break;
+      default:
+        state_.reset();
+        break;
+    }
+  }
+
+  void UseWhatIsLeft() const {
+    if (boxes_) {
+      const auto added = boxes_->Add();
+      added->Copy(boxes_->Item("box"));
+      added->AutoSizeNow();
+      boxes_->Remove(boxes_->count());
+    }
+    if (box_) {
+      box_->SetSelStart(2);
+      box_->SetSelText("more");
+      box_->SetSelFont(box_->SelFont()->Clone());
+      EXPECT_EQ(ErrorNumberOf([&] { box_->Parent(); }), document_ || page_ ? 0 : 91);
+    }
+    if (page_) page_->TextBoxes()->Item("box")->SetSelUnderline(true);
+    if (font_) font_->SetSize(20);
+    if (state_) state_->SetFillColor(1);
+    if (document_) Save(*document_, "held.pdf", Check::kForm);
+  }
+
+ private:
+  std::shared_ptr<PDFDocument> document_;
+  std::shared_ptr<PDFPage> page_;
+  std::shared_ptr<PDFTextBoxes> boxes_;
+  std::shared_ptr<PDFTextBox> box_;
+  std::shared_ptr<PDFFont> font_;
+  std::shared_ptr<PDFGraphicsState> state_;
+};
+
 // Returns the number of orders.
 template <class Held>
 int ReleaseInEveryOrder() {
@@ -196,6 +265,10 @@ TEST(Lifetime, EveryOrderOfReleaseIsSafe) { EXPECT_EQ(ReleaseInEveryOrder<Held>(
 
 TEST(Lifetime, EveryOrderOfReleaseOfATemplateIsSafe) {
   EXPECT_EQ(ReleaseInEveryOrder<HeldWithTemplate>(), 720);
+}
+
+TEST(Lifetime, EveryOrderOfReleaseOfATextBoxIsSafe) {
+  EXPECT_EQ(ReleaseInEveryOrder<HeldWithTextBox>(), 720);
 }
 
 TEST(Lifetime, NothingKeepsADocumentAlive) {

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "folivar/document/Text.h"
 #include "tests/support/Content.h"
@@ -87,6 +88,15 @@ TEST(Text, TellsLetterCasesApart) {
   EXPECT_EQ(Text("abc"), "abc");
   EXPECT_EQ(Text("\u00E9"), u"\u00E9");
   EXPECT_FALSE(Text("abc") == "abcd");
+}
+
+TEST(Text, TakesUnitsAsTheyAre) {
+  const std::u16string units(1000, u'\xD800');
+  std::u16string given = units;
+  const char16_t* const data = given.data();
+  const Text text = Text::Of(std::move(given));
+  EXPECT_EQ(text.Utf16(), units);
+  EXPECT_EQ(text.Utf16().data(), data) << "not copied";
 }
 
 }  // namespace

@@ -154,5 +154,21 @@ TEST(DoubleFrom, Raises94ForNullAnd13ForWhatIsNoNumber) {
   EXPECT_EQ(ErrorNumberOf([] { DoubleFrom(Value(true)); }), 13);
 }
 
+TEST(Value, FlagsAndNumbersMakeFlags) {
+  EXPECT_TRUE(BoolFrom(true));
+  EXPECT_FALSE(BoolFrom(false));
+  EXPECT_TRUE(BoolFrom(-1));
+  EXPECT_FALSE(BoolFrom(0));
+  EXPECT_TRUE(BoolFrom(0.25));
+  EXPECT_FALSE(BoolFrom(-0.0));
+}
+
+TEST(Value, WhatIsNoFlagRaises) {
+  EXPECT_EQ(ErrorNumberOf([] { BoolFrom("true"); }), 13);
+  EXPECT_EQ(ErrorNumberOf([] { BoolFrom(Value()); }), 13);
+  EXPECT_EQ(ErrorNumberOf([] { BoolFrom(Value::Empty()); }), 13);
+  EXPECT_EQ(ErrorNumberOf([] { BoolFrom(Value::Null()); }), 94);
+}
+
 }  // namespace
 }  // namespace folivar::test

@@ -174,5 +174,39 @@ TEST(PDFPage, ThumbnailOfAnotherDocumentIsRefused) {
   EXPECT_EQ(page->Thumbnail(), image);
 }
 
+TEST(PDFPage, TextBoxesAreDrawnBehindThePagesOwnContentInTheirOrder) {
+  const auto document = PDFDocument::Create();
+  const auto page = document->Pages()->Add();
+  const auto first = page->TextBoxes()->Add("first");
+  page->TextBoxes()->Add("second")->SetBorderWidth(0);
+  first->Move(10, 20, 30, 40);
+  first->SetText("a");
+  first->GraphicsState()->SetLineWidth(3);
+  page->DrawLine(1, 2, 3, 4);
+  const SavedDocument saved = Save(*document, "boxes.pdf");
+  // Helvetica: leading 11.56, so the baseline is at 20 - 11.56 - 2, rounded.
+  EXPECT_EQ(saved.pdf.Stream(5),
+            "q\n1  2  m\n3  4  l\nS\nQ\n"
+            "% Begin Textbox \nq\n3  w\n0 0 0 RG\n[1 0 ] 0 d\n"
+            "10  20  m\n10  20  30  -40  re\nW\ns\n"
+            "BT\n12 6  Td\n0 0 0 rg\n/F0 10  Tf\n(a) Tj\nET\n"
+            "[1 0 ] 0 d\n10  20  m\n10  20  30  -40  re\ns\nQ\n% End Textbox\n"
+            "% Begin Textbox \nq\n"
+            "0  0  m\n0  0  9.44  -6.07  re\nW\nn\nBT\nET\nQ\n% End Textbox\n");
+  page->TextBoxes()->ReOrder("first");
+  const std::string reordered(Save(*document, "boxes.pdf").pdf.Stream(5));
+  EXPECT_GT(reordered.find("(a) Tj"), reordered.find("9.44"));
+}
+
+TEST(PDFPage, AGraphicsStateOfATextBoxIsItsOwn) {
+  EXPECT_EQ(ContentAfter([](PDFPage& page) {
+              const auto box = page.TextBoxes()->Add();
+              box->GraphicsState()->SetFillColor(7);
+              EXPECT_EQ(page.GraphicsState()->FillColor(), 0);
+              page.TextBoxes()->Remove(1);
+            }),
+            "");
+}
+
 }  // namespace
 }  // namespace folivar::test

@@ -687,5 +687,63 @@ TEST_F(PDFTemplatePictures, NothingShowsOutsideTheClipBox) {
   }
 }
 
+TEST(PDFTemplate, ExpandsItsClipBoxToItsTextBoxes) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  drawn->SetAutoSizeClipBox(false);
+  drawn->ExpandClipBoxToFitTextBoxes();
+  drawn->TextBoxes()->Add()->Move(-10, 30, 20, 40);
+  drawn->TextBoxes()->Add()->Move(50, 5, 20, 1);
+  ExpectEdges(*drawn, {0, 0, 0, 0});
+  Save(*document, "boxes.pdf", Check::kForm);
+  ExpectEdges(*drawn, {0, 0, 0, 0});
+  drawn->ExpandClipBoxToFitTextBoxes();
+  ExpectEdges(*drawn, {-10, -10, 70, 30});
+}
+
+TEST(PDFTemplate, AClipBoxThatCannotBeExpandedStaysAsItIs) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  drawn->TextBoxes()->Add()->Move(-10, 30, 20, 40);
+  drawn->TextBoxes()->Add()->Move(kLargest, 0, kLargest, 1);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->ExpandClipBoxToFitTextBoxes(); }), 6);
+  ExpectEdges(*drawn, {0, 0, 0, 0});
+}
+
+TEST(PDFTemplate, TextBoxesAreDrawnBehindTheTemplatesOwnContent) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  const auto box = drawn->TextBoxes()->Add();
+  box->Move(10, 20, 30, 40);
+  box->SetText("a");
+  box->SetSelStart(0);
+  box->SetSelLength(1);
+  box->SetSelFont(document->Fonts()->Add("Courier"));
+  box->SetBorderWidth(0);
+  document->Pages()->Add()->DrawTemplate(drawn);
+  const SavedDocument saved = Save(*document, "boxes.pdf");
+  // Courier's leading is 10.55.
+  EXPECT_EQ(saved.pdf.Object(6),
+            "<< /Type /XObject\n/Subtype /Form\n/FormType 1\n/BBox [ 0  -20  40  20 ]\n"
+            "/Resources << \n/Font << /F0 7 0 R\n /F1 8 0 R\n >>\n>>\n/Length 0000000115 >>\n"
+            "stream\nq\nQ\n% Begin Textbox \nq\n10  20  m\n10  20  30  -40  re\nW\nn\n"
+            "BT\n12 7  Td\n0 0 0 rg\n/F1 10  Tf\n(a) Tj\nET\nQ\n% End Textbox\nendstream\n");
+}
+
+// Deliberate: the clip box is grown first, and the box is sized when it is drawn.
+TEST(PDFTemplate, DeliberateATextBoxThatSizesItselfIsCountedAsItWasBefore) {
+  const auto document = PDFDocument::Create();
+  const auto drawn = document->Templates()->Add();
+  const auto box = drawn->TextBoxes()->Add();
+  box->Move(0, 20, 30, 10);
+  box->SetText("a\nb");
+  box->SetAutoSize(true);
+  Save(*document, "boxes.pdf");
+  ExpectEdges(*drawn, {0, 0, 30, 20});
+  EXPECT_EQ(box->Width(), 34);
+  Save(*document, "boxes.pdf");
+  ExpectEdges(*drawn, {0, 20 - 2 * 11.56F - 2.25F - 4, 34, 20});
+}
+
 }  // namespace
 }  // namespace folivar::test

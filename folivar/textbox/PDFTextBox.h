@@ -1,0 +1,234 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+#include "folivar/document/Api.h"
+#include "folivar/document/Tagged.h"
+#include "folivar/document/Text.h"
+#include "folivar/document/Value.h"
+#include "folivar/textbox/PDFBackGroundStyle.h"
+#include "folivar/textbox/PDFParaAlignment.h"
+#include "folivar/textbox/TextBoxFrame.h"
+
+namespace folivar {
+
+class Internal;
+class PDFFont;
+class PDFGraphicsState;
+class PDFText;
+class Surface;
+class TextRuns;
+
+// A rectangle of rich text on a page or a template; made by PDFTextBoxes::Add. Its text is edited
+// as in a rich-text control: place a selection, then read or set its text or its format. The box is
+// drawn when the document is saved, as it is then: behind one another in the order of the
+// collection, over what was drawn on the page or template itself.
+//
+// Lengths and coordinates are points, measured from the owner's bottom left corner; the box reaches
+// from Top downwards. No setter checks its value. A sum beyond a single raises 6, and so does, when
+// the document is saved, a number that PDF cannot hold.
+//
+// Positions in the text count UTF-16 units from 0.
+class FOLIVAR_API PDFTextBox final : public Tagged {
+ public:
+  PDFTextBox(const Internal&, std::weak_ptr<Object> parent, std::shared_ptr<Surface> parentSurface,
+             folivar::Text key);
+  ~PDFTextBox() override;
+
+  // The PDFPage or PDFTemplate that the box is on. Raises 91 when it is gone.
+  std::shared_ptr<Object> Parent() const;
+
+  // The key given to PDFTextBoxes::Add; empty without one.
+  const folivar::Text& Key() const { return key_; }
+
+  // The edges. Left and Top are 0 at first; setting them moves the box. Setting the bottom above
+  // the top, or the right edge to the left of the left one, makes it the edge on the other side and
+  // that edge the opposite one.
+  float Left() const { return geometry_.left; }
+  void SetLeft(float left) { geometry_.left = left; }
+  float Top() const { return geometry_.top; }
+  void SetTop(float top) { geometry_.top = top; }
+  float Bottom() const;
+  void SetBottom(float bottom);
+  float Right() const;
+  void SetRight(float right);
+
+  // At first as wide as a "W" in the default font, and as high as its descender is deep plus both
+  // margins. A negative width extends the box to the left, a negative height upwards; what is kept
+  // is positive.
+  float Width() const { return geometry_.width; }
+  void SetWidth(float width);
+  float Height() const { return geometry_.height; }
+  void SetHeight(float height);
+
+  // Sets Left, then Top, Width and Height as far as they are given.
+  void Move(float left, std::optional<float> top = {}, std::optional<float> width = {},
+            std::optional<float> height = {});
+
+  // Whether lines break at blanks where the width less the margins, rounded to whole points, would
+  // be reached; true at first. A word that is too wide has a line of its own and is not broken.
+  // Otherwise lines end at "\n" only.
+  bool WordWrap() const { return geometry_.wordWrap; }
+  void SetWordWrap(bool wordWrap) { geometry_.wordWrap = wordWrap; }
+
+  // Whether the box is sized to its text when it is drawn; false at first.
+  //
+  // Sizing makes the box as high as its lines and, without word wrap, as wide as its widest line,
+  // plus the margins. Deliberate: with word wrap every sizing widens the box by both margins, so
+  // that each save of the document draws it wider.
+  bool AutoSize() const { return autoSize_; }
+  void SetAutoSize(bool autoSize) { autoSize_ = autoSize; }
+  // Sets AutoSize and sizes the box at once.
+  void AutoSizeNow();
+
+  // The space between the edges and the text; 2 each at first.
+  float MarginLeft() const { return geometry_.marginLeft; }
+  void SetMarginLeft(float margin) { geometry_.marginLeft = margin; }
+  float MarginTop() const { return geometry_.marginTop; }
+  void SetMarginTop(float margin) { geometry_.marginTop = margin; }
+  float MarginRight() const { return geometry_.marginRight; }
+  void SetMarginRight(float margin) { geometry_.marginRight = margin; }
+  float MarginBottom() const { return geometry_.marginBottom; }
+  void SetMarginBottom(float margin) { geometry_.marginBottom = margin; }
+  void SetMargins(float left, float top, float right, float bottom);
+
+  // Takes over another box's place, size, margins, wrapping, sizing, selection and text with its
+  // formats; each format gets a font of its own. Colours, border and tag stay. Raises 91 for null
+  // and 5 for a box of another document. A box copied into itself stays as it is.
+  void Copy(const std::shared_ptr<PDFTextBox>& source);
+
+  // Colours are 0x00BBGGRR: a white background, not shown unless BackStyle is bsOpaque (at first it
+  // is bsTransparent), and a black border of width 1. A border width of 0 is no border.
+  std::int32_t BackColor() const { return frame_.backColor; }
+  void SetBackColor(std::int32_t color) { frame_.backColor = color; }
+  PDFBackGroundStyle BackStyle() const { return frame_.backStyle; }
+  void SetBackStyle(PDFBackGroundStyle style) { frame_.backStyle = style; }
+  std::int32_t BorderColor() const { return frame_.borderColor; }
+  void SetBorderColor(std::int32_t color) { frame_.borderColor = color; }
+  float BorderWidth() const { return frame_.borderWidth; }
+  void SetBorderWidth(float width) { frame_.borderWidth = width; }
+  // Lengths of line and of gap; 1 and 0, a solid line, at first. A line of 0 with a gap that is not
+  // 0 is no border.
+  void SetBorderDashPattern(float dashOn, float dashOff);
+
+  // The whole text, with "\n" for every line end. Setting it keeps the format at the text's
+  // beginning for all of it and puts the caret at its end. Deliberate: with formats in three runs
+  // or more, the text is set, some of the formats stay, and 9 is raised; the selection is kept as
+  // far as it lies in the new text. Raises 5 for text that is not UTF-8 and 6 for one of more than
+  // 2^31 - 1 units.
+  const folivar::Text& Text() const { return text_; }
+  void SetText(TextView text);
+
+  // Where the selection, or the caret, begins. Setting it makes it a caret; positions outside the
+  // text are moved to its nearer end.
+  std::int32_t SelStart() const { return selStart_; }
+  void SetSelStart(std::int32_t start);
+  // How much is selected, from SelStart on. A negative length selects backwards from SelStart, and
+  // the selection never leaves the text. Raises 6 when the sum is beyond 32 bits.
+  std::int32_t SelLength() const { return selEnd_ - selStart_; }
+  void SetSelLength(std::int32_t length);
+
+  // The selected text. Setting it replaces the selection and leaves the caret behind the new text,
+  // which takes the format of the run that it is put into. Deliberate: when the selection spans
+  // runs, the first keeps its length, so that formats no longer belong to the text that they
+  // belonged to; and one run too many may be removed, or 9 raised before the text changes. Raises 5
+  // and 6 as SetText.
+  folivar::Text SelText() const;
+  void SetSelText(TextView text);
+
+  // The formats of the selection, or of the caret: where text is in one format, that is one run.
+  // A selection that spans runs, even of the same format, has no font (null), size 0, colour and
+  // flags Null, and alignment alignNULL.
+  //
+  // Setting a format gives it to exactly the selection. A caret gets an empty run, which text set
+  // through SelText takes up. A setter that fails leaves the text and its formats as they look,
+  // or, when a font cannot change its style, as far as it came.
+
+  // The font itself: what is changed in it shows in the box. All of the selection then shares the
+  // font set, also with the host. Setting null changes nothing; a font of another document raises
+  // 5.
+  std::shared_ptr<PDFFont> SelFont() const;
+  void SetSelFont(std::shared_ptr<PDFFont> font);
+  // Points.
+  float SelFontSize() const;
+  void SetSelFontSize(float points);
+  // 0x00BBGGRR; black at first. Raises 94 for Null, 13 for what is no number, 6 beyond 32 bits.
+  Value SelColor() const;
+  void SetSelColor(const Value& color);
+
+  // Flags; as numbers, all but 0 are true. Raise 94 for Null and 13 for what is neither a flag nor
+  // a number. Bold and italic are those of PDFFont, underline and the others too.
+  Value SelBold() const;
+  void SetSelBold(const Value& bold);
+  Value SelItalic() const;
+  void SetSelItalic(const Value& italic);
+  Value SelUnderline() const;
+  void SetSelUnderline(const Value& underline);
+  Value SelStrikeOut() const;
+  void SetSelStrikeOut(const Value& strikeOut);
+  Value SelSubscript() const;
+  void SetSelSubscript(const Value& subscript);
+  Value SelSuperscript() const;
+  void SetSelSuperscript(const Value& superscript);
+
+  // The same answers without a Value; nothing for a selection that spans runs.
+  std::optional<std::int32_t> SelOneColor() const;
+  std::optional<bool> IsSelBold() const;
+  std::optional<bool> IsSelItalic() const;
+  std::optional<bool> IsSelUnderline() const;
+  std::optional<bool> IsSelStrikeOut() const;
+  std::optional<bool> IsSelSubscript() const;
+  std::optional<bool> IsSelSuperscript() const;
+
+  // alignLeft at first. Setting it aligns every paragraph that the selection touches; alignNULL
+  // changes nothing. Deliberate: aligned is the text from the "\n" before the paragraph up to the
+  // one behind it or, in the last paragraph, up to the last unit, which is left out. A line is
+  // aligned as its first unit is.
+  PDFParaAlignment SelAlignment() const;
+  void SetSelAlignment(PDFParaAlignment alignment);
+
+  // The box's own, made on first use and the same object each time: its operators come before the
+  // box's frame and text, and end with the box.
+  std::shared_ptr<PDFGraphicsState> GraphicsState();
+
+  // Lists the faces of all runs among the owner's resources.
+  void RegisterFaces(const Internal&) const;
+  // Appends what draws the box, which is sized first if it sizes itself.
+  void RenderTextBox(const Internal&, PDFText& content);
+
+ private:
+  struct Paragraph {
+    std::int32_t start;
+    std::int32_t end;
+  };
+
+  template <class Get>
+  auto SelectedFormat(Get get) const;
+  template <class Flag>
+  std::optional<bool> SelectedFlag(Flag flag) const;
+  template <class Change>
+  void ChangeSelection(std::int32_t start, std::int32_t end, Change change);
+  template <class Setter>
+  void ChangeFlag(const char* member, const Value& value, Setter setter);
+  Paragraph GetParagraphBounds() const;
+  std::int64_t TextLength() const;
+  void AutoSizeBox();
+
+  folivar::Text key_;
+  std::weak_ptr<Object> parent_;
+  std::shared_ptr<Surface> parentSurface_;
+  // Both null at first: the graphics state, and what takes its operators.
+  std::shared_ptr<Surface> surface_;
+  std::shared_ptr<PDFGraphicsState> graphicsState_;
+  TextBoxGeometry geometry_;
+  TextBoxFrame frame_;
+  bool autoSize_ = false;
+  folivar::Text text_;
+  std::unique_ptr<TextRuns> runs_;
+  std::int32_t selStart_ = 0;
+  std::int32_t selEnd_ = 0;
+};
+
+}  // namespace folivar

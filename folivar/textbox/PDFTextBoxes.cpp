@@ -1,0 +1,45 @@
+#include "folivar/textbox/PDFTextBoxes.h"
+
+#include <utility>
+
+#include "folivar/document/InMember.h"
+#include "folivar/document/Internal.h"
+#include "folivar/page/ClipBox.h"
+#include "folivar/page/Surface.h"
+
+namespace folivar {
+
+PDFTextBoxes::PDFTextBoxes(const Internal&, std::weak_ptr<Object> parent,
+                           std::shared_ptr<Surface> parentSurface)
+    : MemberList("PDFTextBoxes"),
+      parent_(std::move(parent)),
+      parentSurface_(std::move(parentSurface)) {}
+
+std::shared_ptr<PDFTextBox> PDFTextBoxes::Add(TextView key, const Value& before,
+                                              const Value& after) {
+  auto box = InMember("PDFTextBoxes.Add", [&] {
+    return std::make_shared<PDFTextBox>(Internal(), parent_, parentSurface_, Text(key));
+  });
+  members_.Add(box, key, before, after);
+  return box;
+}
+
+void PDFTextBoxes::Remove(const Value& indexOrKey) { members_.Remove(indexOrKey); }
+
+void PDFTextBoxes::ExtendClipBox(const Internal&, ClipBox& clipBox) const {
+  members_.ForEach([&](const std::shared_ptr<PDFTextBox>& box) {
+    clipBox.ExtendClipBox(box->Left(), box->Bottom());
+    clipBox.ExtendClipBox(box->Right(), box->Top());
+  });
+}
+
+void PDFTextBoxes::RegisterFaces(const Internal& internal) const {
+  members_.ForEach([&](const std::shared_ptr<PDFTextBox>& box) { box->RegisterFaces(internal); });
+}
+
+void PDFTextBoxes::Render(const Internal& internal, PDFText& content) const {
+  members_.ForEach(
+      [&](const std::shared_ptr<PDFTextBox>& box) { box->RenderTextBox(internal, content); });
+}
+
+}  // namespace folivar

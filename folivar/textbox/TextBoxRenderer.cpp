@@ -1,0 +1,179 @@
+#include "folivar/textbox/TextBoxRenderer.h"
+
+#include "folivar/document/AnsiText.h"
+#include "folivar/document/ByteTraits.h"
+#include "folivar/document/Global.h"
+#include "folivar/document/PDFText.h"
+#include "folivar/fonts/FontMetrics.h"
+#include "folivar/textbox/TextLayout.h"
+
+namespace folivar {
+
+//   % Begin Textbox
+//   q
+//   0 0 0 RG              AppendFrame
+//   ...
+//   BT
+//   74  709  Td
+//   0 0 0 rg              AppendSegment
+//   /F0 10  Tf
+//   (a first line ) Tj
+//   11.56  TL
+//   T*
+//   24  0 Td
+//   0 0 0 rg
+//   /F0 10  Tf
+//   (and a centred one) Tj
+//   -24  0 Td
+//   ET
+//   q                     AppendDecorations
+//   ...
+//   0 0 0 RG              AppendBorder
+//   ...
+//   Q
+//   % End Textbox
+// The first line ends with a blank.
+void TextBoxRenderer::Render(std::string_view ownContent, const AnsiText& text,
+                             const RunList& runs) {
+  content_.Append("% Begin Textbox \nq\n", ownContent);
+  AppendFrame();
+  content_.Append("BT\n");
+  TextLayout layout(text.Bytes(), runs, geometry_);
+  AppendLines(layout, !text.Traits().hasEscapes);
+  content_.Append("ET\n");
+  AppendDecorations();
+  AppendBorder();
+  content_.Append("Q\n% End Textbox\n");
+}
+
+//   0 0 0 RG
+//   [1 0 ] 0 d
+//   1 1 1 rg
+//   72  720  m
+//   72  720  200  -100  re
+//   W
+//   s
+//   72  720  m
+//   72  720  200  -100  re
+//   f
+void TextBoxRenderer::AppendFrame() {
+  const bool isOpaque = frame_.backStyle == bsOpaque;
+  if (frame_.HasBorder()) {
+    const std::int32_t color = frame_.borderColor;
+    content_.Append(RedShare(color), GreenShare(color), BlueShare(color), "RG\n[",
+                    Real{frame_.dashOn}, Real{frame_.dashOff}, "] 0 d\n");
+  }
+  if (isOpaque) {
+    const std::int32_t color = frame_.backColor;
+    content_.Append(RedShare(color), GreenShare(color), BlueShare(color), "rg\n");
+  }
+  AppendPath();
+  // Deliberate: a border is stroked here too, beneath the background.
+  content_.Append("W\n", frame_.HasBorder() ? "s\n" : "n\n");
+  if (!isOpaque) return;
+  AppendPath();
+  content_.Append("f\n");
+}
+
+void TextBoxRenderer::AppendPath() {
+  const Real left{geometry_.left};
+  const Real top{geometry_.top};
+  content_.Append(left, " ", top, " m\n", left, " ", top, " ", Real{geometry_.width}, " ",
+                  Real{-geometry_.height}, " re\n");
+}
+
+void TextBoxRenderer::AppendLines(TextLayout& layout, bool isPlain) {
+  auto line = layout.NextLine();
+  if (!line) return;
+  const float x = geometry_.left + geometry_.marginLeft;
+  const float y = geometry_.top - line->leading - geometry_.marginTop;
+  Point start{static_cast<float>(RoundHalfToEven(x)), static_cast<float>(RoundHalfToEven(y))};
+  content_.Append(Real{start.x}, Real{start.y}, " Td\n");
+  AppendLine(layout, *line, start, isPlain);
+  while ((line = layout.NextLine())) {
+    start.y -= line->leading;
+    content_.Append(Real{line->leading}, " TL\nT*\n");
+    AppendLine(layout, *line, start, isPlain);
+  }
+}
+
+void TextBoxRenderer::AppendLine(const TextLayout& layout, const TextLine& line, Point start,
+                                 bool isPlain) {
+  if (line.shift != 0) content_.Append(Real{line.shift}, " 0 Td\n");
+  Point place{start.x + static_cast<float>(line.shift), start.y};
+  layout.ForEachSegment(line, [&](std::string_view bytes, const LaidRun& run) {
+    const PDFFont& font = *run.Run().Font;
+    AppendSegment(bytes, isPlain, font, run.Run().Color);
+    if (!line.isDecorated) return;
+    const float end = place.x + run.Width(bytes);
+    Decorate(font, place, end);
+    place.x = end;
+  });
+  if (line.shift != 0) content_.Append(Real{-line.shift}, " 0 Td\n");
+}
+
+//   0 0 0 rg
+//   /F0 6.5  Tf
+//   -1  Ts          for sub- and superscript
+//   (text) Tj
+//   0 Ts
+void TextBoxRenderer::AppendSegment(std::string_view bytes, bool isPlain, const PDFFont& font,
+                                    std::int32_t color) {
+  const FontMetrics metrics(font);
+  const std::string_view name = metrics.Face().m_PDFName;
+  const Real size{metrics.EffectiveSize()};
+  const ColorShare red = RedShare(color);
+  const ColorShare green = GreenShare(color);
+  const ColorShare blue = BlueShare(color);
+  const Escaped text{bytes, isPlain || !TraitsOf(bytes).hasEscapes};
+  if (metrics.IsRaisedOrLowered()) {
+    content_.Append(red, green, blue, "rg\n", name, " ", size, " Tf\n", Real{metrics.Rise()},
+                    " Ts\n(", text, ") Tj\n0 Ts\n");
+  } else {
+    content_.Append(red, green, blue, "rg\n", name, " ", size, " Tf\n(", text, ") Tj\n");
+  }
+}
+
+void TextBoxRenderer::Decorate(const PDFFont& font, Point start, float end) {
+  const FontMetrics metrics(font);
+  if (font.Underline()) {
+    strokes_.push_back(
+        {metrics.UnderlineSizePts(), {start.x, start.y + metrics.UnderlinePositionPts()}, end});
+  }
+  if (font.StrikeOut()) {
+    strokes_.push_back(
+        {metrics.StrikeoutSizePts(), {start.x, start.y + metrics.StrikeoutPositionPts()}, end});
+  }
+}
+
+//   q
+//   0.5  w
+//   74  708  m
+//   110.2  708  l
+//   S
+//   Q
+void TextBoxRenderer::AppendDecorations() {
+  if (strokes_.empty()) return;
+  content_.Append("q\n");
+  for (const Stroke& stroke : strokes_) {
+    const Real y{stroke.start.y};
+    content_.Append(Real{stroke.lineWidth}, " w\n", Real{stroke.start.x}, " ", y, " m\n",
+                    Real{stroke.end}, " ", y, " l\nS\n");
+  }
+  content_.Append("Q\n");
+}
+
+//   2  w
+//   [1 0 ] 0 d
+//   72  720  m
+//   72  720  200  -100  re
+//   s
+void TextBoxRenderer::AppendBorder() {
+  if (!frame_.HasBorder()) return;
+  if (frame_.borderWidth != 1) content_.Append(Real{frame_.borderWidth}, " w\n");
+  content_.Append("[", Real{frame_.dashOn}, Real{frame_.dashOff}, "] 0 d\n");
+  AppendPath();
+  content_.Append("s\n");
+}
+
+}  // namespace folivar

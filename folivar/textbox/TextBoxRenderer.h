@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "folivar/textbox/TextBoxFrame.h"
+
+namespace folivar {
+
+class AnsiText;
+class PDFFont;
+class PDFText;
+class RunList;
+class TextLayout;
+struct TextLine;
+
+// Writes a text box as the operators that draw it: what the box's graphics state has written, its
+// clip path, background, text, decorations and border. Raises 6 for a number that PDF cannot hold,
+// with part of the box written.
+class TextBoxRenderer {
+ public:
+  // Appends to `content`.
+  TextBoxRenderer(PDFText& content, const TextBoxGeometry& geometry, const TextBoxFrame& frame)
+      : content_(content), geometry_(geometry), frame_(frame) {}
+
+  void Render(std::string_view ownContent, const AnsiText& text, const RunList& runs);
+
+ private:
+  struct Point {
+    float x;
+    float y;
+  };
+  // Of a decoration; from `start` to the right.
+  struct Stroke {
+    float lineWidth;
+    Point start;
+    float end;
+  };
+
+  void AppendFrame();
+  void AppendPath();
+  void AppendLines(TextLayout& layout, bool isPlain);
+  void AppendLine(const TextLayout& layout, const TextLine& line, Point start, bool isPlain);
+  void AppendSegment(std::string_view bytes, bool isPlain, const PDFFont& font, std::int32_t color);
+  void Decorate(const PDFFont& font, Point start, float end);
+  void AppendDecorations();
+  void AppendBorder();
+
+  PDFText& content_;
+  const TextBoxGeometry& geometry_;
+  const TextBoxFrame& frame_;
+  std::vector<Stroke> strokes_;
+};
+
+}  // namespace folivar

@@ -1,0 +1,150 @@
+#!/usr/bin/env bash
+#
+# letter_test.sh <letter> <scratch folder>
+#
+# Runs the example program and looks at what it writes with qpdf, pdfinfo, pdffonts and pdftotext.
+# Prints a line for each check and fails if one of them failed.
+set -u -o pipefail
+
+if (($# != 2)); then
+  echo "usage: letter_test.sh <letter> <scratch folder>" >&2
+  exit 2
+fi
+letter=$(realpath "$1") || exit 2
+data=$(realpath "$(dirname "${BASH_SOURCE[0]}")/../../examples/data") || exit 2
+mkdir -p "$2" && cd "$2" || exit 2
+
+failures=0
+
+# check <what> <command>...: the command succeeds.
+check() {
+  local what=$1
+  shift
+  if "$@" >check.log 2>&1; then
+    echo "ok: $what"
+  else
+    echo "FAILED: $what"
+    sed 's/^/    /' check.log
+    failures=$((failures + 1))
+  fi
+}
+
+same() {
+  [[ $1 == "$2" ]] || { printf 'found:    %s\nexpected: %s\n' "$1" "$2" && false; }
+}
+
+# The words of a letter in their order, one a line, without the page numbers.
+words_of() {
+  pdftotext -raw -enc UTF-8 "$1" - | tr '\f' '\n' | grep -vE '^Page [0-9]+ of [0-9]+$' |
+    tr -s '[:space:]' '\n' | sed '/^$/d'
+}
+
+# words_due <text> <column=value>...: the same of a text whose marks are taken off. The standard
+# faces show an apostrophe as a right quote.
+words_due() {
+  local text pair
+  text=$(sed -E 's/^# //; s/^> //; s/\*+//g' "$1")
+  shift
+  for pair in "$@"; do text=${text//"{${pair%%=*}}"/"${pair#*=}"}; done
+  tr -s '[:space:]' '\n' <<<"${text//\'/’}" | sed '/^$/d'
+}
+
+page_count() { pdfinfo "$1" | awk '/^Pages:/ { print $2 }'; }
+
+# fails_with <message> <command>...: exit code 1, with this on one line.
+fails_with() {
+  local message=$1 found status=0
+  shift
+  found=$("$@" 2>&1) || status=$?
+  same "$status: $found" "1: $message"
+}
+
+### The shipped letter
+
+rm -rf letters
+check "runs" "$letter" "$data/letter.txt" "$data/recipients.csv" letters
+check "one letter for each recipient" same "$(cd letters && echo *)" \
+  "letter-001.pdf letter-002.pdf letter-003.pdf"
+for pdf in letters/*.pdf; do
+  check "$pdf: sound" qpdf --check "$pdf"
+  check "$pdf: two pages" same "$(page_count "$pdf")" 2
+  check "$pdf: its faces" same "$(pdffonts "$pdf" | awk 'NR > 2 { print $1 }' | sort | xargs)" \
+    "Helvetica Helvetica-Bold Times-Bold Times-BoldItalic Times-Italic Times-Roman"
+  check "$pdf: page numbers" same "$(pdftotext "$pdf" - | grep '^Page ' | xargs)" \
+    "Page 1 of 2 Page 2 of 2"
+done
+words_of letters/letter-003.pdf >found.txt
+words_due "$data/letter.txt" "salutation=Dear Librarian" "due=8 January 2027" \
+  $'address=The Librarian\nSt Brannoc\'s School\nUpper Town UT1 1AA' \
+  'books=forty-one school readers, "well loved"' \
+  "work=reinforced joints and washable covers" >due.txt
+check "every word, in its order" diff due.txt found.txt
+
+### What other files hold
+
+printf 'name\nAda\n' >one.csv
+# write <text>: a letter to Ada.
+write() {
+  printf '%b' "$1" >text.txt
+  rm -rf out
+  "$letter" text.txt one.csv out
+}
+
+check "an empty text is an empty page" write ''
+check "an empty text: one page" same "$(page_count out/letter-001.pdf)" 1
+check "marks that are escaped" write '\\# \\*no\\* \\{name} *{name}*'
+check "marks that are escaped: shown" same "$(words_of out/letter-001.pdf | xargs)" \
+  "# *no* {name} Ada"
+check "no page number on a single page" same "$(pdftotext out/letter-001.pdf - | grep -c Page)" 0
+
+# The text is between 85 and 510, and lines are shifted by whole points.
+lines_are_placed() {
+  pdftotext -bbox "$1" - | awk '
+    match($0, /xMin="[0-9.]+"/) { left = substr($0, RSTART + 6, RLENGTH - 7) }
+    match($0, /xMax="[0-9.]+"/) { right = substr($0, RSTART + 6, RLENGTH - 7) }
+    />(centred|twice)</ { n++; d = (left + right) / 2 - 297.5; if (d < -0.6 || d > 0.6) bad = 1 }
+    />(left)</ { n++; if (left < 84.9 || left > 85.1) bad = 1 }
+    END { exit bad || n != 4 }'
+}
+
+check "centred lines" write 'left\n\n> centred\n> twice\n\nleft again\n'
+check "centred lines: their places" lines_are_placed out/letter-001.pdf
+
+# 20,000 words fill one page after another, each word once.
+seq 1 20000 | sed -E 's/$/**x**y/' | fmt -w 70 >text.txt
+rm -rf out
+check "a long letter" "$letter" text.txt one.csv out
+check "a long letter: sound" qpdf --check out/letter-001.pdf
+check "a long letter: every word" cmp <(words_of out/letter-001.pdf) <(seq 1 20000 | sed 's/$/xy/')
+
+# The box ends 90 points above the lower edge, the page number begins 61 above it.
+nothing_is_below_the_box() {
+  pdftotext -bbox "$1" - | awk '
+    match($0, /yMax="[0-9.]+"/) {
+      above = 841.89 - substr($0, RSTART + 6, RLENGTH - 7)
+      if (above > 62 && above < 89.9) exit 1
+    }'
+}
+check "a long letter: nothing below the box" nothing_is_below_the_box out/letter-001.pdf
+
+### What is refused
+
+check "a column that there is not" fails_with "text.txt:3: the recipients have no column 'town'" \
+  write 'a\n\nb\n{town}\n'
+check "no letter then" test ! -e out/letter-001.pdf
+check "bold without an end" fails_with "text.txt:1: a '**' is never closed" write '**a\n'
+check "italic without an end" fails_with "text.txt:2: a '*' is never closed" write '# a\n*b\n'
+check "a column without an end" fails_with "text.txt:1: a '{' is never closed" write 'a {name\n'
+write 'a\n'
+check "no recipients file" fails_with "none.csv: cannot be opened: No such file or directory" \
+  env LC_ALL=C "$letter" text.txt none.csv out
+check "no text file" fails_with "none.txt: cannot be opened: No such file or directory" \
+  env LC_ALL=C "$letter" none.txt one.csv out
+printf 'a,b\n1\n' >bad.csv
+check "a field missing" fails_with "bad.csv:2: 1 fields where the header has 2" \
+  "$letter" "$data/letter.txt" bad.csv out
+
+if ((failures > 0)); then
+  echo "$failures failed"
+  exit 1
+fi
