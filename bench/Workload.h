@@ -26,6 +26,7 @@
 //   void EndPage();
 //   void MakeTemplate(const Letterhead&);               // one in a document
 //   void PlaceTemplate(Point origin);
+//   void FillBox(const RichText&);                      // one box of wrapped text on the page
 //   void Save();
 //
 // and, if it can place the pictures in files:
@@ -112,6 +113,49 @@ struct Letterhead {
   std::array<std::string, 5> lines;  // without parentheses
 };
 
+// A text in two styles, Helvetica 10 regular and bold, wrapped to a width.
+struct RichText {
+  static constexpr float kLeft = 106;
+  static constexpr float kTop = 760;
+  static constexpr float kWidth = 400;
+
+  struct Run {
+    std::size_t start;
+    std::size_t length;
+    bool isBold;
+  };
+  std::string text;  // without parentheses and line ends
+  std::vector<Run> runs;
+};
+
+// Texts of 4,000 characters, the style changing every few words.
+class RichTexts {
+ public:
+  explicit RichTexts(const Lines& lines) {
+    Sequence sequence;
+    for (std::size_t i = 0; i < texts_.size(); ++i) {
+      RichText& rich = texts_[i];
+      for (std::size_t line = 1; rich.text.size() < kLength; ++line) {
+        if (line % 8 != 0) rich.text += lines.At(i + line) + " ";
+      }
+      rich.text.resize(kLength);
+      bool isBold = false;
+      for (std::size_t start = 0; start < kLength; isBold = !isBold) {
+        std::size_t end = rich.text.find(' ', start + 5 + sequence.Below(40));
+        end = end == std::string::npos ? kLength : end + 1;
+        rich.runs.push_back({start, end - start, isBold});
+        start = end;
+      }
+    }
+  }
+
+  const RichText& At(std::size_t number) const { return texts_[number % texts_.size()]; }
+
+ private:
+  static constexpr std::size_t kLength = 4000;
+  std::array<RichText, 16> texts_;
+};
+
 template <class Document>
 class Workloads {
  public:
@@ -140,6 +184,36 @@ class Workloads {
       document.PlaceTemplate({72, 700.25F});
       document.EndPage();
     }
+    document.Save();
+  }
+
+  // `size` pages of one box of rich text.
+  void Rich(std::size_t size) {
+    const RichTexts texts(lines_);
+    Document document(PathOf(0), input_);
+    for (std::size_t page = 0; page < size; ++page) {
+      document.BeginPage();
+      document.FillBox(texts.At(page));
+      document.EndPage();
+    }
+    document.Save();
+  }
+
+  // One box of `size` texts on end.
+  void Box(std::size_t size) {
+    const RichTexts texts(lines_);
+    RichText all;
+    for (std::size_t number = 0; number < size; ++number) {
+      const RichText& text = texts.At(number);
+      for (const RichText::Run& run : text.runs) {
+        all.runs.push_back({all.text.size() + run.start, run.length, run.isBold});
+      }
+      all.text += text.text;
+    }
+    Document document(PathOf(0), input_);
+    document.BeginPage();
+    document.FillBox(all);
+    document.EndPage();
     document.Save();
   }
 
@@ -242,6 +316,10 @@ void RunNamed(std::string_view name, std::size_t size, const std::string& folder
     workloads.Text(size, 0);
   } else if (name == "template") {
     workloads.Template(size);
+  } else if (name == "rich") {
+    workloads.Rich(size);
+  } else if (name == "box") {
+    workloads.Box(size);
   } else if (name == "vector") {
     workloads.Vector(size);
   } else if (name == "jpeg") {

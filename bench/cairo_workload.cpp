@@ -4,6 +4,7 @@
 #include <ft2build.h>
 
 #include FT_FREETYPE_H
+#include <pango/pangocairo.h>
 
 #include <cstddef>
 #include <fstream>
@@ -153,6 +154,24 @@ class Document {
     cairo_paint(context_.get());
   }
 
+  // Pango breaks the text into lines, as hosts of cairo do.
+  void FillBox(const bench::RichText& rich) {
+    if (!layout_) SetUpLayout();
+    pango_layout_set_text(layout_.get(), rich.text.data(), static_cast<int>(rich.text.size()));
+    PangoAttrList* bold = pango_attr_list_new();
+    for (const bench::RichText::Run& run : rich.runs) {
+      if (!run.isBold) continue;
+      PangoAttribute* attribute = pango_attr_weight_new(PANGO_WEIGHT_BOLD);
+      attribute->start_index = static_cast<guint>(run.start);
+      attribute->end_index = static_cast<guint>(run.start + run.length);
+      pango_attr_list_insert(bold, attribute);
+    }
+    pango_layout_set_attributes(layout_.get(), bold);
+    pango_attr_list_unref(bold);
+    cairo_move_to(context_.get(), bench::RichText::kLeft, Down(bench::RichText::kTop));
+    pango_cairo_show_layout(context_.get(), layout_.get());
+  }
+
   void Save() {
     Check(cairo_status(context_.get()));
     cairo_surface_finish(surface_.get());
@@ -164,6 +183,7 @@ class Document {
     void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
     void operator()(cairo_t* context) const { cairo_destroy(context); }
     void operator()(cairo_font_face_t* face) const { cairo_font_face_destroy(face); }
+    void operator()(PangoLayout* layout) const { g_object_unref(layout); }
   };
 
   // Cairo keeps faces that it has used.
@@ -183,6 +203,15 @@ class Document {
     Check(cairo_status(cairo));
   }
 
+  void SetUpLayout() {
+    layout_.reset(pango_cairo_create_layout(context_.get()));
+    PangoFontDescription* font = pango_font_description_from_string("Helvetica");
+    pango_font_description_set_absolute_size(font, bench::kFontSize * PANGO_SCALE);
+    pango_layout_set_font_description(layout_.get(), font);
+    pango_font_description_free(font);
+    pango_layout_set_width(layout_.get(), static_cast<int>(bench::RichText::kWidth * PANGO_SCALE));
+  }
+
   static double Down(float y) { return bench::kPageHeight - y; }
 
   void SetColor(bench::Color color) {
@@ -199,6 +228,7 @@ class Document {
   std::unique_ptr<cairo_surface_t, Destroyer> surface_;
   std::unique_ptr<cairo_t, Destroyer> context_;
   std::unique_ptr<cairo_surface_t, Destroyer> template_;
+  std::unique_ptr<PangoLayout, Destroyer> layout_;
 };
 
 }  // namespace

@@ -80,6 +80,22 @@ class Document {
 
   void PlaceTemplate(bench::Point origin) { page_->DrawTemplate(template_, origin.x, origin.y); }
 
+  void FillBox(const bench::RichText& rich) {
+    using bench::RichText;
+    constexpr float kMargins = 4;
+    const auto box = page_->TextBoxes()->Add();
+    box->Move(RichText::kLeft, RichText::kTop, RichText::kWidth + kMargins, 700);
+    box->SetBorderWidth(0);
+    box->SetText(rich.text);
+    if (!bold_) bold_ = document_->Fonts()->Add("Helvetica-Bold");
+    for (const RichText::Run& run : rich.runs) {
+      if (!run.isBold) continue;
+      box->SetSelStart(static_cast<std::int32_t>(run.start));
+      box->SetSelLength(static_cast<std::int32_t>(run.length));
+      box->SetSelFont(bold_);
+    }
+  }
+
   void Save() { document_->SavePDFFile(path_); }
 
  private:
@@ -89,6 +105,7 @@ class Document {
   std::shared_ptr<folivar::PDFPage> page_;
   std::shared_ptr<folivar::PDFGraphicsState> state_;
   std::shared_ptr<folivar::PDFTemplate> template_;
+  std::shared_ptr<folivar::PDFFont> bold_;
 };
 
 }  // namespace

@@ -130,6 +130,23 @@ class Document {
     Check(HPDF_Page_GRestore(page_));
   }
 
+  // The library wraps text of one style only: it does so here, and measures the runs, which is the
+  // least that mixed styles would ask of it.
+  void FillBox(const bench::RichText& rich) {
+    using bench::RichText;
+    if (bold_ == nullptr) bold_ = Check(HPDF_GetFont(document_.get(), "Helvetica-Bold", nullptr));
+    for (const RichText::Run& run : rich.runs) {
+      const auto* text = reinterpret_cast<const HPDF_BYTE*>(rich.text.c_str() + run.start);
+      HPDF_Font_TextWidth(run.isBold ? bold_ : font_, text, static_cast<HPDF_UINT>(run.length));
+    }
+    Check(HPDF_Page_SetFontAndSize(page_, font_, bench::kFontSize));
+    Check(HPDF_Page_BeginText(page_));
+    Check(HPDF_Page_TextRect(page_, RichText::kLeft, RichText::kTop,
+                             RichText::kLeft + RichText::kWidth, 0, rich.text.c_str(),
+                             HPDF_TALIGN_LEFT, nullptr));
+    Check(HPDF_Page_EndText(page_));
+  }
+
   void Save() { Check(HPDF_SaveToFile(document_.get(), path_.c_str())); }
 
  private:
@@ -157,6 +174,7 @@ class Document {
   std::string path_;
   std::unique_ptr<std::remove_pointer_t<HPDF_Doc>, Freer> document_;
   HPDF_Font font_ = nullptr;
+  HPDF_Font bold_ = nullptr;
   HPDF_Page page_ = nullptr;
   HPDF_XObject template_ = nullptr;
   bool isFontSet_ = false;
