@@ -12,26 +12,9 @@ if (($# != 2)); then
 fi
 letter=$(realpath "$1") || exit 2
 data=$(realpath "$(dirname "${BASH_SOURCE[0]}")/../../examples/data") || exit 2
+# shellcheck source=tests/examples/checks.sh
+source "$(dirname "${BASH_SOURCE[0]}")/checks.sh" || exit 2
 mkdir -p "$2" && cd "$2" || exit 2
-
-failures=0
-
-# check <what> <command>...: the command succeeds.
-check() {
-  local what=$1
-  shift
-  if "$@" >check.log 2>&1; then
-    echo "ok: $what"
-  else
-    echo "FAILED: $what"
-    sed 's/^/    /' check.log
-    failures=$((failures + 1))
-  fi
-}
-
-same() {
-  [[ $1 == "$2" ]] || { printf 'found:    %s\nexpected: %s\n' "$1" "$2" && false; }
-}
 
 # The words of a letter in their order, one a line, without the page numbers.
 words_of() {
@@ -51,14 +34,6 @@ words_due() {
 
 page_count() { pdfinfo "$1" | awk '/^Pages:/ { print $2 }'; }
 
-# fails_with <message> <command>...: exit code 1, with this on one line.
-fails_with() {
-  local message=$1 found status=0
-  shift
-  found=$("$@" 2>&1) || status=$?
-  same "$status: $found" "1: $message"
-}
-
 ### The shipped letter
 
 rm -rf letters
@@ -66,7 +41,7 @@ check "runs" "$letter" "$data/letter.txt" "$data/recipients.csv" letters
 check "one letter for each recipient" same "$(cd letters && echo *)" \
   "letter-001.pdf letter-002.pdf letter-003.pdf"
 for pdf in letters/*.pdf; do
-  check "$pdf: sound" qpdf --check "$pdf"
+  check "$pdf: sound" is_sound "$pdf"
   check "$pdf: two pages" same "$(page_count "$pdf")" 2
   check "$pdf: its faces" same "$(pdffonts "$pdf" | awk 'NR > 2 { print $1 }' | sort | xargs)" \
     "Helvetica Helvetica-Bold Times-Bold Times-BoldItalic Times-Italic Times-Roman"
@@ -114,7 +89,7 @@ check "centred lines: their places" lines_are_placed out/letter-001.pdf
 seq 1 20000 | sed -E 's/$/**x**y/' | fmt -w 70 >text.txt
 rm -rf out
 check "a long letter" "$letter" text.txt one.csv out
-check "a long letter: sound" qpdf --check out/letter-001.pdf
+check "a long letter: sound" is_sound out/letter-001.pdf
 check "a long letter: every word" cmp <(words_of out/letter-001.pdf) <(seq 1 20000 | sed 's/$/xy/')
 
 # The box ends 90 points above the lower edge, the page number begins 61 above it.
@@ -144,7 +119,4 @@ printf 'a,b\n1\n' >bad.csv
 check "a field missing" fails_with "bad.csv:2: 1 fields where the header has 2" \
   "$letter" "$data/letter.txt" bad.csv out
 
-if ((failures > 0)); then
-  echo "$failures failed"
-  exit 1
-fi
+finish
