@@ -30,7 +30,6 @@ class FOLIVAR_API PDFDocument final : public Tagged {
   ~PDFDocument() override;
 
   // Writes the document as it is now; an existing file is replaced. The same document gives the
-  // Writes the document as it is now; an existing file is replaced. The same document gives the
   // same bytes each time, as long as its images' files do not change and no text box sizes itself
   // (PDFTextBox::AutoSize). `fileName` is relative to the working folder. Raises 52 for a bad name,
   // 61 for a full disk, 70, 75 or 76 for a file or folder that cannot be written, 6 for a number
