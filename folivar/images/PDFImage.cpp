@@ -43,10 +43,10 @@ constexpr auto kFormats = std::to_array<Format>({
 
 // The format that the text behind the last point of the name tells, or null.
 const Format* FormatOf(const Text& fileName) {
-  const std::u16string_view name = fileName.Utf16();
-  const std::size_t point = name.rfind(u'.');
-  if (point == std::u16string_view::npos) return nullptr;
-  const std::u16string_view extension = name.substr(point + 1);
+  const std::int16_t point = FindLastInRange(fileName, u".", 1, 0);
+  if (point < 1) return nullptr;
+  const auto extension =
+      std::u16string_view(fileName.Utf16()).substr(static_cast<std::size_t>(point));
   for (const Format& format : kFormats) {
     if (CompareIgnoringCase(extension, format.extension) == 0) return &format;
   }
@@ -91,8 +91,12 @@ PDFImage::PDFImage(const Internal&, std::weak_ptr<PDFDocument> document, Text ke
 PDFImage::~PDFImage() = default;
 
 void PDFImage::SetFileName(TextView fileName) {
-  Text name = InMember("PDFImage.FileName", [&] { return Text(fileName); });
-  const Format* format = FormatOf(name);
+  Text name;
+  const Format* format = nullptr;
+  InMember("PDFImage.FileName", [&] {
+    name = Text(fileName);
+    format = FormatOf(name);
+  });
   std::unique_ptr<ImageReader> reader;
   if (format != nullptr) {
     FileSource source = Open(name);

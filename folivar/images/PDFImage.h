@@ -45,9 +45,10 @@ class FOLIVAR_API PDFImage final : public XObject, public ObjectWriter {
   //
   // Raises -2147220504 for a file of another format, "Error: Image type unknown for a.gif.", and
   // for bitmaps of other kinds, "Unknown BMP format"; 53 for a file that is not found, whatever the
-  // reason; 6 for a JPEG file of 32768 pixels or more in width or height or longer than 2^31 - 1
-  // bytes; 70 or 75 for a file that cannot be read. The image stays as it was then. A save raises 6
-  // for an image whose object would be longer than 2^31 - 1 bytes.
+  // reason; 6 for a name whose last point is beyond its first 32767 units, and for a JPEG file of
+  // 32768 pixels or more in width or height or longer than 2^31 - 1 bytes; 70 or 75 for a file that
+  // cannot be read. The image stays as it was then. A save raises 6 for an image whose object would
+  // be longer than 2^31 - 1 bytes.
   const Text& FileName() const { return fileName_; }
   void SetFileName(TextView fileName);
 

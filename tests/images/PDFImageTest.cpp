@@ -152,6 +152,13 @@ TEST_F(PDFImageInADocument, OtherExtensionsAreUnknownTypes) {
   EXPECT_EQ(FileNameErrorText(""), "Error: Image type unknown for .");
 }
 
+TEST_F(PDFImageInADocument, AnExtensionBeyond16BitsRaises6) {
+  const std::string name = std::string(32767, 'a') + ".jpg";
+  EXPECT_EQ(ErrorNumberOf([&] { image_->SetFileName(name); }), 6);
+  EXPECT_EQ(FileNameErrorText(name).find("PDFImage.FileName: "), 0U);
+  EXPECT_EQ(image_->FileName(), "");
+}
+
 TEST_F(PDFImageInADocument, JpegWithoutAFrameHeaderIsAnUnknownType) {
   EXPECT_EQ(FileNameError("a.jpg", Bmp()), -2147220504);
   const std::string name = (OutputFolder() / "a.jpg").string();
