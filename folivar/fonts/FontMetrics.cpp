@@ -9,7 +9,9 @@
 namespace folivar {
 namespace {
 
-const PDFFontInfo& FaceOf(const FaceUser& user) { return *user.FontInfo(Internal()); }
+const PDFFontInfo& FaceOf(const PDFFont& font) {
+  return *static_cast<const FaceUser&>(font).FontInfo(Internal());
+}
 
 }  // namespace
 

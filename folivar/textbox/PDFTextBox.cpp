@@ -68,11 +68,11 @@ std::string NameOf(const PDFTextBox& box) {
 PDFTextBox::PDFTextBox(const Internal&, std::weak_ptr<Object> parent,
                        std::shared_ptr<Surface> parentSurface, folivar::Text key)
     : key_(std::move(key)), parent_(std::move(parent)), parentSurface_(std::move(parentSurface)) {
-  const auto font = parentSurface_->Font()->Clone();
+  RunFont font = RunFont::CloneOf(*parentSurface_->Font());
   geometry_.width = font->TextWidth("W");
   geometry_.height =
       geometry_.top - font->Descender() + geometry_.marginTop + geometry_.marginBottom;
-  runs_ = std::make_unique<TextRuns>(font);
+  runs_ = std::make_unique<TextRuns>(std::move(font));
 }
 
 PDFTextBox::~PDFTextBox() = default;
@@ -263,24 +263,25 @@ void PDFTextBox::ChangeFlag(const char* member, const Value& value, Setter sette
   InMember(member, [&] {
     ChangeSelection(selStart_, selEnd_, [&](auto forEachRun) {
       const bool flag = BoolFrom(value);
-      forEachRun([&](TEXT_FORMAT_RANGE& run) { ((*run.Font).*setter)(flag); });
+      forEachRun([&](TEXT_FORMAT_RANGE& run) { (run.Font.Own().*setter)(flag); });
     });
   });
 }
 
 std::shared_ptr<PDFFont> PDFTextBox::SelFont() const {
-  return SelectedFormat([](const TEXT_FORMAT_RANGE& run) { return run.Font; }).value_or(nullptr);
+  return SelectedFormat([](const TEXT_FORMAT_RANGE& run) { return run.Font.Seen(); })
+      .value_or(nullptr);
 }
 
 void PDFTextBox::SetSelFont(std::shared_ptr<PDFFont> font) {
   if (!font) return;
   InMember("PDFTextBox.SelFont", [&] {
     parentSurface_->CheckIsOfDocument(*font);
-    const TextRuns::Stretch stretch = runs_->SplitRunsAtSelection(
-        selStart_, selEnd_, TextLength(), TextRuns::SelectedFonts::kToBeSet);
-    runs_->ForEach(stretch, [&](TEXT_FORMAT_RANGE& run) { run.Font = font; });
-    runs_->MergeEquivalentRuns(stretch);
-    parentSurface_->ResourceDictionary().AddFontResource(*font);
+    const RunFont runFont(std::move(font));
+    ChangeSelection(selStart_, selEnd_, [&](auto forEachRun) {
+      forEachRun([&](TEXT_FORMAT_RANGE& run) { run.Font = runFont; });
+    });
+    parentSurface_->ResourceDictionary().AddFontResource(*runFont);
   });
 }
 
@@ -290,7 +291,7 @@ float PDFTextBox::SelFontSize() const {
 
 void PDFTextBox::SetSelFontSize(float points) {
   ChangeSelection(selStart_, selEnd_, [&](auto forEachRun) {
-    forEachRun([&](TEXT_FORMAT_RANGE& run) { run.Font->SetSize(points); });
+    forEachRun([&](TEXT_FORMAT_RANGE& run) { run.Font.Own().SetSize(points); });
   });
 }
 

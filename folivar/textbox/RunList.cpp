@@ -40,11 +40,6 @@ RunList::Spot RunList::SpotOf(std::size_t index) const {
   return {place.block, index - place.firstRun};
 }
 
-const TEXT_FORMAT_RANGE& RunList::operator[](std::size_t index) const {
-  const Spot spot = SpotOf(index);
-  return blocks_[spot.block].runs[spot.index];
-}
-
 RunList::Place RunList::FindStart(std::int64_t position) const {
   Place place{0, 0};
   if (position == 0) return place;
@@ -98,6 +93,34 @@ void RunList::SetLength(std::size_t index, std::int32_t length) {
   ForgetFrom(index);
 }
 
+void RunList::Split(std::size_t index, std::span<const std::int32_t> lengths) {
+  if (lengths.size() > 1) InsertCopies(index, lengths.size() - 1);
+  const Spot spot = SpotOf(index);
+  Block& block = blocks_[spot.block];
+  auto run = At(block.runs, spot.index);
+  for (const std::int32_t length : lengths) {
+    block.length += std::int64_t{length} - run->Length;
+    (run++)->Length = length;
+  }
+  ForgetFrom(index);
+}
+
+// Empty copies of a run, behind it and in its block.
+void RunList::InsertCopies(std::size_t index, std::size_t count) {
+  TEXT_FORMAT_RANGE copy;
+  copy.CopyFrom((*this)[index]);
+  copy.Length = 0;
+  Spot spot = SpotOf(index);
+  if (blocks_[spot.block].runs.size() + count > kBlockSize) {
+    HalveBlock(spot.block);
+    spot = SpotOf(index);
+  }
+  Block& block = blocks_[spot.block];
+  Reserve(block, count);
+  block.runs.insert(At(block.runs, spot.index + 1), count, copy);
+  count_ += count;
+}
+
 void RunList::Replace(std::size_t first, std::size_t last, std::span<TEXT_FORMAT_RANGE> with) {
   assert(count_ - (last - first) + with.size() > 0);
   const Spot begin = SpotOf(first);
@@ -129,12 +152,32 @@ void RunList::Replace(std::size_t first, std::size_t last, std::span<TEXT_FORMAT
   ForgetFrom(first);
 }
 
+// Puts the first half of a block's runs into a new block before it, with no room left over: text is
+// mostly formatted forwards.
+void RunList::HalveBlock(std::size_t index) {
+  const std::size_t half = blocks_[index].runs.size() / 2;
+  Block block;
+  block.runs.reserve(half);
+  const auto place = blocks_.begin() + static_cast<std::ptrdiff_t>(index);
+  Block& lower = *blocks_.insert(place, std::move(block));
+  Block& upper = blocks_[index + 1];
+  const auto middle = At(upper.runs, half);
+  lower.runs.assign(std::make_move_iterator(upper.runs.begin()), std::make_move_iterator(middle));
+  upper.runs.erase(upper.runs.begin(), middle);
+  lower.length = LengthOf(lower.runs);
+  upper.length -= lower.length;
+}
+
+// Grows by doubling, though not beyond what a block ever holds.
+void RunList::Reserve(Block& block, std::size_t added) {
+  const std::size_t size = block.runs.size() + added;
+  if (size > block.runs.capacity()) block.runs.reserve(std::min(kBlockSize, 2 * size));
+}
+
 void RunList::ReplaceInBlock(Block& block, std::size_t first, std::size_t last,
                              std::span<TEXT_FORMAT_RANGE> with) {
   const std::size_t removed = last - first;
-  if (block.runs.size() - removed + with.size() > block.runs.capacity()) {
-    block.runs.reserve(std::min(kBlockSize, 2 * (block.runs.size() + with.size())));
-  }
+  Reserve(block, with.size() > removed ? with.size() - removed : 0);
   const std::int64_t added = LengthOf(with);
   for (std::size_t index = first; index < last; ++index) block.length -= block.runs[index].Length;
   block.length += added;

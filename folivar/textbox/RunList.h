@@ -29,7 +29,10 @@ class RunList {
 
   std::size_t Count() const { return count_; }
   bool IsLast(std::size_t index) const { return index + 1 == count_; }
-  const TEXT_FORMAT_RANGE& operator[](std::size_t index) const;
+  const TEXT_FORMAT_RANGE& operator[](std::size_t index) const {
+    const Spot spot = SpotOf(index);
+    return blocks_[spot.block].runs[spot.index];
+  }
 
   // The run that holds the character at `position`: on a boundary the run behind it, though an
   // empty run there comes first; the last run for positions beyond all lengths. For 0 it is the
@@ -45,6 +48,10 @@ class RunList {
   void Erase(std::size_t first, std::size_t last) { Replace(first, last, {}); }
 
   void SetLength(std::size_t index, std::int32_t length);
+
+  // Cuts a run into pieces of these lengths, one or more. The first is the run itself, the others
+  // are copies with fonts of their own. Nothing changes when memory runs out.
+  void Split(std::size_t index, std::span<const std::int32_t> lengths);
 
   // Visits the runs from `first` up to `last`; the visitor leaves the length alone.
   template <class Visit>
@@ -96,12 +103,15 @@ class RunList {
     std::size_t block = 0;
     std::size_t firstRun = 0;
   };
-  static constexpr std::size_t kBlockSize = 128;
+  static constexpr std::size_t kBlockSize = 64;
   static constexpr std::size_t kSmallBlock = kBlockSize / 4;
 
   static std::int64_t LengthOf(std::span<const TEXT_FORMAT_RANGE> runs);
 
   Spot SpotOf(std::size_t index) const;
+  void InsertCopies(std::size_t index, std::size_t count);
+  void HalveBlock(std::size_t index);
+  static void Reserve(Block& block, std::size_t added);
   void ReplaceInBlock(Block& block, std::size_t first, std::size_t last,
                       std::span<TEXT_FORMAT_RANGE> with);
   void RebuildBlocks(std::size_t first, std::size_t last, std::vector<TEXT_FORMAT_RANGE> runs);

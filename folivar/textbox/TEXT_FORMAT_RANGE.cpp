@@ -1,12 +1,11 @@
 #include "folivar/textbox/TEXT_FORMAT_RANGE.h"
 
 #include "folivar/fonts/FontMetrics.h"
-#include "folivar/fonts/PDFFont.h"
 
 namespace folivar {
 
 void TEXT_FORMAT_RANGE::CopyFrom(const TEXT_FORMAT_RANGE& source) {
-  Font = source.Font->Clone();
+  Font = source.Font.Clone();
   Color = source.Color;
   Alignment = source.Alignment;
   Length = source.Length;

@@ -1,18 +1,16 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
 
 #include "folivar/textbox/PDFParaAlignment.h"
+#include "folivar/textbox/RunFont.h"
 
 namespace folivar {
 
-class PDFFont;
-
 // A stretch of a text box's text in one format.
 struct TEXT_FORMAT_RANGE {
-  std::shared_ptr<PDFFont> Font;  // never null; shared where the host has set one font for several
-  std::int32_t Color = 0;         // 0x00BBGGRR
+  [[no_unique_address]] RunFont Font;  // whose padding the other fields fill
+  std::int32_t Color = 0;              // 0x00BBGGRR
   PDFParaAlignment Alignment = alignLeft;
   std::int32_t Length = 0;  // UTF-16 units; never negative
 

@@ -9,14 +9,13 @@
 #include <vector>
 
 #include "folivar/document/Error.h"
-#include "folivar/fonts/PDFFont.h"
 
 namespace folivar {
 namespace {
 
 constexpr std::int64_t kLongest = std::numeric_limits<std::int32_t>::max();
 
-TEXT_FORMAT_RANGE EmptyRun(std::shared_ptr<PDFFont> font) {
+TEXT_FORMAT_RANGE EmptyRun(RunFont font) {
   TEXT_FORMAT_RANGE run;
   run.Font = std::move(font);
   return run;
@@ -41,7 +40,7 @@ std::int32_t SumOf(std::int32_t a, std::int32_t b) { return AsLength(std::int64_
 
 }  // namespace
 
-TextRuns::TextRuns(std::shared_ptr<PDFFont> font) : list_(EmptyRun(std::move(font))) {}
+TextRuns::TextRuns(RunFont font) : list_(EmptyRun(std::move(font))) {}
 
 TextRuns::Found TextRuns::FindSelectionRuns(std::int64_t start, std::int64_t end) const {
   const RunList::Place first = list_.FindStart(start);
@@ -56,42 +55,30 @@ std::int64_t TextRuns::EndOf(RunList::Place place, std::int64_t textLength) cons
 // Makes from..to of the run at `place` a run of its own and returns its index. No other piece is
 // made empty.
 std::size_t TextRuns::SplitRun(std::int64_t from, std::int64_t to, RunList::Place place,
-                               std::int64_t textLength, SelectedFonts fonts) {
+                               std::int64_t textLength) {
   const std::int64_t after = EndOf(place, textLength) - to;
-  const TEXT_FORMAT_RANGE& run = list_[place.index];
-  std::array<TEXT_FORMAT_RANGE, 3> pieces;
+  std::array<std::int32_t, 3> lengths{};
   std::size_t count = 0;
-  const auto add = [&](std::int64_t length, bool hasOwnFont) {
-    TEXT_FORMAT_RANGE& piece = pieces[count];
-    piece = run;
-    if (count > 0 && hasOwnFont) piece.Font = run.Font->Clone();
-    piece.Length = AsLength(length);
-    ++count;
-  };
-  if (from > place.start) add(from - place.start, true);
-  add(to - from, fonts == SelectedFonts::kOwn);
+  if (from > place.start) lengths[count++] = AsLength(from - place.start);
+  lengths[count++] = AsLength(to - from);
   const std::size_t index = place.index + count - 1;
-  if (after > 0) add(after, true);
-  if (count == 1) {
-    list_.SetLength(place.index, pieces[0].Length);
-  } else {
-    list_.Replace(place.index, place.index + 1, std::span(pieces).first(count));
-  }
+  if (after > 0) lengths[count++] = AsLength(after);
+  list_.Split(place.index, std::span(lengths).first(count));
   return index;
 }
 
 TextRuns::Stretch TextRuns::SplitRunsAtSelection(std::int64_t start, std::int64_t end,
-                                                 std::int64_t textLength, SelectedFonts fonts) {
+                                                 std::int64_t textLength) {
   const Found found = FindSelectionRuns(start, end);
   if (found.IsOneRun()) {
-    const std::size_t index = SplitRun(start, end, found.first, textLength, fonts);
+    const std::size_t index = SplitRun(start, end, found.first, textLength);
     return {index, index};
   }
   const std::size_t first =
-      SplitRun(start, EndOf(found.first, textLength), found.first, textLength, fonts);
+      SplitRun(start, EndOf(found.first, textLength), found.first, textLength);
   RunList::Place last = found.last;
   last.index += first - found.first.index;
-  return {first, SplitRun(last.start, end, last, textLength, fonts)};
+  return {first, SplitRun(last.start, end, last, textLength)};
 }
 
 // Whether some neighbours are, from `first` up to `last`.

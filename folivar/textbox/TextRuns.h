@@ -2,13 +2,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 
 #include "folivar/textbox/RunList.h"
 
 namespace folivar {
-
-class PDFFont;
 
 // The runs that together cover a text box's text, and how they follow its editing. They know the
 // text by its length only: each run's format holds for as many units as its length says.
@@ -20,7 +17,7 @@ class PDFFont;
 class TextRuns {
  public:
   // One empty run in this font, black and at the left.
-  explicit TextRuns(std::shared_ptr<PDFFont> font);
+  explicit TextRuns(RunFont font);
 
   const RunList& List() const { return list_; }
 
@@ -40,16 +37,10 @@ class TextRuns {
     std::size_t last;
   };
 
-  enum class SelectedFonts {
-    kOwn,
-    kToBeSet,  // the stretch may go on sharing fonts, because it gets others at once
-  };
-
   // Splits runs so that some of them exactly cover the stretch of the text; for an empty one it is
   // an empty run. Of a run that is split the first piece keeps the font object, the others have
   // clones.
-  Stretch SplitRunsAtSelection(std::int64_t start, std::int64_t end, std::int64_t textLength,
-                               SelectedFonts fonts = SelectedFonts::kOwn);
+  Stretch SplitRunsAtSelection(std::int64_t start, std::int64_t end, std::int64_t textLength);
 
   // Visits the runs of the stretch; the visitor leaves the length alone.
   template <class Visit>
@@ -83,7 +74,7 @@ class TextRuns {
  private:
   std::int64_t EndOf(RunList::Place place, std::int64_t textLength) const;
   std::size_t SplitRun(std::int64_t from, std::int64_t to, RunList::Place place,
-                       std::int64_t textLength, SelectedFonts fonts);
+                       std::int64_t textLength);
   bool AnyAreAlike(std::size_t first, std::size_t last);
 
   RunList list_;

@@ -9,7 +9,7 @@ namespace {
 
 TEXT_FORMAT_RANGE RunIn(std::shared_ptr<PDFFont> font) {
   TEXT_FORMAT_RANGE run;
-  run.Font = std::move(font);
+  run.Font = RunFont(std::move(font));
   return run;
 }
 
@@ -22,13 +22,13 @@ TEST(TEXT_FORMAT_RANGE, StartsBlackLeftAndEmpty) {
 
 TEST(TEXT_FORMAT_RANGE, ACopyHasAFontOfItsOwn) {
   TEXT_FORMAT_RANGE source = RunIn(StandardFont("Courier", 12));
-  source.Font->SetUnderline(true);
+  source.Font.Own().SetUnderline(true);
   source.Color = 7;
   source.Alignment = alignRight;
   source.Length = 5;
   TEXT_FORMAT_RANGE copy;
   copy.CopyFrom(source);
-  EXPECT_NE(copy.Font, source.Font);
+  EXPECT_NE(copy.Font.Seen(), source.Font.Seen());
   EXPECT_EQ(copy.Font->FontFace(), "Courier");
   EXPECT_EQ(copy.Font->Size(), 12);
   EXPECT_TRUE(copy.Font->Underline());
@@ -50,15 +50,16 @@ TEST(TEXT_FORMAT_RANGE, EveryPartOfTheFormatCountsAndTheLengthDoesNot) {
   EXPECT_FALSE(differs([](TEXT_FORMAT_RANGE& other) { other.Length = 3; }));
   EXPECT_TRUE(differs([](TEXT_FORMAT_RANGE& other) { other.Color = 1; }));
   EXPECT_TRUE(differs([](TEXT_FORMAT_RANGE& other) { other.Alignment = alignCenter; }));
-  EXPECT_TRUE(differs([](TEXT_FORMAT_RANGE& other) { other.Font->SetSize(11); }));
-  EXPECT_TRUE(differs([](TEXT_FORMAT_RANGE& other) { other.Font->SetUnderline(true); }));
-  EXPECT_TRUE(differs([](TEXT_FORMAT_RANGE& other) { other.Font->SetStrikeOut(true); }));
-  EXPECT_TRUE(differs([](TEXT_FORMAT_RANGE& other) { other.Font->SetSubscript(true); }));
-  EXPECT_TRUE(differs([](TEXT_FORMAT_RANGE& other) { other.Font->SetSuperscript(true); }));
-  EXPECT_TRUE(differs(
-      [](TEXT_FORMAT_RANGE& other) { other.Font = StandardFont("Helvetica-Bold", 10, "/F1"); }));
+  EXPECT_TRUE(differs([](TEXT_FORMAT_RANGE& other) { other.Font.Own().SetSize(11); }));
+  EXPECT_TRUE(differs([](TEXT_FORMAT_RANGE& other) { other.Font.Own().SetUnderline(true); }));
+  EXPECT_TRUE(differs([](TEXT_FORMAT_RANGE& other) { other.Font.Own().SetStrikeOut(true); }));
+  EXPECT_TRUE(differs([](TEXT_FORMAT_RANGE& other) { other.Font.Own().SetSubscript(true); }));
+  EXPECT_TRUE(differs([](TEXT_FORMAT_RANGE& other) { other.Font.Own().SetSuperscript(true); }));
+  EXPECT_TRUE(differs([](TEXT_FORMAT_RANGE& other) {
+    other.Font = RunFont(StandardFont("Helvetica-Bold", 10, "/F1"));
+  }));
   EXPECT_FALSE(differs([](TEXT_FORMAT_RANGE& other) {
-    other.Font = StandardFont("Times-Roman", 10, "/F0");
+    other.Font = RunFont(StandardFont("Times-Roman", 10, "/F0"));
   })) << "faces are told apart by their resource names";
 }
 

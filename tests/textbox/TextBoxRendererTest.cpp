@@ -38,7 +38,7 @@ class TextBoxRendererTest : public testing::Test {
     TEXT_FORMAT_RANGE* added = nullptr;
     runs_.ForEach(stretch, [&](TEXT_FORMAT_RANGE& run) {
       run.CopyFrom(run);
-      run.Font = font_->Clone();
+      run.Font = RunFont::CloneOf(*font_);
       added = &run;
     });
     return *added;
@@ -64,7 +64,7 @@ class TextBoxRendererTest : public testing::Test {
   }
 
   std::shared_ptr<PDFFont> font_ = StandardFont("Courier", 10, "/F3");
-  TextRuns runs_{font_};
+  TextRuns runs_{RunFont(font_)};
   std::string text_;
   TextBoxGeometry geometry_;
   TextBoxFrame frame_;
@@ -132,7 +132,7 @@ TEST_F(TextBoxRendererTest, ABackStyleNotListedIsTransparent) {
 
 TEST_F(TextBoxRendererTest, LinesFollowEachOtherByTheirLeadings) {
   Add("one\ntwo");
-  Add(" large").Font->SetSize(20);
+  Add(" large").Font.Own().SetSize(20);
   // 720 - 10.55 - 2 is 707.45.
   EXPECT_EQ(Text(),
             "74 707  Td\n"
@@ -187,11 +187,11 @@ TEST_F(TextBoxRendererTest, ALineEndInARunOfItsOwnIsNoSegment) {
 TEST_F(TextBoxRendererTest, SegmentsHaveTheirColourFontAndRise) {
   TEXT_FORMAT_RANGE& first = Add("H");
   first.Color = 0xFF0000;
-  Add("2").Font->SetSubscript(true);
-  Add("3").Font->SetSuperscript(true);
+  Add("2").Font.Own().SetSubscript(true);
+  Add("3").Font.Own().SetSuperscript(true);
   TEXT_FORMAT_RANGE& both = Add("4");
-  both.Font->SetSubscript(true);
-  both.Font->SetSuperscript(true);
+  both.Font.Own().SetSubscript(true);
+  both.Font.Own().SetSuperscript(true);
   EXPECT_EQ(Text(),
             "74 707  Td\n"
             "0 0 1 rg\n/F3 10  Tf\n(H) Tj\n"
@@ -207,10 +207,10 @@ TEST_F(TextBoxRendererTest, TextIsEscapedAndInWindows1252) {
 
 TEST_F(TextBoxRendererTest, DecorationsAreStrokesBehindTheText) {
   Add("ab");
-  Add("cd").Font->SetUnderline(true);
+  Add("cd").Font.Own().SetUnderline(true);
   TEXT_FORMAT_RANGE& both = Add("e ");
-  both.Font->SetStrikeOut(true);
-  both.Font->SetUnderline(true);
+  both.Font.Own().SetStrikeOut(true);
+  both.Font.Own().SetUnderline(true);
   frame_.borderWidth = 0;
   // Baseline 707; underlines at 706, strikeouts at 707 + 6.29 / 3.
   EXPECT_EQ(Decorations(),
@@ -236,14 +236,14 @@ TEST_F(TextBoxRendererTest, DecorationsFollowTheLinesAndTheirShift) {
 
 TEST_F(TextBoxRendererTest, SubscriptNarrowsItsDecorationAndDoesNotMoveIt) {
   font_->SetUnderline(true);
-  Add("ab").Font->SetSubscript(true);
+  Add("ab").Font.Own().SetSubscript(true);
   frame_.borderWidth = 0;
   EXPECT_EQ(Decorations(), "q\n0.5  w\n74  706  m\n81.8  706  l\nS\nQ\n");
 }
 
 TEST_F(TextBoxRendererTest, AnUnderlinedLineEndIsNoStroke) {
   Add("a");
-  Add("\n").Font->SetUnderline(true);
+  Add("\n").Font.Own().SetUnderline(true);
   frame_.borderWidth = 0;
   EXPECT_EQ(Decorations(), "");
 }

@@ -34,7 +34,8 @@ struct Piece {
 // A text in one run for each piece, as wide as there is room for.
 class Laid {
  public:
-  explicit Laid(const std::vector<Piece>& pieces, float width = 1000) : runs_(StandardFont()) {
+  explicit Laid(const std::vector<Piece>& pieces, float width = 1000)
+      : runs_(RunFont(StandardFont())) {
     geometry_.width = width;
     for (const Piece& piece : pieces) bytes_ += piece.text;
     const auto length = static_cast<std::int64_t>(bytes_.size());
@@ -44,7 +45,7 @@ class Laid {
       const auto end = start + static_cast<std::int64_t>(piece.text.size());
       const auto stretch = runs_.SplitRunsAtSelection(start, end, length);
       runs_.ForEach(stretch, [&](TEXT_FORMAT_RANGE& run) {
-        run.Font = piece.font;
+        run.Font = RunFont(piece.font);
         run.Alignment = piece.alignment;
       });
       start = end;
@@ -357,7 +358,7 @@ class Naive {
       const std::size_t runEnd = runStart + static_cast<std::size_t>(run.Length);
       const std::size_t from = std::max(start, runStart);
       const std::size_t to = std::min(end, runEnd);
-      if (from < to) pieces.emplace_back(bytes_.substr(from, to - from), run.Font);
+      if (from < to) pieces.emplace_back(bytes_.substr(from, to - from), run.Font.Seen());
       runStart = runEnd;
     }
     return pieces;
@@ -424,12 +425,13 @@ TEST(TextLayout, AMillionCharactersInTenThousandRunsAreLaidOutInOneWalk) {
                                                     StandardFont("Courier-Bold")};
   std::string bytes;
   for (int word = 0; word < 200000; ++word) bytes += "abcd ";
-  TextRuns runs(fonts[0]);
+  TextRuns runs{RunFont(fonts[0])};
   runs.ResetText(static_cast<std::int32_t>(bytes.size()));
   for (std::int64_t run = 0; run < 10000; ++run) {
     const auto stretch = runs.SplitRunsAtSelection(100 * run, 100 * run + 100, 1000000);
-    runs.ForEach(stretch,
-                 [&](TEXT_FORMAT_RANGE& each) { each.Font = fonts[run % 2 == 0 ? 0 : 1]; });
+    runs.ForEach(stretch, [&](TEXT_FORMAT_RANGE& each) {
+      each.Font = RunFont(fonts[run % 2 == 0 ? 0 : 1]);
+    });
   }
   ASSERT_EQ(runs.List().Count(), 10000U);
   TextBoxGeometry geometry;

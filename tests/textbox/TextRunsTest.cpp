@@ -38,7 +38,7 @@ void SetColor(TextRuns& runs, std::int64_t start, std::int64_t end, std::int32_t
 
 // One run for each length; the colours count from 0.
 TextRuns RunsOf(const Lengths& lengths) {
-  TextRuns runs(StandardFont());
+  TextRuns runs{RunFont(StandardFont())};
   std::int32_t length = 0;
   for (const std::int32_t each : lengths) length += each;
   runs.ResetText(length);
@@ -54,9 +54,9 @@ TextRuns RunsOf(const Lengths& lengths) {
 
 TEST(TextRuns, StartsAsOneEmptyRunInTheFontGiven) {
   const auto font = StandardFont();
-  const TextRuns runs(font);
+  const TextRuns runs{RunFont(font)};
   ASSERT_EQ(runs.List().Count(), 1U);
-  EXPECT_EQ(runs.List()[0].Font, font);
+  EXPECT_EQ(runs.List()[0].Font.Seen(), font);
   EXPECT_EQ(runs.List()[0].Length, 0);
 }
 
@@ -91,16 +91,16 @@ TEST(TextRuns, OnlyTheWantedPieceMayBeEmpty) {
 
 TEST(TextRuns, TheFirstPieceKeepsTheFontObject) {
   TextRuns runs = RunsOf({10});
-  const auto font = runs.List()[0].Font;
+  const auto font = runs.List()[0].Font.Seen();
   runs.SplitRunsAtSelection(2, 4, 10);
-  EXPECT_EQ(runs.List()[0].Font, font);
-  EXPECT_NE(runs.List()[1].Font, font);
-  EXPECT_NE(runs.List()[2].Font, font);
-  EXPECT_NE(runs.List()[1].Font, runs.List()[2].Font);
+  EXPECT_EQ(runs.List()[0].Font.Seen(), font);
+  EXPECT_NE(runs.List()[1].Font.Seen(), font);
+  EXPECT_NE(runs.List()[2].Font.Seen(), font);
+  EXPECT_NE(runs.List()[1].Font.Seen(), runs.List()[2].Font.Seen());
   runs = RunsOf({10});
-  const auto other = runs.List()[0].Font;
+  const auto other = runs.List()[0].Font.Seen();
   runs.SplitRunsAtSelection(0, 4, 10);
-  EXPECT_EQ(runs.List()[0].Font, other) << "the wanted piece is the first";
+  EXPECT_EQ(runs.List()[0].Font.Seen(), other) << "the wanted piece is the first";
 }
 
 TEST(TextRuns, ASelectionAcrossRunsSplitsTheFirstAndTheLast) {
@@ -130,21 +130,21 @@ TEST(TextRuns, FormattingBackMergesAgain) {
 TEST(TextRuns, TheStretchSurvivesWhereItJoinsTheRunBefore) {
   TextRuns runs = RunsOf({4, 4, 4});
   const auto stretch = runs.SplitRunsAtSelection(4, 8, 12);
-  const auto font = runs.List()[1].Font;
+  const auto font = runs.List()[1].Font.Seen();
   runs.ForEach(stretch, [](TEXT_FORMAT_RANGE& run) { run.Color = 0; });
   runs.MergeEquivalentRuns(stretch);
   EXPECT_EQ(LengthsOf(runs), (Lengths{8, 4}));
-  EXPECT_EQ(runs.List()[0].Font, font);
+  EXPECT_EQ(runs.List()[0].Font.Seen(), font);
 }
 
 TEST(TextRuns, TheStretchSurvivesWhereItJoinsTheRunBehind) {
   TextRuns runs = RunsOf({4, 4, 4});
   const auto stretch = runs.SplitRunsAtSelection(4, 8, 12);
-  const auto font = runs.List()[1].Font;
+  const auto font = runs.List()[1].Font.Seen();
   runs.ForEach(stretch, [](TEXT_FORMAT_RANGE& run) { run.Color = 2; });
   runs.MergeEquivalentRuns(stretch);
   EXPECT_EQ(LengthsOf(runs), (Lengths{4, 8}));
-  EXPECT_EQ(runs.List()[1].Font, font);
+  EXPECT_EQ(runs.List()[1].Font.Seen(), font);
 }
 
 TEST(TextRuns, ReplacingInsideARunChangesItsLength) {
@@ -233,15 +233,15 @@ TEST(TextRuns, ACopyHasFontsOfItsOwn) {
   copy.CopyFrom(source);
   EXPECT_EQ(LengthsOf(copy), (Lengths{4, 2}));
   EXPECT_EQ(ColorsOf(copy), (std::vector<std::int32_t>{0, 1}));
-  EXPECT_NE(copy.List()[0].Font, source.List()[0].Font);
-  EXPECT_NE(copy.List()[1].Font, source.List()[1].Font);
+  EXPECT_NE(copy.List()[0].Font.Seen(), source.List()[0].Font.Seen());
+  EXPECT_NE(copy.List()[1].Font.Seen(), source.List()[1].Font.Seen());
 }
 
 TEST(TextRuns, ACopyOfItselfKeepsItsFonts) {
   TextRuns runs = RunsOf({4, 2});
-  const auto font = runs.List()[0].Font;
+  const auto font = runs.List()[0].Font.Seen();
   runs.CopyFrom(runs);
-  EXPECT_EQ(runs.List()[0].Font, font);
+  EXPECT_EQ(runs.List()[0].Font.Seen(), font);
   EXPECT_EQ(LengthsOf(runs), (Lengths{4, 2}));
 }
 
@@ -270,8 +270,8 @@ class FormatOfEachUnit : public testing::Test {
     runs_.ForEach(stretch, [&](TEXT_FORMAT_RANGE& run) {
       if (what == 0) run.Color = value;
       if (what == 1) run.Alignment = static_cast<PDFParaAlignment>(1 + value);
-      if (what == 2) run.Font->SetSize(static_cast<float>(10 + value));
-      if (what == 3) run.Font->SetUnderline(value == 1);
+      if (what == 2) run.Font.Own().SetSize(static_cast<float>(10 + value));
+      if (what == 3) run.Font.Own().SetUnderline(value == 1);
     });
     runs_.MergeEquivalentRuns(stretch);
     for (auto unit = start; unit < end; ++unit) {
@@ -308,7 +308,7 @@ class FormatOfEachUnit : public testing::Test {
   }
 
   Random random_;
-  TextRuns runs_{StandardFont()};
+  TextRuns runs_{RunFont(StandardFont())};
   std::vector<Format> model_;
 };
 
@@ -330,7 +330,7 @@ TEST_F(FormatOfEachUnit, IsWhatTheRunsSay) {
       ChangeFormat(start, end);
     }
     if (random_.Chance(1)) {
-      TextRuns copy(StandardFont());
+      TextRuns copy{RunFont(StandardFont())};
       copy.CopyFrom(runs_);
       runs_.CopyFrom(copy);
     }
