@@ -1,5 +1,6 @@
 #include "folivar/document/ByteTraits.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -19,6 +20,12 @@ constexpr std::uint64_t BytesEqual(std::uint64_t word, unsigned char byte) {
   return BytesBelow(word ^ (kOnes * byte), 1);
 }
 
+// The high bit of some byte is set when some byte of the word is \ ( or ). The brackets differ in
+// the lowest bit.
+constexpr std::uint64_t Escapes(std::uint64_t word) {
+  return BytesEqual(word, '\\') | BytesEqual(word | kOnes, ')');
+}
+
 }  // namespace
 
 ByteTraits TraitsOf(std::string_view bytes) {
@@ -28,8 +35,7 @@ ByteTraits TraitsOf(std::string_view bytes) {
   const auto look = [&](std::uint64_t word) {
     all |= word;
     controls |= BytesBelow(word, ' ');
-    // '(' and ')' differ in the lowest bit.
-    escapes |= BytesEqual(word, '\\') | BytesEqual(word | kOnes, ')');
+    escapes |= Escapes(word);
   };
   std::size_t place = 0;
   std::uint64_t word = 0;
@@ -43,6 +49,16 @@ ByteTraits TraitsOf(std::string_view bytes) {
     look(word);
   }
   return {(all & kHighBits) != 0, (controls & kHighBits) != 0, (escapes & kHighBits) != 0};
+}
+
+std::size_t FindEscape(std::string_view bytes, std::size_t from) {
+  std::size_t place = from;
+  std::uint64_t word = 0;
+  for (; place + sizeof word <= bytes.size(); place += sizeof word) {
+    std::memcpy(&word, bytes.data() + place, sizeof word);
+    if ((Escapes(word) & kHighBits) != 0) break;
+  }
+  return std::min(bytes.find_first_of("\\()", place), bytes.size());
 }
 
 }  // namespace folivar

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 namespace folivar {
@@ -13,5 +14,8 @@ struct ByteTraits {
 };
 
 ByteTraits TraitsOf(std::string_view bytes);
+
+// The first place from `from` on that a literal string escapes; the size of the text without one.
+std::size_t FindEscape(std::string_view bytes, std::size_t from);
 
 }  // namespace folivar

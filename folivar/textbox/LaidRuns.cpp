@@ -4,28 +4,40 @@
 
 namespace folivar {
 
-LaidRun::LaidRun(const TEXT_FORMAT_RANGE& run, std::size_t end) : run_(&run), end_(end) {
-  const FontMetrics metrics(*run.Font);
+LaidFormat::LaidFormat(const TEXT_FORMAT_RANGE& run, std::size_t number)
+    : font_(&*run.Font), number_(number), color_(run.Color) {
+  const FontMetrics metrics(*font_);
   face_ = &metrics.Face();
   characters_ = &face_->Characters();
   size_ = metrics.EffectiveSize();
   leading_ = metrics.Leading();
-  isDecorated_ = run.Font->Underline() || run.Font->StrikeOut();
+  isDecorated_ = font_->Underline() || font_->StrikeOut();
 }
 
-std::vector<LaidRun> LaidRunsOf(const RunList& runs, std::size_t textLength) {
-  std::vector<LaidRun> laid;
-  laid.reserve(runs.Count());
+LaidRuns::LaidRuns(const RunList& runs, std::size_t textLength) {
+  runs_.reserve(runs.Count());
   std::size_t start = 0;
   std::size_t index = 0;
   runs.ForEach([&](const TEXT_FORMAT_RANGE& run) {
     const std::size_t end =
         runs.IsLast(index++) ? textLength
                              : std::min(start + static_cast<std::size_t>(run.Length), textLength);
-    if (end > start) laid.emplace_back(run, end);
+    if (end > start) {
+      runs_.push_back({end, static_cast<std::uint32_t>(FormatOf(run)), run.Alignment});
+    }
     start = end;
   });
-  return laid;
+}
+
+// A text changes to and fro between few formats, so that looking at the newest finds nearly all.
+std::size_t LaidRuns::FormatOf(const TEXT_FORMAT_RANGE& run) {
+  constexpr std::size_t kNewest = 8;
+  const std::size_t oldest = formats_.size() - std::min(formats_.size(), kNewest);
+  for (std::size_t number = formats_.size(); number > oldest; --number) {
+    if (formats_[number - 1].IsOf(run)) return number - 1;
+  }
+  formats_.emplace_back(run, formats_.size());
+  return formats_.size() - 1;
 }
 
 }  // namespace folivar

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 #include <vector>
 
@@ -11,16 +12,21 @@
 
 namespace folivar {
 
-// A run that has text, with the measures of its font that laying out asks for again and again.
-// Measures that are beyond a single raise 6 when the runs are taken down.
-class LaidRun {
+// The format of some runs, with the measures of its font that laying out asks for again and again.
+// Measures that are beyond a single raise 6 when they are taken down.
+class LaidFormat {
  public:
-  LaidRun(const TEXT_FORMAT_RANGE& run, std::size_t end);
+  LaidFormat(const TEXT_FORMAT_RANGE& run, std::size_t number);
 
-  // Where its text ends.
-  std::size_t End() const { return end_; }
-  const TEXT_FORMAT_RANGE& Run() const { return *run_; }
-  FontMetrics Metrics() const { return FontMetrics(*run_->Font); }
+  // Its place among the formats of the text, from 0.
+  std::size_t Number() const { return number_; }
+  const PDFFont& Font() const { return *font_; }
+  std::int32_t Color() const { return color_; }
+  bool IsOf(const TEXT_FORMAT_RANGE& run) const {
+    return font_ == &*run.Font && color_ == run.Color;
+  }
+
+  FontMetrics Metrics() const { return FontMetrics(*font_); }
   float Leading() const { return leading_; }
   bool IsDecorated() const { return isDecorated_; }
 
@@ -29,23 +35,45 @@ class LaidRun {
   // Such a sum at the size that is shown; raises 6 when it is beyond a single.
   float Shown(float width) const { return FontMetrics::Scaled(width, size_); }
 
-  // Of text in the run, as it is shown; raises 6 when it is beyond a single.
-  float Width(std::string_view bytes) const {
-    return FontMetrics::Scaled(face_->MeasureWidth(bytes), size_);
-  }
+  // Of text, as it is shown; raises 6 when it is beyond a single.
+  float Width(std::string_view bytes) const { return Shown(face_->MeasureWidth(bytes)); }
 
  private:
-  const TEXT_FORMAT_RANGE* run_;
+  const PDFFont* font_;
   const PDFFontInfo* face_;
   const CharacterTable* characters_;
-  std::size_t end_;
+  std::size_t number_;
+  std::int32_t color_;
   float size_;  // that text is shown in
   float leading_;
   bool isDecorated_;
 };
 
-// The runs of a text of `textLength` characters: those without text are left out, the last one has
-// all that is left of the text, and what is beyond its end does not count.
-std::vector<LaidRun> LaidRunsOf(const RunList& runs, std::size_t textLength);
+// A run that has text.
+struct LaidRun {
+  std::size_t end;  // of its text
+  std::uint32_t format;
+  PDFParaAlignment alignment;
+};
+
+// The runs of a text: those without text are left out, the last one has all that is left of the
+// text, and what is beyond its end does not count.
+class LaidRuns {
+ public:
+  LaidRuns(const RunList& runs, std::size_t textLength);
+
+  using Iterator = std::vector<LaidRun>::const_iterator;
+  Iterator begin() const { return runs_.begin(); }
+
+  // Most runs share one; two may be alike.
+  const std::vector<LaidFormat>& Formats() const { return formats_; }
+  const LaidFormat& FormatOf(const LaidRun& run) const { return formats_[run.format]; }
+
+ private:
+  std::size_t FormatOf(const TEXT_FORMAT_RANGE& run);
+
+  std::vector<LaidRun> runs_;
+  std::vector<LaidFormat> formats_;
+};
 
 }  // namespace folivar

@@ -1,5 +1,7 @@
 #include "folivar/textbox/TextBoxRenderer.h"
 
+#include <cstdint>
+
 #include "folivar/document/AnsiText.h"
 #include "folivar/document/ByteTraits.h"
 #include "folivar/document/Global.h"
@@ -8,13 +10,30 @@
 #include "folivar/textbox/TextLayout.h"
 
 namespace folivar {
+namespace {
+
+//   0 0 0 rg
+//   /F0 6.5  Tf
+//   -1  Ts
+std::string BeginningOf(const LaidFormat& format) {
+  const FontMetrics metrics = format.Metrics();
+  const std::int32_t color = format.Color();
+  PDFText text;
+  text.Append(RedShare(color), GreenShare(color), BlueShare(color), "rg\n",
+              std::string_view(metrics.Face().m_PDFName), " ", Real{metrics.EffectiveSize()},
+              " Tf\n");
+  if (metrics.IsRaisedOrLowered()) text.Append(Real{metrics.Rise()}, " Ts\n");
+  return std::string(text.Bytes());
+}
+
+}  // namespace
 
 //   % Begin Textbox
 //   q
 //   0 0 0 RG              AppendFrame
 //   ...
 //   BT
-//   74  709  Td
+//   74 709  Td
 //   0 0 0 rg              AppendSegment
 //   /F0 10  Tf
 //   (a first line ) Tj
@@ -39,7 +58,10 @@ void TextBoxRenderer::Render(std::string_view ownContent, const AnsiText& text,
   AppendFrame();
   content_.Append("BT\n");
   TextLayout layout(text.Bytes(), runs, geometry_);
-  AppendLines(layout, !text.Traits().hasEscapes);
+  text_ = text.Bytes();
+  nextEscape_ = text.Traits().hasEscapes ? 0 : text_.size();
+  beginnings_.resize(layout.Formats().size());
+  AppendLines(layout);
   content_.Append("ET\n");
   AppendDecorations();
   AppendBorder();
@@ -82,31 +104,29 @@ void TextBoxRenderer::AppendPath() {
                   Real{-geometry_.height}, " re\n");
 }
 
-void TextBoxRenderer::AppendLines(TextLayout& layout, bool isPlain) {
+void TextBoxRenderer::AppendLines(TextLayout& layout) {
   auto line = layout.NextLine();
   if (!line) return;
   const float x = geometry_.left + geometry_.marginLeft;
   const float y = geometry_.top - line->leading - geometry_.marginTop;
   Point start{static_cast<float>(RoundHalfToEven(x)), static_cast<float>(RoundHalfToEven(y))};
   content_.Append(Real{start.x}, Real{start.y}, " Td\n");
-  AppendLine(layout, *line, start, isPlain);
+  AppendLine(layout, *line, start);
   while ((line = layout.NextLine())) {
     start.y -= line->leading;
     content_.Append(Real{line->leading}, " TL\nT*\n");
-    AppendLine(layout, *line, start, isPlain);
+    AppendLine(layout, *line, start);
   }
 }
 
-void TextBoxRenderer::AppendLine(const TextLayout& layout, const TextLine& line, Point start,
-                                 bool isPlain) {
+void TextBoxRenderer::AppendLine(const TextLayout& layout, const TextLine& line, Point start) {
   if (line.shift != 0) content_.Append(Real{line.shift}, " 0 Td\n");
   Point place{start.x + static_cast<float>(line.shift), start.y};
-  layout.ForEachSegment(line, [&](std::string_view bytes, const LaidRun& run) {
-    const PDFFont& font = *run.Run().Font;
-    AppendSegment(bytes, isPlain, font, run.Run().Color);
+  layout.ForEachSegment(line, [&](std::string_view bytes, const LaidFormat& format) {
+    AppendSegment(bytes, format);
     if (!line.isDecorated) return;
-    const float end = place.x + run.Width(bytes);
-    Decorate(font, place, end);
+    const float end = place.x + format.Width(bytes);
+    Decorate(format.Font(), place, end);
     place.x = end;
   });
   if (line.shift != 0) content_.Append(Real{-line.shift}, " 0 Td\n");
@@ -117,21 +137,19 @@ void TextBoxRenderer::AppendLine(const TextLayout& layout, const TextLine& line,
 //   -1  Ts          for sub- and superscript
 //   (text) Tj
 //   0 Ts
-void TextBoxRenderer::AppendSegment(std::string_view bytes, bool isPlain, const PDFFont& font,
-                                    std::int32_t color) {
-  const FontMetrics metrics(font);
-  const std::string_view name = metrics.Face().m_PDFName;
-  const Real size{metrics.EffectiveSize()};
-  const ColorShare red = RedShare(color);
-  const ColorShare green = GreenShare(color);
-  const ColorShare blue = BlueShare(color);
-  const Escaped text{bytes, isPlain || !TraitsOf(bytes).hasEscapes};
-  if (metrics.IsRaisedOrLowered()) {
-    content_.Append(red, green, blue, "rg\n", name, " ", size, " Tf\n", Real{metrics.Rise()},
-                    " Ts\n(", text, ") Tj\n0 Ts\n");
-  } else {
-    content_.Append(red, green, blue, "rg\n", name, " ", size, " Tf\n(", text, ") Tj\n");
-  }
+void TextBoxRenderer::AppendSegment(std::string_view bytes, const LaidFormat& format) {
+  std::string& beginning = beginnings_[format.Number()];
+  if (beginning.empty()) beginning = BeginningOf(format);
+  content_.Append(std::string_view(beginning), "(", Escaped{bytes, IsPlain(bytes)}, ") Tj\n");
+  if (format.Metrics().IsRaisedOrLowered()) content_.Append("0 Ts\n");
+}
+
+// Whether a stretch of the text holds nothing to escape. They are asked for in their order, so that
+// the text is looked through once.
+bool TextBoxRenderer::IsPlain(std::string_view bytes) {
+  const auto start = static_cast<std::size_t>(bytes.data() - text_.data());
+  if (nextEscape_ < start || nextEscape_ == 0) nextEscape_ = FindEscape(text_, start);
+  return nextEscape_ >= start + bytes.size();
 }
 
 void TextBoxRenderer::Decorate(const PDFFont& font, Point start, float end) {

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <cstdint>
+#include <cstddef>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -9,6 +10,7 @@
 namespace folivar {
 
 class AnsiText;
+class LaidFormat;
 class PDFFont;
 class PDFText;
 class RunList;
@@ -40,9 +42,10 @@ class TextBoxRenderer {
 
   void AppendFrame();
   void AppendPath();
-  void AppendLines(TextLayout& layout, bool isPlain);
-  void AppendLine(const TextLayout& layout, const TextLine& line, Point start, bool isPlain);
-  void AppendSegment(std::string_view bytes, bool isPlain, const PDFFont& font, std::int32_t color);
+  void AppendLines(TextLayout& layout);
+  void AppendLine(const TextLayout& layout, const TextLine& line, Point start);
+  void AppendSegment(std::string_view bytes, const LaidFormat& format);
+  bool IsPlain(std::string_view bytes);
   void Decorate(const PDFFont& font, Point start, float end);
   void AppendDecorations();
   void AppendBorder();
@@ -50,6 +53,9 @@ class TextBoxRenderer {
   PDFText& content_;
   const TextBoxGeometry& geometry_;
   const TextBoxFrame& frame_;
+  std::string_view text_;
+  std::size_t nextEscape_ = 0;           // of the text, as far as it has been looked for
+  std::vector<std::string> beginnings_;  // what chooses each format; empty until it is needed
   std::vector<Stroke> strokes_;
 };
 

@@ -11,10 +11,7 @@ constexpr std::string_view kWhiteSpace = "\t\n\v\f\r ";
 }  // namespace
 
 TextLayout::TextLayout(std::string_view bytes, const RunList& runs, const TextBoxGeometry& geometry)
-    : bytes_(bytes),
-      runs_(LaidRunsOf(runs, bytes.size())),
-      geometry_(geometry),
-      lineRun_(runs_.begin()) {}
+    : bytes_(bytes), runs_(runs, bytes.size()), geometry_(geometry), lineRun_(runs_.begin()) {}
 
 TextLayout::Cursor TextLayout::CursorAt(std::size_t position) const {
   return position >= lineStart_ ? lineRun_ : runs_.begin();
@@ -22,13 +19,13 @@ TextLayout::Cursor TextLayout::CursorAt(std::size_t position) const {
 
 void TextLayout::BeginLine(std::size_t start) {
   lineStart_ = start;
-  while (lineRun_->End() <= start) ++lineRun_;
+  while (lineRun_->end <= start) ++lineRun_;
 }
 
 float TextLayout::MeasureRangeWidth(Cursor& cursor, std::size_t start, std::size_t end) const {
   float width = 0;
-  ForEachPiece(cursor, start, end, [&](std::string_view piece, const LaidRun& run) {
-    if (piece != "\n") width += run.Width(piece);
+  ForEachPiece(cursor, start, end, [&](std::string_view piece, const LaidFormat& format) {
+    if (piece != "\n") width += format.Width(piece);
   });
   return width;
 }
@@ -40,8 +37,8 @@ float TextLayout::MeasureRangeWidth(std::size_t start, std::size_t end) const {
 
 LineMeasures TextLayout::MeasureLine(std::size_t start, std::size_t end) const {
   LineMeasures line;
-  ForEachPiece(start, end, [&](std::string_view piece, const LaidRun& run) {
-    const FontMetrics font = run.Metrics();
+  ForEachPiece(start, end, [&](std::string_view piece, const LaidFormat& format) {
+    const FontMetrics font = format.Metrics();
     float width = 0;
     float height = 0;
     font.Face().MeasureExtents(piece, width, height);
@@ -65,41 +62,35 @@ std::size_t TextLayout::FindParagraphEnd(std::size_t start) {
   return paragraphEnd_;
 }
 
-// Adds the width of the word that begins at `start` and returns its end: behind the next blank, at
-// most `end`. The same as finding the end and measuring the range, in one walk: most of the time
+// Finds each word, up to its blank, and measures it in one walk over its pieces: most of the time
 // that laying out takes goes by here.
-std::size_t TextLayout::TakeWord(Cursor& cursor, std::size_t start, std::size_t end,
-                                 float& width) const {
-  float wordWidth = 0;
-  std::size_t position = start;
-  for (char byte = 0; byte != ' ' && position < end;) {
-    while (cursor->End() <= position) ++cursor;
-    const LaidRun& run = *cursor;
-    const std::size_t pieceStart = position;
-    const std::size_t pieceEnd = std::min(end, run.End());
-    float pieceWidth = 0;
-    do {
-      byte = bytes_[position++];
-      pieceWidth += run.Width(byte);
-    } while (byte != ' ' && position < pieceEnd);
-    if (byte != '\n' || position > pieceStart + 1) wordWidth += run.Shown(pieceWidth);
-  }
-  width += wordWidth;
-  return position;
-}
-
 std::size_t TextLayout::FindLineEnd(std::size_t start) {
   const std::size_t paragraphEnd = FindParagraphEnd(start);
   if (!geometry_.wordWrap) return paragraphEnd;
   const double available =
       RoundHalfToEven(geometry_.width - geometry_.marginLeft - geometry_.marginRight);
-  auto cursor = CursorAt(start);
   float width = 0;
+  float wordWidth = 0;
+  std::size_t wordStart = start;
   std::size_t position = start;
-  while (position < paragraphEnd) {
-    const std::size_t wordEnd = TakeWord(cursor, position, paragraphEnd, width);
-    if (width >= available) return position == start ? wordEnd : position;
-    position = wordEnd;
+  for (auto run = CursorAt(start); position < paragraphEnd; ++run) {
+    const LaidFormat& format = runs_.FormatOf(*run);
+    const std::size_t runEnd = std::min(paragraphEnd, run->end);
+    while (position < runEnd) {
+      const std::size_t pieceStart = position;
+      float pieceWidth = 0;
+      char byte = 0;
+      do {
+        byte = bytes_[position++];
+        pieceWidth += format.Width(byte);
+      } while (byte != ' ' && position < runEnd);
+      if (byte != '\n' || position > pieceStart + 1) wordWidth += format.Shown(pieceWidth);
+      if (byte != ' ' && position < paragraphEnd) break;  // the word goes on in the next run
+      width += wordWidth;
+      if (width >= available) return wordStart == start ? position : wordStart;
+      wordWidth = 0;
+      wordStart = position;
+    }
   }
   return paragraphEnd;
 }
@@ -123,11 +114,11 @@ std::optional<TextLine> TextLayout::NextLine() {
   if (next_ >= bytes_.size()) return std::nullopt;
   BeginLine(next_);
   TextLine line{next_, FindLineEnd(next_), 0, 0, false};
-  ForEachPiece(line.start, line.end, [&](std::string_view, const LaidRun& run) {
-    line.leading = MaxOf(line.leading, run.Leading());
-    line.isDecorated = line.isDecorated || run.IsDecorated();
+  ForEachPiece(line.start, line.end, [&](std::string_view, const LaidFormat& format) {
+    line.leading = MaxOf(line.leading, format.Leading());
+    line.isDecorated = line.isDecorated || format.IsDecorated();
   });
-  line.shift = RoundHalfToEven(AlignmentShift(line.start, line.end, lineRun_->Run().Alignment));
+  line.shift = RoundHalfToEven(AlignmentShift(line.start, line.end, lineRun_->alignment));
   next_ = line.end;
   return line;
 }

@@ -61,12 +61,15 @@ class TextLayout {
   // The next line, from the first on; nothing behind the last.
   std::optional<TextLine> NextLine();
 
-  // Visits the text of a line as the runs cut it, each piece with its run, without the "\n".
+  // The formats that ForEachSegment tells of.
+  const std::vector<LaidFormat>& Formats() const { return runs_.Formats(); }
+
+  // Visits the text of a line as the runs cut it, each piece with its format, without the "\n".
   template <class Visit>
   void ForEachSegment(const TextLine& line, Visit visit) const {
-    ForEachPiece(line.start, line.end, [&](std::string_view piece, const LaidRun& run) {
+    ForEachPiece(line.start, line.end, [&](std::string_view piece, const LaidFormat& format) {
       if (piece.back() == '\n') piece.remove_suffix(1);
-      if (!piece.empty()) visit(piece, run);
+      if (!piece.empty()) visit(piece, format);
     });
   }
 
@@ -74,15 +77,15 @@ class TextLayout {
   TextExtents Measure();
 
  private:
-  using Cursor = std::vector<LaidRun>::const_iterator;
+  using Cursor = LaidRuns::Iterator;
 
   // `cursor` is at the run that holds `start`, or before it, and is left at the last one visited.
   template <class Visit>
   void ForEachPiece(Cursor& cursor, std::size_t start, std::size_t end, Visit visit) const {
     while (start < end) {
-      while (cursor->End() <= start) ++cursor;
-      const std::size_t pieceEnd = std::min(end, cursor->End());
-      visit(bytes_.substr(start, pieceEnd - start), *cursor);
+      while (cursor->end <= start) ++cursor;
+      const std::size_t pieceEnd = std::min(end, cursor->end);
+      visit(bytes_.substr(start, pieceEnd - start), runs_.FormatOf(*cursor));
       start = pieceEnd;
     }
   }
@@ -93,12 +96,11 @@ class TextLayout {
   }
   Cursor CursorAt(std::size_t position) const;
   float MeasureRangeWidth(Cursor& cursor, std::size_t start, std::size_t end) const;
-  std::size_t TakeWord(Cursor& cursor, std::size_t start, std::size_t end, float& width) const;
   void BeginLine(std::size_t start);
   std::size_t FindParagraphEnd(std::size_t start);
 
   std::string_view bytes_;
-  const std::vector<LaidRun> runs_;
+  const LaidRuns runs_;
   const TextBoxGeometry& geometry_;
   std::size_t lineStart_ = 0;      // of the line taken last,
   Cursor lineRun_;                 // and the run that holds it

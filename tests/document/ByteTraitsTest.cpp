@@ -24,6 +24,24 @@ TEST(ByteTraits, TellOfAByteWhereverItStands) {
   }
 }
 
+TEST(ByteTraits, TheFirstEscapeIsFoundWhereverItStands) {
+  for (const std::size_t length : {1U, 7U, 8U, 17U, 33U}) {
+    for (std::size_t place = 0; place < length; ++place) {
+      for (int value = 0; value < 256; ++value) {
+        const char byte = static_cast<char>(value);
+        std::string text(length, 'x');
+        text[place] = byte;
+        text += '(';
+        const bool isEscaped = byte == '\\' || byte == '(' || byte == ')';
+        EXPECT_EQ(FindEscape(text, 0), isEscaped ? place : length) << value;
+        EXPECT_EQ(FindEscape(text, place + 1), length) << value;
+        EXPECT_EQ(FindEscape(text, length + 1), length + 1);
+      }
+    }
+  }
+  EXPECT_EQ(FindEscape("text", 0), 4U);
+}
+
 TEST(ByteTraits, NoTextHasNone) {
   const ByteTraits traits = TraitsOf("");
   EXPECT_FALSE(traits.hasHighBytes);

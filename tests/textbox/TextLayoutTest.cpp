@@ -237,8 +237,8 @@ TEST(TextLayout, SegmentsAreCutWhereTheRunChangesAndNowhereElse) {
   TextLayout layout = laid.Layout();
   std::vector<std::string> segments;
   while (const auto line = layout.NextLine()) {
-    layout.ForEachSegment(*line, [&](std::string_view bytes, const LaidRun& run) {
-      segments.push_back(run.Run().Font->FontFace().Utf8() + ":" + std::string(bytes));
+    layout.ForEachSegment(*line, [&](std::string_view bytes, const LaidFormat& format) {
+      segments.push_back(format.Font().FontFace().Utf8() + ":" + std::string(bytes));
     });
   }
   EXPECT_EQ(segments, (Lines{"Helvetica:one  ", "Courier:two\t(3)", "Helvetica:4"}));
