@@ -1,6 +1,5 @@
 #include "folivar/document/ByteTraits.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -58,7 +57,9 @@ std::size_t FindEscape(std::string_view bytes, std::size_t from) {
     std::memcpy(&word, bytes.data() + place, sizeof word);
     if ((Escapes(word) & kHighBits) != 0) break;
   }
-  return std::min(bytes.find_first_of("\\()", place), bytes.size());
+  const auto isEscaped = [](char byte) { return byte == '\\' || byte == '(' || byte == ')'; };
+  while (place < bytes.size() && !isEscaped(bytes[place])) ++place;
+  return place;
 }
 
 }  // namespace folivar

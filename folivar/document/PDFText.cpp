@@ -74,17 +74,15 @@ void PDFText::Grow(std::size_t size) {
   capacity_ = capacity;
 }
 
-std::size_t PDFText::SizeBound(const Escaped& text) {
-  if (text.isPlain) return text.bytes.size();
+std::size_t PDFText::BoundOfEscaped(std::string_view bytes) {
   // Room for a backslash before every byte, unless that would be much.
-  if (text.bytes.size() <= kLargeText) return 2 * text.bytes.size();
-  return text.bytes.size() +
-         static_cast<std::size_t>(std::count_if(text.bytes.begin(), text.bytes.end(), NeedsEscape));
+  if (bytes.size() <= kLargeText) return 2 * bytes.size();
+  return bytes.size() +
+         static_cast<std::size_t>(std::count_if(bytes.begin(), bytes.end(), NeedsEscape));
 }
 
-char* PDFText::Put(char* out, const Escaped& text) {
-  if (text.isPlain) return Put(out, text.bytes);
-  for (const char byte : text.bytes) {
+char* PDFText::PutEscaped(char* out, std::string_view bytes) {
+  for (const char byte : bytes) {
     if (NeedsEscape(byte)) *out++ = '\\';
     *out++ = byte;
   }

@@ -94,7 +94,9 @@ class PDFText {
   static std::size_t SizeBound(ColorShare) { return kLongestColorShare; }
   static std::size_t SizeBound(Reference) { return kLongestInteger + 4; }
   static std::size_t SizeBound(TenDigits) { return 10; }
-  static std::size_t SizeBound(const Escaped& text);
+  static std::size_t SizeBound(const Escaped& text) {
+    return text.isPlain ? text.bytes.size() : BoundOfEscaped(text.bytes);
+  }
   template <std::integral Integer>
   static std::size_t SizeBound(Integer) {
     static_assert(!std::same_as<Integer, bool> && !std::same_as<Integer, char>);
@@ -117,7 +119,9 @@ class PDFText {
     return Put(Put(out, reference.objectNumber), " 0 R");
   }
   static char* Put(char* out, TenDigits number) { return WriteTenDigits(out, number.value); }
-  static char* Put(char* out, const Escaped& text);
+  static char* Put(char* out, const Escaped& text) {
+    return text.isPlain ? Put(out, text.bytes) : PutEscaped(out, text.bytes);
+  }
   template <std::integral Integer>
   static char* Put(char* out, Integer number) {
     if (std::cmp_less(number, 0)) {
@@ -126,6 +130,9 @@ class PDFText {
     }
     return WriteDecimal(out, static_cast<std::uint32_t>(number));
   }
+
+  static std::size_t BoundOfEscaped(std::string_view bytes);
+  static char* PutEscaped(char* out, std::string_view bytes);
 
   // Room for `size` more bytes behind the last one.
   char* Room(std::size_t size) {

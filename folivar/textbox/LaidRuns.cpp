@@ -11,6 +11,7 @@ LaidFormat::LaidFormat(const TEXT_FORMAT_RANGE& run, std::size_t number)
   characters_ = &face_->Characters();
   size_ = metrics.EffectiveSize();
   leading_ = metrics.Leading();
+  isRaisedOrLowered_ = metrics.IsRaisedOrLowered();
   isDecorated_ = font_->Underline() || font_->StrikeOut();
 }
 

@@ -29,6 +29,7 @@ class LaidFormat {
   FontMetrics Metrics() const { return FontMetrics(*font_); }
   float Leading() const { return leading_; }
   bool IsDecorated() const { return isDecorated_; }
+  bool IsRaisedOrLowered() const { return isRaisedOrLowered_; }
 
   // The width of one character as the sums that Shown takes have it: thousandths of the em.
   float Width(char byte) const { return (*characters_)[static_cast<unsigned char>(byte)].width; }
@@ -47,6 +48,7 @@ class LaidFormat {
   float size_;  // that text is shown in
   float leading_;
   bool isDecorated_;
+  bool isRaisedOrLowered_;
 };
 
 // A run that has text.

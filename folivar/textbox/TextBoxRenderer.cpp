@@ -141,7 +141,7 @@ void TextBoxRenderer::AppendSegment(std::string_view bytes, const LaidFormat& fo
   std::string& beginning = beginnings_[format.Number()];
   if (beginning.empty()) beginning = BeginningOf(format);
   content_.Append(std::string_view(beginning), "(", Escaped{bytes, IsPlain(bytes)}, ") Tj\n");
-  if (format.Metrics().IsRaisedOrLowered()) content_.Append("0 Ts\n");
+  if (format.IsRaisedOrLowered()) content_.Append("0 Ts\n");
 }
 
 // Whether a stretch of the text holds nothing to escape. They are asked for in their order, so that

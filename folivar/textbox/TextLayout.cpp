@@ -79,13 +79,14 @@ std::size_t TextLayout::FindLineEnd(std::size_t start) {
     while (position < runEnd) {
       const std::size_t pieceStart = position;
       float pieceWidth = 0;
-      char byte = 0;
-      do {
-        byte = bytes_[position++];
+      while (position < runEnd) {
+        const char byte = bytes_[position++];
         pieceWidth += format.Width(byte);
-      } while (byte != ' ' && position < runEnd);
-      if (byte != '\n' || position > pieceStart + 1) wordWidth += format.Shown(pieceWidth);
-      if (byte != ' ' && position < paragraphEnd) break;  // the word goes on in the next run
+        if (byte == ' ') break;
+      }
+      const char last = bytes_[position - 1];
+      if (last != '\n' || position > pieceStart + 1) wordWidth += format.Shown(pieceWidth);
+      if (last != ' ' && position < paragraphEnd) break;  // the word goes on in the next run
       width += wordWidth;
       if (width >= available) return wordStart == start ? position : wordStart;
       wordWidth = 0;
