@@ -18,6 +18,8 @@ class TextBoxModel {
  public:
   struct Font {
     float size = 10;
+    bool bold = false;
+    bool italic = false;
     bool underline = false;
     bool strikeOut = false;
     bool subscript = false;

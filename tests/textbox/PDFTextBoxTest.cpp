@@ -7,10 +7,12 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "folivar/folivar.h"
 #include "tests/support/Content.h"
+#include "tests/support/FakeFonts.h"
 #include "tests/support/Random.h"
 #include "tests/support/SavedDocument.h"
 #include "tests/support/TextBoxModel.h"
@@ -698,6 +700,23 @@ TEST_F(PDFTextBoxTest, WhatIsOutOfStepIsDrawnAndSaved) {
 // rules.
 class EditedTextBox : public PDFTextBoxTest {
  protected:
+  // In a family whose styles the document has all got.
+  EditedTextBox() {
+    const auto fonts = std::make_shared<FakeFonts>();
+    fonts->AddFamily("Sans");
+    for (const char* style : {"Bold", "Italic", "BoldItalic"}) {
+      fonts->faces["Sans," + std::string(style)] = fonts->faces.at("Sans");
+    }
+    document_ = PDFDocument::Create({.systemFonts = fonts});
+    page_ = document_->Pages()->Add();
+    page_->SetFont(document_->Fonts()->Add("Sans", fontTrueType));
+    const auto styled = page_->Font()->Clone();
+    styled->SetBold(true);
+    styled->SetItalic(true);
+    page_->Font()->Clone()->SetItalic(true);
+    box_ = page_->TextBoxes()->Add();
+  }
+
   std::u16string RandomText() {
     static constexpr char16_t kUnits[] = u"ab \n\rxyz";
     std::u16string text;
@@ -720,7 +739,7 @@ class EditedTextBox : public PDFTextBoxTest {
   void ChangeFormat() {
     const bool flag = random_.Chance(50);
     const auto number = static_cast<std::int32_t>(random_.Below(3));
-    switch (random_.Below(6)) {
+    switch (random_.Below(8)) {
       case 0:
         box_->SetSelColor(number);
         return model_.ChangeSelection([&](auto& run) { run.color = number; });
@@ -735,6 +754,12 @@ class EditedTextBox : public PDFTextBoxTest {
         box_->SetSelStrikeOut(flag);
         return model_.ChangeSelection([&](auto& run) { run.font->strikeOut = flag; });
       case 4:
+        box_->SetSelBold(flag);
+        return model_.ChangeSelection([&](auto& run) { run.font->bold = flag; });
+      case 5:
+        box_->SetSelItalic(flag);
+        return model_.ChangeSelection([&](auto& run) { run.font->italic = flag; });
+      case 6:
         box_->SetSelSubscript(flag);
         return model_.ChangeSelection([&](auto& run) { run.font->subscript = flag; });
       default:
@@ -744,12 +769,32 @@ class EditedTextBox : public PDFTextBoxTest {
   }
 
   void SetFont() {
-    const auto font = document_->Fonts()->Add("Helvetica");
+    const auto font = page_->Font()->Clone();
     font->SetUnderline(random_.Chance(50));
     const auto modelFont = std::make_shared<TextBoxModel::Font>();
     modelFont->underline = font->Underline();
     box_->SetSelFont(font);
     model_.ChangeSelection([&](auto& run) { run.font = modelFont; });
+  }
+
+  // Asks for the font of the selection, which is the same object whenever it is the same one there.
+  void HoldFont() {
+    const auto run = model_.Selected();
+    const auto font = box_->SelFont();
+    ASSERT_EQ(font != nullptr, run.has_value());
+    if (!run) return;
+    for (const auto& [held, modelHeld] : held_) {
+      EXPECT_EQ(font == held, run->font == modelHeld);
+    }
+    held_.emplace_back(font, run->font);
+    if (held_.size() > 10) held_.erase(held_.begin());
+  }
+
+  void ChangeHeldFont() {
+    if (held_.empty()) return;
+    const auto& [font, modelFont] = held_[random_.Below(held_.size())];
+    modelFont->size = static_cast<float>(random_.Below(3));
+    font->SetSize(modelFont->size);
   }
 
   void SetText() {
@@ -790,13 +835,14 @@ class EditedTextBox : public PDFTextBoxTest {
     EXPECT_EQ(box_->SelLength(), model_.SelLength());
     EXPECT_EQ(box_->SelText().Utf16(), model_.SelText());
     const auto run = model_.Selected();
-    EXPECT_EQ(box_->SelFont() != nullptr, run.has_value());
     EXPECT_EQ(box_->SelFontSize(), run ? run->font->size : 0);
     EXPECT_EQ(box_->SelAlignment(), run ? run->alignment : alignNULL);
     EXPECT_EQ(box_->SelOneColor(), run ? std::optional(run->color) : std::nullopt);
     const auto flag = [&](bool TextBoxModel::Font::*which) {
       return run ? std::optional((*run->font).*which) : std::nullopt;
     };
+    EXPECT_EQ(box_->IsSelBold(), flag(&TextBoxModel::Font::bold));
+    EXPECT_EQ(box_->IsSelItalic(), flag(&TextBoxModel::Font::italic));
     EXPECT_EQ(box_->IsSelUnderline(), flag(&TextBoxModel::Font::underline));
     EXPECT_EQ(box_->IsSelStrikeOut(), flag(&TextBoxModel::Font::strikeOut));
     EXPECT_EQ(box_->IsSelSubscript(), flag(&TextBoxModel::Font::subscript));
@@ -805,6 +851,7 @@ class EditedTextBox : public PDFTextBoxTest {
 
   Random random_;
   TextBoxModel model_;
+  std::vector<std::pair<std::shared_ptr<PDFFont>, std::shared_ptr<TextBoxModel::Font>>> held_;
 };
 
 TEST_F(EditedTextBox, FollowsTheRules) {
@@ -826,7 +873,10 @@ TEST_F(EditedTextBox, FollowsTheRules) {
       CopyThereAndBack();
     } else if (what < 98) {
       SetText();
+    } else {
+      HoldFont();
     }
+    if (random_.Chance(5)) ChangeHeldFont();
     ExpectSame();
     mostRuns = std::max(mostRuns, model_.RunCount());
     if (model_.Text().size() > 60 || random_.Chance(1)) StartAnew();

@@ -15,12 +15,15 @@
 
 #include "folivar/folivar.h"
 #include "tests/support/AfmFile.h"
+#include "tests/support/FreeTypeFace.h"
+#include "tests/support/PackagedFonts.h"
 #include "tests/support/Random.h"
 #include "tests/support/SavedDocument.h"
+#include "tests/support/TestFiles.h"
 #include "tests/support/Tools.h"
 
 // Where poppler finds the words of a text box, against places computed here, in double precision,
-// from the metrics files.
+// from the metrics files and, for TrueType faces, from what FreeType reads.
 
 namespace folivar::test {
 namespace {
@@ -29,35 +32,81 @@ constexpr double kTolerance = 0.01;  // points
 constexpr double kPageHeight = 792;
 
 struct Style {
-  std::string_view face;
+  std::string_view face;  // a standard face, or the end of the name of a file of Liberation Serif
   double size;
   double scale = 1;  // of the size that is shown
   double rise = 0;   // shares of the size
+  bool isTrueType = false;
+
+  bool IsBold() const { return isTrueType && face.starts_with("Bold"); }
+  bool IsItalic() const { return isTrueType && face.ends_with("Italic"); }
 };
 
-constexpr std::array<Style, 6> kStyles = {{{"Helvetica", 10},
-                                           {"Times-Bold", 14.5},
-                                           {"Courier", 8},
-                                           {"Helvetica-Oblique", 11},
-                                           {"Times-Roman", 12, 0.65, 0.35},
-                                           {"Times-Roman", 12, 0.65, -0.1}}};
+constexpr auto kStyles = std::to_array<Style>({
+    {"Helvetica", 10},
+    {"Times-Bold", 14.5},
+    {"Courier", 8},
+    {"Helvetica-Oblique", 11},
+    {"Times-Roman", 12, 0.65, 0.35},
+    {"Times-Roman", 12, 0.65, -0.1},
+    {"Regular", 11, 1, 0, true},
+    {"Bold", 13.25, 1, 0, true},
+    {"Italic", 9.5, 1, 0, true},
+    {"BoldItalic", 12, 1, 0, true},
+    {"Bold", 16, 0.65, -0.1, true},
+});
 
-const AfmFile& Metrics(const Style& style) {
-  static std::map<std::string_view, AfmFile> files;
-  const auto [file, isNew] = files.try_emplace(style.face);
-  if (isNew) file->second = ReadAfmFile(style.face);
-  return file->second;
+std::filesystem::path FileOf(const Style& style) {
+  return PackagedFont("liberation/LiberationSerif-" + std::string(style.face) + ".ttf");
+}
+
+// In thousandths of the em; of the characters of ASCII.
+struct Metrics {
+  std::map<char, double> widths;
+  double leading;
+};
+
+Metrics MetricsOfAfm(const Style& style) {
+  const AfmFile file = ReadAfmFile(style.face);
+  const auto box = file.header.at("FontBBox");
+  Metrics metrics{{}, box[3] - box[1]};
+  for (const auto& [byte, glyph] : file.glyphs)
+    metrics.widths[static_cast<char>(byte)] = glyph.width;
+  return metrics;
+}
+
+// As FreeType reads the file; the box has whole thousandths, cut off.
+Metrics MetricsOfFile(const Style& style) {
+  const FreeTypeFace file(ReadBytes(FileOf(style)));
+  const auto thousandths = [&](int units) { return units * 1000 / file.UnitsPerEm(); };
+  Metrics metrics{{}, static_cast<double>(thousandths(file.Box()[3]) - thousandths(file.Box()[1]))};
+  const auto widths = file.Widths();
+  for (std::size_t code = 32; code < 127; ++code) {
+    metrics.widths[static_cast<char>(code)] = widths.at(code);
+  }
+  return metrics;
+}
+
+const Metrics& MetricsOf(const Style& style) {
+  static std::map<std::string_view, Metrics> known;
+  const auto [metrics, isNew] = known.try_emplace(style.face);
+  if (isNew) metrics->second = style.isTrueType ? MetricsOfFile(style) : MetricsOfAfm(style);
+  return metrics->second;
 }
 
 double WidthOf(std::string_view text, const Style& style) {
   double width = 0;
-  for (const char byte : text) width += Metrics(style).glyphs.at(byte).width;
+  for (const char byte : text) width += MetricsOf(style).widths.at(byte);
   return width * style.size * style.scale / 1000;
 }
 
-double LeadingOf(const Style& style) {
-  const auto box = Metrics(style).header.at("FontBBox");
-  return (box[3] - box[1]) * style.size / 1000;
+double LeadingOf(const Style& style) { return MetricsOf(style).leading * style.size / 1000; }
+
+// Upright and light for TrueType styles: SetStyle does the rest.
+std::shared_ptr<PDFFont> PlainFontOf(PDFDocument& document, const Style& style) {
+  const bool embed = true;
+  return style.isTrueType ? document.Fonts()->Add("Liberation Serif", fontTrueType, embed)
+                          : document.Fonts()->Add(style.face);
 }
 
 // A word, where it begins and ends, and how far its top is from the top of the page.
@@ -113,6 +162,11 @@ std::vector<Paragraph> RandomParagraphs(Random& random) {
   return paragraphs;
 }
 
+void SetStyle(PDFTextBox& box, const Style& style) {
+  if (style.IsBold()) box.SetSelBold(true);
+  if (style.IsItalic()) box.SetSelItalic(true);
+}
+
 // Words are parted by blanks and paragraphs by line ends, in the style of the word before.
 void Fill(PDFTextBox& box, const std::vector<Paragraph>& paragraphs,
           const std::map<const Style*, std::shared_ptr<PDFFont>>& fonts) {
@@ -130,7 +184,8 @@ void Fill(PDFTextBox& box, const std::vector<Paragraph>& paragraphs,
       const auto length = static_cast<std::int32_t>(word.text.size() + 1);
       box.SetSelStart(start);
       box.SetSelLength(length);
-      box.SetSelFont(fonts.at(word.style));
+      box.SetSelFont(fonts.at(word.style)->Clone());
+      SetStyle(box, *word.style);
       start += length;
     }
     box.SetSelStart(paragraphStart + 1);
@@ -186,9 +241,12 @@ TEST(TextBoxPlacement, EveryWordIsWhereTheMetricsPutIt) {
   Random random;
   SCOPED_TRACE(random.Trace());
   const auto document = PDFDocument::Create();
+  for (const Style& style : kStyles) {
+    if (style.isTrueType) document->FontFiles()->AddFile(FileOf(style).u8string());
+  }
   std::map<const Style*, std::shared_ptr<PDFFont>> fonts;
   for (const Style& style : kStyles) {
-    const auto font = document->Fonts()->Add(style.face);
+    const auto font = PlainFontOf(*document, style);
     font->SetSize(static_cast<float>(style.size));
     font->SetSubscript(style.rise < 0);
     font->SetSuperscript(style.rise > 0);
@@ -199,10 +257,12 @@ TEST(TextBoxPlacement, EveryWordIsWhereTheMetricsPutIt) {
   const auto samples = document->Pages()->Add();
   constexpr double kSampleBaseline = 100;
   for (std::size_t style = 0; style < kStyles.size(); ++style) {
-    const auto font = document->Fonts()->Add(kStyles[style].face);
+    const auto font = PlainFontOf(*document, kStyles[style]);
+    if (kStyles[style].IsBold()) font->SetBold(true);
+    if (kStyles[style].IsItalic()) font->SetItalic(true);
     font->SetSize(static_cast<float>(kStyles[style].size * kStyles[style].scale));
     samples->SetFont(font);
-    samples->DrawText("sample" + std::to_string(style), 90 * static_cast<float>(style), 100);
+    samples->DrawText("sample" + std::to_string(style), 54 * static_cast<float>(style), 100);
   }
 
   struct Filled {
