@@ -70,6 +70,7 @@ PDFTextBox::PDFTextBox(const Internal&, std::weak_ptr<Object> parent,
     : key_(std::move(key)), parent_(std::move(parent)), parentSurface_(std::move(parentSurface)) {
   RunFont font = RunFont::CloneOf(*parentSurface_->Font());
   geometry_.width = font->TextWidth("W");
+  // Deliberate: the height is the descender's depth and the margins, too little for a line.
   geometry_.height =
       geometry_.top - font->Descender() + geometry_.marginTop + geometry_.marginBottom;
   runs_ = std::make_unique<TextRuns>(std::move(font));

@@ -55,9 +55,9 @@ class FOLIVAR_API PDFTextBox final : public Tagged {
   float Right() const;
   void SetRight(float right);
 
-  // At first as wide as a "W" in the default font, and as high as its descender is deep plus both
-  // margins. A negative width extends the box to the left, a negative height upwards; what is kept
-  // is positive.
+  // At first as wide as a "W" in the default font, and, deliberate, only as high as its descender
+  // is deep plus both margins. A negative width extends the box to the left, a negative height
+  // upwards; what is kept is positive.
   float Width() const { return geometry_.width; }
   void SetWidth(float width);
   float Height() const { return geometry_.height; }
@@ -139,8 +139,8 @@ class FOLIVAR_API PDFTextBox final : public Tagged {
   void SetSelText(TextView text);
 
   // The formats of the selection, or of the caret: where text is in one format, that is one run.
-  // A selection that spans runs, even of the same format, has no font (null), size 0, colour and
-  // flags Null, and alignment alignNULL.
+  // Deliberate: a selection that spans runs, even of the same format, has no font (null), size 0,
+  // colour and flags Null, and alignment alignNULL.
   //
   // Setting a format gives it to exactly the selection. A caret gets an empty run, which text set
   // through SelText takes up. A setter that fails leaves the text and its formats as they look,

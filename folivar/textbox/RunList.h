@@ -69,31 +69,6 @@ class RunList {
     for (const Block& block : blocks_) std::for_each(block.runs.begin(), block.runs.end(), visit);
   }
 
-  // A walk over the runs, from the first on.
-  class Cursor {
-   public:
-    explicit Cursor(const RunList& list) : list_(&list) {}
-    const TEXT_FORMAT_RANGE& operator*() const {
-      return list_->blocks_[spot_.block].runs[spot_.index];
-    }
-    bool IsLast() const {
-      return spot_.block + 1 == list_->blocks_.size() &&
-             spot_.index + 1 == list_->blocks_[spot_.block].runs.size();
-    }
-    // Not behind the last one.
-    Cursor& operator++() {
-      if (++spot_.index == list_->blocks_[spot_.block].runs.size()) {
-        ++spot_.block;
-        spot_.index = 0;
-      }
-      return *this;
-    }
-
-   private:
-    const RunList* list_;
-    Spot spot_{0, 0};
-  };
-
  private:
   struct Block {
     std::vector<TEXT_FORMAT_RANGE> runs;  // never empty

@@ -72,7 +72,7 @@ TEST_F(PDFTextBoxTest, StartsWithTheDefaults) {
   EXPECT_EQ(box_->Left(), 0);
   EXPECT_EQ(box_->Top(), 0);
   EXPECT_FLOAT_EQ(box_->Width(), 9.44F);
-  EXPECT_FLOAT_EQ(box_->Height(), 6.07F) << "the descender's depth and both margins";
+  EXPECT_FLOAT_EQ(box_->Height(), 6.07F);
   EXPECT_FLOAT_EQ(box_->Bottom(), -6.07F);
   EXPECT_FLOAT_EQ(box_->Right(), 9.44F);
   EXPECT_EQ(box_->MarginLeft(), 2);
@@ -91,6 +91,12 @@ TEST_F(PDFTextBoxTest, StartsWithTheDefaults) {
   EXPECT_EQ(box_->SelText(), "");
   EXPECT_TRUE(box_->Tag().IsEmpty());
   EXPECT_EQ(box_->GraphicsState(), box_->GraphicsState());
+}
+
+TEST_F(PDFTextBoxTest, DeliberateTheFirstHeightIsTheDescendersDepthAndTheMargins) {
+  EXPECT_FLOAT_EQ(box_->Height(), 2.07F + 2 + 2);
+  page_->Font()->SetSize(20);
+  EXPECT_FLOAT_EQ(page_->TextBoxes()->Add()->Height(), 4.14F + 2 + 2);
 }
 
 TEST_F(PDFTextBoxTest, StartsAsOneRunInACopyOfTheParentsFont) {

@@ -67,6 +67,18 @@ TEST(RunList, PositionsBeyondTheRunsAreTheLastRuns) {
   ExpectPlace(list.FindEnd({0, 0}, 100), 1, 3);
 }
 
+TEST(RunList, TheFirstPieceOfARunIsTheRunItself) {
+  RunList list = ListOf({3, 4, 5});
+  list.Split(1, std::vector<std::int32_t>{1, 0, 3});
+  EXPECT_EQ(list.Count(), 5U);
+  ExpectPlace(list.FindStart(4), 2, 4);
+  EXPECT_EQ(list[3].Length, 3);
+  EXPECT_EQ(list[3].Color, 1);
+  list.Split(4, std::vector<std::int32_t>{7});
+  EXPECT_EQ(list.Count(), 5U);
+  EXPECT_EQ(list[4].Length, 7);
+}
+
 TEST(RunList, WhatWasFoundLastIsForgottenWithItsRun) {
   RunList list = ListOf({3, 4, 5});
   ExpectPlace(list.FindStart(9), 2, 7);
@@ -112,15 +124,11 @@ class Model {
 void ExpectSame(const RunList& list, const Model& model) {
   ASSERT_EQ(list.Count(), model.runs.size());
   std::size_t index = 0;
-  RunList::Cursor cursor(list);
   list.ForEach([&](const TEXT_FORMAT_RANGE& run) {
     ASSERT_EQ(run.Color, model.runs[index].Color) << index;
     ASSERT_EQ(run.Length, model.runs[index].Length) << index;
-    ASSERT_EQ(&*cursor, &run);
     ASSERT_EQ(&list[index], &run);
     ++index;
-    ASSERT_EQ(cursor.IsLast(), index == model.runs.size());
-    if (!cursor.IsLast()) ++cursor;
   });
 }
 
@@ -155,6 +163,17 @@ TEST(RunList, IsTheSameAsAVector) {
     const std::size_t changed = random.Below(model.runs.size());
     model.runs[changed].Length = static_cast<std::int32_t>(random.Below(4));
     list.SetLength(changed, model.runs[changed].Length);
+
+    const std::size_t cut = random.Below(model.runs.size());
+    std::vector<std::int32_t> lengths;
+    for (std::size_t count = isGrowing ? 1 + random.Below(3) : 1; count > 0; --count) {
+      lengths.push_back(static_cast<std::int32_t>(random.Below(4)));
+    }
+    model.runs.insert(at(cut), lengths.size() - 1, TEXT_FORMAT_RANGE(model.runs[cut]));
+    for (std::size_t piece = 0; piece < lengths.size(); ++piece) {
+      model.runs[cut + piece].Length = lengths[piece];
+    }
+    list.Split(cut, lengths);
 
     const std::size_t from = random.Below(model.runs.size());
     const std::size_t to = from + random.Below(model.runs.size() - from + 1);

@@ -124,6 +124,13 @@ TEST_F(TextBoxRendererTest, AnOpaqueBoxIsFilledBehindItsText) {
             "Q\n% End Textbox\n");
 }
 
+TEST_F(TextBoxRendererTest, DeliberateTheClipPathOfABoxWithBorderIsStroked) {
+  frame_.backStyle = bsOpaque;
+  EXPECT_NE(Rendered().find("re\nW\ns\n72  720  m\n72  720  100  -50  re\nf\n"), std::string::npos);
+  frame_.borderWidth = 0;
+  EXPECT_NE(Rendered().find("re\nW\nn\n72  720  m\n72  720  100  -50  re\nf\n"), std::string::npos);
+}
+
 TEST_F(TextBoxRendererTest, ABackStyleNotListedIsTransparent) {
   frame_.backStyle = static_cast<PDFBackGroundStyle>(2);
   EXPECT_EQ(Rendered().find("rg\n"), std::string::npos);
