@@ -2,11 +2,9 @@
 
 #include <folivar/folivar.h>
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 // What a document is set in.
 struct Typeface {
@@ -16,11 +14,6 @@ struct Typeface {
   // Where the family is looked for before the system's fonts.
   std::shared_ptr<folivar::FontFiles> files = std::make_shared<folivar::FontFiles>();
 };
-
-// A family that is looked for in these folders first. What is no usable font there is named in a
-// warning and left out.
-Typeface FindTypeface(const std::string& family, const std::vector<std::string>& folders,
-                      const std::function<void(std::string_view)>& warn);
 
 // "there are characters beyond ASCII, which Helvetica shows wrongly or not at all; ..."
 std::string StandardFaceNotice(std::string_view standardFace);

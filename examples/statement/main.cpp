@@ -3,8 +3,6 @@
 #include <folivar/folivar.h>
 
 #include <algorithm>
-#include <exception>
-#include <iostream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,26 +10,18 @@
 #include "PageSize.h"
 #include "Statement.h"
 #include "StatementLayout.h"
+#include "common/FontOptions.h"
 #include "common/InputText.h"
+#include "common/Program.h"
 #include "common/Typeface.h"
 #include "common/UsageError.h"
 
 namespace {
 
-constexpr std::string_view kUsage =
+constexpr Program kProgram = {
+    "statement",
     "usage: statement [--page-size a4|letter|a5|legal] [--holder NAME]\n"
-    "                 [--font NAME [--font-folder FOLDER]...] INPUT.csv OUTPUT.pdf";
-
-void Warn(std::string_view notice) { std::cerr << "statement: " << notice << '\n'; }
-
-struct Options {
-  PageSize pageSize = kPageSizes.front();
-  std::string holder = "Harbour Lane Bookbinders";
-  std::string family;
-  std::vector<std::string> fontFolders;
-  std::string input;
-  std::string output;
-};
+    "                 [--font NAME [--font-folder FOLDER]...] INPUT.csv OUTPUT.pdf"};
 
 const PageSize& PageSizeNamed(std::string_view name) {
   const auto found = std::find_if(kPageSizes.begin(), kPageSizes.end(),
@@ -42,38 +32,6 @@ const PageSize& PageSizeNamed(std::string_view name) {
   return *found;
 }
 
-Options ParseOptions(const std::vector<std::string>& arguments) {
-  Options options;
-  std::vector<std::string> files;
-  for (auto argument = arguments.begin(); argument != arguments.end(); ++argument) {
-    const auto value = [&] {
-      const std::string& name = *argument;
-      if (++argument == arguments.end()) throw UsageError(name + " lacks its value");
-      return *argument;
-    };
-    if (*argument == "--page-size") {
-      options.pageSize = PageSizeNamed(value());
-    } else if (*argument == "--holder") {
-      options.holder = value();
-    } else if (*argument == "--font") {
-      options.family = value();
-    } else if (*argument == "--font-folder") {
-      options.fontFolders.push_back(value());
-    } else if (argument->starts_with("--")) {
-      throw UsageError("there is no option " + *argument);
-    } else {
-      files.push_back(*argument);
-    }
-  }
-  if (options.family.empty() && !options.fontFolders.empty()) {
-    throw UsageError("--font-folder is of no use without --font");
-  }
-  if (files.size() != 2) throw UsageError("an input and an output file are needed");
-  options.input = files[0];
-  options.output = files[1];
-  return options;
-}
-
 bool IsPlain(const Statement& statement, const std::string& holder) {
   const auto& entries = statement.entries;
   return IsAscii(holder) && std::all_of(entries.begin(), entries.end(), [](const Entry& entry) {
@@ -81,25 +39,26 @@ bool IsPlain(const Statement& statement, const std::string& holder) {
          });
 }
 
+void WriteStatement(const std::vector<std::string>& arguments) {
+  PageSize pageSize = kPageSizes.front();
+  std::string holder = "Harbour Lane Bookbinders";
+  FontOptions font;
+  Options options = {
+      {"--page-size", [&](const std::string& value) { pageSize = PageSizeNamed(value); }},
+      {"--holder", [&](const std::string& value) { holder = value; }}};
+  font.AddTo(options);
+  const auto files = ReadOptions(arguments, options);
+  if (files.size() != 2) throw UsageError("an input and an output file are needed");
+  const Typeface typeface = FindTypeface(font, kProgram);
+  const Statement statement = ReadStatement(files[0]);
+  if (font.family.empty() && !IsPlain(statement, holder)) {
+    kProgram.Warn(StandardFaceNotice("Helvetica"));
+  }
+  LayOutStatement(statement, holder, pageSize, typeface)->SavePDFFile(files[1]);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  try {
-    const Options options = ParseOptions({argv + 1, argv + argc});
-    const Statement statement = ReadStatement(options.input);
-    if (options.family.empty() && !IsPlain(statement, options.holder)) {
-      Warn(StandardFaceNotice("Helvetica"));
-    }
-    const Typeface typeface = FindTypeface(options.family, options.fontFolders, Warn);
-    LayOutStatement(statement, options.holder, options.pageSize, typeface)
-        ->SavePDFFile(options.output);
-    return 0;
-  } catch (const UsageError& error) {
-    Warn(error.what());
-    std::cerr << kUsage << '\n';
-    return 2;
-  } catch (const std::exception& error) {
-    std::cerr << error.what() << '\n';
-    return 1;
-  }
+  return kProgram.Run([&] { WriteStatement({argv + 1, argv + argc}); });
 }
