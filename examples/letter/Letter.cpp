@@ -41,7 +41,11 @@ const std::string& TextOfColumn(const Span& span, const Block& block, const std:
   return record[static_cast<std::size_t>(found - columns.begin())];
 }
 
-bool MayEndPage(const Piece& piece) {
+// Whether a page may end behind a piece. Headings stay with what they are above.
+bool MayEndPage(std::span<const Piece> pieces, std::size_t index) {
+  if (index + 1 == pieces.size()) return true;
+  const Piece& piece = pieces[index];
+  if (piece.isHeading || (piece.isGap && pieces[index - 1].isHeading)) return false;
   return piece.text.ends_with(' ') || piece.text.ends_with('\n');
 }
 
@@ -50,11 +54,23 @@ bool HaveSameFormat(const Piece& a, const Piece& b) {
          a.isGap == b.isGap;
 }
 
+std::string_view StandardFaceOf(const Piece& piece) {
+  if (piece.isHeading) return "Helvetica-Bold";
+  if (piece.isBold) return piece.isItalic ? "Times-BoldItalic" : "Times-Bold";
+  return piece.isItalic ? "Times-Italic" : "Times-Roman";
+}
+
+float SizeOf(const Piece& piece) {
+  if (piece.isHeading) return kHeadingSize;
+  return piece.isGap ? kGapSize : kTextSize;
+}
+
 class LetterLayout {
  public:
-  explicit LetterLayout(std::span<const Piece> pieces) : pieces_(pieces) {
+  LetterLayout(std::span<const Piece> pieces, const Typeface& typeface)
+      : pieces_(pieces), typeface_(typeface), document_(MakeDocument(typeface)) {
     for (std::size_t index = 0; index < pieces.size(); ++index) {
-      if (MayEndPage(pieces[index]) || index + 1 == pieces.size()) ends_.push_back(index + 1);
+      if (MayEndPage(pieces, index)) ends_.push_back(index + 1);
     }
   }
 
@@ -134,21 +150,14 @@ class LetterLayout {
     }
   }
 
-  // Every style of the standard faces is a face of its own, so a style is set as a font.
   std::shared_ptr<PDFFont> FontOf(const Piece& piece) {
-    std::string_view face = "Times-Roman";
-    if (piece.isBold) face = piece.isItalic ? "Times-BoldItalic" : "Times-Bold";
-    if (!piece.isBold && piece.isItalic) face = "Times-Italic";
-    float size = kTextSize;
-    if (piece.isGap) size = kGapSize;
-    if (piece.isHeading) {
-      face = "Helvetica-Bold";
-      size = kHeadingSize;
-    }
-    auto& font = fonts_[{face, size}];
+    auto& font = fonts_[{StandardFaceOf(piece), SizeOf(piece)}];
     if (!font) {
-      font = document_->Fonts()->Add(face);
-      font->SetSize(size);
+      font = AddUpright(*document_, typeface_, StandardFaceOf(piece));
+      font->SetSize(SizeOf(piece));
+      // Every style of the standard faces is a face of its own, which this leaves as it is.
+      if (piece.isBold || piece.isHeading) font->SetBold(true);
+      if (piece.isItalic && !piece.isHeading) font->SetItalic(true);
     }
     return font;
   }
@@ -156,8 +165,10 @@ class LetterLayout {
   void NumberPages() {
     const auto pages = document_->Pages();
     if (pages->count() < 2) return;
+    const auto font = AddUpright(*document_, typeface_, "Helvetica");
     int number = 0;
     for (const auto& page : *pages) {
+      page->SetFont(font);
       page->DrawTextAligned(
           "Page " + std::to_string(++number) + " of " + std::to_string(pages->count()), kLeft,
           kFooter, kWidth, 0, folivar::htaCenter);
@@ -165,9 +176,10 @@ class LetterLayout {
   }
 
   std::span<const Piece> pieces_;
+  const Typeface& typeface_;
   std::vector<std::size_t> ends_;  // where a page may end
   std::size_t start_ = 0;          // of the next page
-  std::shared_ptr<PDFDocument> document_ = PDFDocument::Create();
+  std::shared_ptr<PDFDocument> document_;
   std::map<std::pair<std::string_view, float>, std::shared_ptr<PDFFont>> fonts_;
 };
 
@@ -209,6 +221,7 @@ std::vector<Piece> PiecesFor(const std::vector<Block>& blocks, const std::string
   return pieces;
 }
 
-std::shared_ptr<PDFDocument> LayOutLetter(const std::vector<Piece>& pieces) {
-  return LetterLayout(pieces).LayOut();
+std::shared_ptr<PDFDocument> LayOutLetter(const std::vector<Piece>& pieces,
+                                          const Typeface& typeface) {
+  return LetterLayout(pieces, typeface).LayOut();
 }

@@ -8,9 +8,10 @@
 
 #include "Markup.h"
 #include "Recipients.h"
+#include "common/Typeface.h"
 
 // What is printed: a stretch of text in one style that is not broken, with the blank or line end
-// behind it, if any. Pages break behind a blank or a line end.
+// behind it, if any. Pages break behind a blank or a line end, but not below a heading.
 struct Piece {
   std::string text;  // UTF-8
   bool isBold = false;
@@ -27,4 +28,5 @@ std::vector<Piece> PiecesFor(const std::vector<Block>& blocks, const std::string
                              const std::vector<std::string>& record);
 
 // A document of as many pages as the letter needs.
-std::shared_ptr<folivar::PDFDocument> LayOutLetter(const std::vector<Piece>& pieces);
+std::shared_ptr<folivar::PDFDocument> LayOutLetter(const std::vector<Piece>& pieces,
+                                                   const Typeface& typeface);

@@ -102,7 +102,55 @@ nothing_is_below_the_box() {
 }
 check "a long letter: nothing below the box" nothing_is_below_the_box out/letter-001.pdf
 
+### In a family of TrueType fonts
+
+use_fonts_of "$liberation"
+# writes_in_family <folder> [<option>...]
+writes_in_family() {
+  local folder=$1
+  shift
+  rm -rf "$folder"
+  says "" "$letter" --font "Liberation Serif" "$@" "$data/letter.txt" "$data/recipients.csv" \
+    "$folder"
+}
+check "a family: runs without a notice" writes_in_family family
+for pdf in family/*.pdf; do
+  check "$pdf: sound" is_sound "$pdf"
+  check "$pdf: its faces, embedded" embeds "$pdf" "LiberationSerif" "LiberationSerif,Bold" \
+    "LiberationSerif,BoldItalic" "LiberationSerif,Italic"
+  check "$pdf: page numbers" same "$(pdftotext "$pdf" - | grep '^Page ' | xargs)" \
+    "Page 1 of 2 Page 2 of 2"
+done
+sed "s/’/'/g" due.txt >plain.txt
+check "a family: every word, in its order" diff plain.txt <(words_of family/letter-003.pdf)
+# The last line of the first page, above its number.
+last_line() { pdftotext -l 1 -layout "$1" - | sed '/^ *$/d; /Page 1/,$d' | tail -n 1; }
+for pdf in letters/letter-003.pdf family/letter-003.pdf; do
+  check "$pdf: no heading is left behind" test ! \
+    "$(grep -cxF "# $(last_line "$pdf")" "$data/letter.txt")" -gt 0
+done
+check "a family: again" writes_in_family again
+check "a family: the same bytes" diff -r family again
+check "a font folder: runs" writes_in_family again --font-folder "$liberation"
+check "a font folder: the same bytes" diff -r family again
+
+printf 'Za\305\272\303\263\305\202\304\207 caf\303\251\n' >text.txt
+notice='letter: there are characters beyond ASCII, which Times shows wrongly or not at all;'
+notice+=' --font NAME embeds a TrueType font that has them'
+check "beyond ASCII without a font: a notice" says "$notice" "$letter" text.txt one.csv out
+check "beyond ASCII with a font: none" says "" "$letter" --font "Liberation Sans" text.txt one.csv out
+check "accents come back" same "$(words_of out/letter-001.pdf | tail -n 1)" "café"
+
 ### What is refused
+
+"$letter" text.txt one.csv >stdout.log 2>stderr.log
+check "no folder: refused" same "exit code $?" "exit code 2"
+check "no folder: the reason" same "$(head -n 1 stderr.log)" \
+  "letter: a text, a file of recipients and an output folder are needed"
+"$letter" --font-folder "$liberation" text.txt one.csv out >stdout.log 2>stderr.log
+check "a font folder without a font: refused" same "exit code $?" "exit code 2"
+check "a font folder without a font: the reason" same "$(head -n 1 stderr.log)" \
+  "letter: --font-folder is of no use without --font"
 
 check "a column that there is not" fails_with "text.txt:3: the recipients have no column 'town'" \
   write 'a\n\nb\n{town}\n'
