@@ -12,6 +12,7 @@
 #include "folivar/page/PDFTemplate.h"
 #include "tests/support/BmpFile.h"
 #include "tests/support/Content.h"
+#include "tests/support/Picture.h"
 #include "tests/support/SavedDocument.h"
 #include "tests/support/Tools.h"
 
@@ -590,8 +591,8 @@ void ExpectSamePictures(const SavedDocument& a, const SavedDocument& b, const Sa
   const auto picturesOfB = PicturesOf(b.path, dotsPerInch);
   const auto blanks = PicturesOf(blank.path, dotsPerInch);
   for (std::size_t i = 0; i < picturesOfA.size(); ++i) {
-    EXPECT_TRUE(picturesOfA[i].bytes == picturesOfB[i].bytes) << picturesOfA[i].program;
-    EXPECT_FALSE(picturesOfA[i].bytes == blanks[i].bytes) << picturesOfA[i].program;
+    EXPECT_TRUE(picturesOfA[i].pixels == picturesOfB[i].pixels) << picturesOfA[i].program;
+    EXPECT_FALSE(picturesOfA[i].pixels == blanks[i].pixels) << picturesOfA[i].program;
   }
 }
 
@@ -670,11 +671,10 @@ TEST_F(PDFTemplatePictures, NothingShowsOutsideTheClipBox) {
     page.DrawTemplate(square, 50, 50);
   });
   for (const Picture& picture : PicturesOf(placed.path, 72)) {
-    const std::string_view dots =
-        std::string_view(picture.bytes).substr(picture.bytes.size() - 300 * 250 * 3);
+    ASSERT_EQ(picture.pixels.rgb.size(), 300U * 250 * 3);
     for (std::size_t row = 0; row < 250; ++row) {
       for (std::size_t column = 0; column < 300; ++column) {
-        const std::string_view dot = dots.substr((row * 300 + column) * 3, 3);
+        const std::string_view dot = picture.pixels.At(column, row);
         const std::size_t above = 249 - row;  // points from the bottom
         if (column < 69 || column > 110 || above < 79 || above > 140) {
           ASSERT_EQ(dot, "\xFF\xFF\xFF") << picture.program << " at " << column << ", " << above;

@@ -1,7 +1,7 @@
 #include "tests/support/PictureSheet.h"
 
+#include "tests/support/Picture.h"
 #include "tests/support/TestFiles.h"
-#include "tests/support/Tools.h"
 
 namespace folivar::test {
 namespace {
@@ -35,7 +35,7 @@ void PictureSheet::SaveTo(std::string_view name) {
   path_ = OutputPath(name);
   document_->SavePDFFile(path_.u8string());
   for (const Picture& picture : PicturesOf(path_, 72 * kDots)) {
-    pages_.push_back(ReadPnm(picture.bytes));
+    pages_.push_back(picture.pixels);
   }
 }
 

@@ -84,11 +84,13 @@ Pixels ReadPnm(std::string_view bytes) {
   if (samples.size() != row * pixels.height) {
     throw std::runtime_error("a portable picture of the wrong length");
   }
+  if (bits == 24) {
+    pixels.rgb = samples;
+    return pixels;
+  }
   for (std::size_t y = 0; y < pixels.height; ++y) {
     for (std::size_t x = 0; x < pixels.width; ++x) {
-      if (bits == 24) {
-        pixels.rgb += samples.substr(y * row + 3 * x, 3);
-      } else if (bits == 8) {
+      if (bits == 8) {
         pixels.rgb.append(3, samples[y * row + x]);
       } else {
         const bool isBlack = (samples[y * row + x / 8] >> (7 - x % 8) & 1) != 0;
@@ -102,6 +104,22 @@ Pixels ReadPnm(std::string_view bytes) {
 std::string PpmOf(const Pixels& pixels) {
   return "P6\n" + std::to_string(pixels.width) + " " + std::to_string(pixels.height) + "\n255\n" +
          pixels.rgb;
+}
+
+Pixels Reduced(const Pixels& pixels, std::size_t side) {
+  Pixels reduced{pixels.width / side, pixels.height / side};
+  const std::size_t row = 3 * reduced.width;
+  for (std::size_t y = 0; y < reduced.height; ++y) {
+    std::vector<std::size_t> sums(row);
+    for (std::size_t line = y * side; line < (y + 1) * side; ++line) {
+      const std::string_view bytes = std::string_view(pixels.rgb).substr(3 * line * pixels.width);
+      for (std::size_t i = 0; i < row * side; ++i) {
+        sums[i / (3 * side) * 3 + i % 3] += static_cast<unsigned char>(bytes[i]);
+      }
+    }
+    for (const std::size_t sum : sums) reduced.rgb += static_cast<char>(sum / (side * side));
+  }
+  return reduced;
 }
 
 int LargestDifference(const Pixels& a, const Pixels& b) {

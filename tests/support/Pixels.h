@@ -33,6 +33,10 @@ Pixels ReadPnm(std::string_view bytes);
 // The picture as a PPM file.
 std::string PpmOf(const Pixels& pixels);
 
+// With one pixel for each square of so many by so many: their mean, rounded down. Squares that are
+// not whole are left out.
+Pixels Reduced(const Pixels& pixels, std::size_t side);
+
 // The largest difference of any byte; 256 for pictures of different sizes.
 int LargestDifference(const Pixels& a, const Pixels& b);
 

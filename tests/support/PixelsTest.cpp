@@ -33,6 +33,12 @@ TEST(Pixels, RefuseWhatIsNoPicture) {
   }
 }
 
+TEST(Pixels, AreReducedToTheMeansOfSquares) {
+  const Pixels pixels{5, 3, "abccdeabcabcxyzabccdeabcabdxyzxyzxyzxyzxyzxyz"};
+  EXPECT_EQ(Reduced(pixels, 2), (Pixels{2, 1, "bcdabc"}));
+  EXPECT_EQ(Reduced(pixels, 1), pixels);
+}
+
 TEST(Pixels, DifferByTheirFarthestByte) {
   EXPECT_EQ(LargestDifference({1, 1, "abc"}, {1, 1, "abc"}), 0);
   EXPECT_EQ(LargestDifference({1, 1, "abc"}, {1, 1, "bbz"}), 'z' - 'c');

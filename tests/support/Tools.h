@@ -25,13 +25,4 @@ void ExpectSound(const std::filesystem::path& pdf);
 // line and "\f" behind each page.
 std::string TextOf(const std::filesystem::path& pdf);
 
-// The first page as one program draws it: a colour picture in the portable format (PPM).
-struct Picture {
-  std::string program;
-  std::string bytes;
-};
-
-// The first page as MuPDF, poppler and Ghostscript draw it, always in this order.
-std::vector<Picture> PicturesOf(const std::filesystem::path& pdf, int dotsPerInch);
-
 }  // namespace folivar::test

@@ -74,25 +74,5 @@ TEST(Tools, TextOfGivesThePagesInOrder) {
   EXPECT_EQ(TextOf(path), "first page\n\fsecond (page)\n\f");
 }
 
-TEST(Tools, PicturesOfDrawTheFirstPageInColour) {
-  const auto document = PDFDocument::Create();
-  const auto page = document->Pages()->Add();
-  page->SetPageExtents(8, 4);
-  page->GraphicsState()->SetFillColor(0x0000FF);
-  page->DrawRect(-1, -1, 9, 9, false, true);
-  document->Pages()->Add();
-  const auto path = OutputPath("red.pdf");
-  document->SavePDFFile(path.u8string());
-  std::string programs;
-  for (const Picture& picture : PicturesOf(path, 36)) {
-    programs += picture.program + " ";
-    std::string red;
-    for (int dot = 0; dot < 4 * 2; ++dot) red += {'\xFF', '\0', '\0'};
-    EXPECT_TRUE(picture.bytes.starts_with("P6\n")) << picture.program;
-    EXPECT_TRUE(picture.bytes.ends_with("4 2\n255\n" + red)) << picture.program;
-  }
-  EXPECT_EQ(programs, "mutool pdftoppm gs ");
-}
-
 }  // namespace
 }  // namespace folivar::test

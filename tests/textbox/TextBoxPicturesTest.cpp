@@ -3,13 +3,12 @@
 #include <array>
 #include <cstddef>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
 #include "folivar/folivar.h"
+#include "tests/support/Picture.h"
 #include "tests/support/SavedDocument.h"
-#include "tests/support/Tools.h"
 
 // Every combination of border, dash, background, alignment and decoration, as three programs draw
 // it. A dot is a quarter of a point.
@@ -97,12 +96,7 @@ void AddBox(PDFPage& page, const Look& look) {
 
 class Dots {
  public:
-  explicit Dots(const Picture& picture) {
-    constexpr std::size_t kSize =
-        std::size_t{3} * kPageWidth * kPageHeight * kDotsPerPoint * kDotsPerPoint;
-    if (picture.bytes.size() < kSize) throw std::runtime_error(picture.program + ": too small");
-    dots_ = std::string_view(picture.bytes).substr(picture.bytes.size() - kSize);
-  }
+  explicit Dots(const Pixels& pixels) : pixels_(pixels) {}
 
   // Whether some dot of an area, its edges in points, is dark: of the text, a stroke or a border.
   bool IsDark(double left, double bottom, double right, double top) const {
@@ -138,7 +132,7 @@ class Dots {
   std::string_view At(double x, double y) const {
     const auto column = static_cast<std::size_t>(x * kDotsPerPoint);
     const auto row = static_cast<std::size_t>((kPageHeight - y) * kDotsPerPoint);
-    return dots_.substr(3 * (row * kPageWidth * kDotsPerPoint + column), 3);
+    return pixels_.At(column, row);
   }
 
  private:
@@ -148,7 +142,7 @@ class Dots {
     return static_cast<unsigned char>(dot[index]);
   }
 
-  std::string_view dots_;
+  const Pixels& pixels_;
 };
 
 // Below the text, where nothing but the left edge is. What is drawn beyond the edge depends on the
@@ -222,7 +216,7 @@ TEST(TextBoxPictures, EveryLookIsDrawn) {
   EXPECT_EQ(page->TextBoxes()->count(), 216);
   const SavedDocument saved = Save(*document, "sheet.pdf");
   for (const Picture& picture : PicturesOf(saved.path, 72 * kDotsPerPoint)) {
-    const Dots dots(picture);
+    const Dots dots(picture.pixels);
     ForEachLook([&](const Look& look) {
       SCOPED_TRACE(picture.program + ": box at " + std::to_string(look.left) + ", " +
                    std::to_string(look.top) + ", border " + std::to_string(look.borderWidth) +
