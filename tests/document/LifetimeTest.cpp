@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <functional>
+#include <cstddef>
 #include <memory>
 #include <numeric>
-#include <vector>
+#include <tuple>
 
 #include "folivar/folivar.h"
 #include "tests/support/BmpFile.h"
@@ -17,12 +17,10 @@
 namespace folivar::test {
 namespace {
 
-// Everything that a host can hold of a document, let go of one at a time; after each release what
-// is left is used.
+// Everything that a host can hold of a document. Its parts are let go of one at a time; after each
+// release what is left is used.
 class Held {
  public:
-  static constexpr std::size_t kCount = 7;
-
   Held()
       : document_(PDFDocument::Create()),
         pages_(document_->Pages()),
@@ -34,31 +32,7 @@ class Held {
     page_->SetFont(font_);
   }
 
-  void Release(std::size_t which) {
-    switch (which) {
-      case 0:
-        document_.reset();
-        break;
-      case 1:
-        pages_.reset();
-        break;
-      case 2:
-        fonts_.reset();
-        break;
-      case 3:
-        preferences_.reset();
-        break;
-      case 4:
-        page_.reset();
-        break;
-      case 5:
-        font_.reset();
-        break;
-      default:
-        state_.reset();
-        break;
-    }
-  }
+  auto Parts() { return std::tie(document_, pages_, fonts_, preferences_, page_, font_, state_); }
 
   void UseWhatIsLeft() const {
     if (pages_) {
@@ -103,8 +77,6 @@ class Held {
 // The same of a template and of a page that shows it.
 class HeldWithTemplate {
  public:
-  static constexpr std::size_t kCount = 6;
-
   HeldWithTemplate()
       : document_(PDFDocument::Create()),
         templates_(document_->Templates()),
@@ -116,28 +88,7 @@ class HeldWithTemplate {
     page_->DrawTemplate(drawn_);
   }
 
-  void Release(std::size_t which) {
-    switch (which) {
-      case 0:
-        document_.reset();
-        break;
-      case 1:
-        templates_.reset();
-        break;
-      case 2:
-        page_.reset();
-        break;
-      case 3:
-        drawn_.reset();
-        break;
-      case 4:
-        font_.reset();
-        break;
-      default:
-        state_.reset();
-        break;
-    }
-  }
+  auto Parts() { return std::tie(document_, templates_, page_, drawn_, font_, state_); }
 
   void UseWhatIsLeft() const {
     if (templates_) {
@@ -179,8 +130,6 @@ class HeldWithTemplate {
 // The same of a text box and what it is made of.
 class HeldWithTextBox {
  public:
-  static constexpr std::size_t kCount = 6;
-
   HeldWithTextBox()
       : document_(PDFDocument::Create()),
         page_(document_->Pages()->Add()),
@@ -193,28 +142,7 @@ class HeldWithTextBox {
     box_->SetSelFont(font_);
   }
 
-  void Release(std::size_t which) {
-    switch (which) {
-      case 0:
-        document_.reset();
-        break;
-      case 1:
-        page_.reset();
-        break;
-      case 2:
-        boxes_.reset();
-        break;
-      case 3:
-        box_.reset();
-        break;
-      case 4:
-        font_.reset();
-        break;
-      default:
-        state_.reset();
-        break;
-    }
-  }
+  auto Parts() { return std::tie(document_, page_, boxes_, box_, font_, state_); }
 
   void UseWhatIsLeft() const {
     if (boxes_) {
@@ -244,16 +172,26 @@ class HeldWithTextBox {
   std::shared_ptr<PDFGraphicsState> state_;
 };
 
+template <class Parts>
+void Release(Parts parts, std::size_t which) {
+  std::size_t number = 0;
+  const auto releaseOne = [&](auto& part) {
+    if (number++ == which) part.reset();
+  };
+  std::apply([&](auto&... part) { (releaseOne(part), ...); }, parts);
+}
+
 // Returns the number of orders.
 template <class Held>
 int ReleaseInEveryOrder() {
-  std::array<std::size_t, Held::kCount> order{};
+  constexpr std::size_t kCount = std::tuple_size_v<decltype(Held().Parts())>;
+  std::array<std::size_t, kCount> order{};
   std::iota(order.begin(), order.end(), std::size_t{0});
   int orders = 0;
   do {
     Held held;
     for (const std::size_t which : order) {
-      held.Release(which);
+      Release(held.Parts(), which);
       held.UseWhatIsLeft();
     }
     ++orders;
