@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstddef>
@@ -33,6 +34,10 @@
 //
 //   Picture LoadPicture(const std::string& path);
 //   void DrawPicture(const Picture&, Rect);
+//
+// and, if text in a box can be given another colour:
+//
+//   void ColorText(std::size_t start, std::size_t length, Color);
 //
 // Lengths are points from the bottom left corner of the page. Text is in the TrueType font of the
 // font file, which is embedded; without a font file it is in Helvetica.
@@ -124,7 +129,7 @@ struct RichText {
     std::size_t length;
     bool isBold;
   };
-  std::string text;  // without parentheses and line ends
+  std::string text;  // without line ends
   std::vector<Run> runs;
 };
 
@@ -135,8 +140,8 @@ class RichTexts {
     Sequence sequence;
     for (std::size_t i = 0; i < texts_.size(); ++i) {
       RichText& rich = texts_[i];
-      for (std::size_t line = 1; rich.text.size() < kLength; ++line) {
-        if (line % 8 != 0) rich.text += lines.At(i + line) + " ";
+      for (std::size_t line = i; rich.text.size() < kLength; ++line) {
+        rich.text += lines.At(line) + " ";
       }
       rich.text.resize(kLength);
       bool isBold = false;
@@ -201,20 +206,32 @@ class Workloads {
 
   // One box of `size` texts on end.
   void Box(std::size_t size) {
-    const RichTexts texts(lines_);
-    RichText all;
-    for (std::size_t number = 0; number < size; ++number) {
-      const RichText& text = texts.At(number);
-      for (const RichText::Run& run : text.runs) {
-        all.runs.push_back({all.text.size() + run.start, run.length, run.isBold});
-      }
-      all.text += text.text;
-    }
     Document document(PathOf(0), input_);
     document.BeginPage();
-    document.FillBox(all);
+    document.FillBox(TextsOnEnd(size));
     document.EndPage();
     document.Save();
+  }
+
+  // One box of some 10,000 runs, of which `size` short stretches anywhere are then coloured.
+  void Selections(std::size_t size) {
+    if constexpr (requires(Document & document) { document.ColorText(0, 0, Color{}); }) {
+      const RichText text = TextsOnEnd(70);
+      Document document(PathOf(0), input_);
+      document.BeginPage();
+      document.FillBox(text);
+      Sequence sequence;
+      for (std::size_t number = 0; number < size; ++number) {
+        const std::size_t start = sequence.Below(static_cast<std::uint32_t>(text.text.size()));
+        const std::size_t length = std::min<std::size_t>(10, text.text.size() - start);
+        const bool isRed = number % 2 == 0;
+        document.ColorText(start, length, isRed ? Color{255, 0, 0} : Color{0, 0, 0});
+      }
+      document.EndPage();
+      document.Save();
+    } else {
+      throw std::runtime_error("There is no way to colour text in a box");
+    }
   }
 
   // `size` pages of 1,000 lines and rectangles, each with colours of its own.
@@ -259,6 +276,19 @@ class Workloads {
  private:
   std::string PathOf(std::size_t number) const {
     return folder_ + "/" + std::to_string(number) + ".pdf";
+  }
+
+  RichText TextsOnEnd(std::size_t count) const {
+    const RichTexts texts(lines_);
+    RichText all;
+    for (std::size_t number = 0; number < count; ++number) {
+      const RichText& text = texts.At(number);
+      for (const RichText::Run& run : text.runs) {
+        all.runs.push_back({all.text.size() + run.start, run.length, run.isBold});
+      }
+      all.text += text.text;
+    }
+    return all;
   }
 
   void AddTextPage(Document& document, std::size_t page, std::size_t lineCount) {
@@ -320,6 +350,8 @@ void RunNamed(std::string_view name, std::size_t size, const std::string& folder
     workloads.Rich(size);
   } else if (name == "box") {
     workloads.Box(size);
+  } else if (name == "selections") {
+    workloads.Selections(size);
   } else if (name == "vector") {
     workloads.Vector(size);
   } else if (name == "jpeg") {

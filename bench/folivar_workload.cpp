@@ -83,28 +83,38 @@ class Document {
   void FillBox(const bench::RichText& rich) {
     using bench::RichText;
     constexpr float kMargins = 4;
-    const auto box = page_->TextBoxes()->Add();
-    box->Move(RichText::kLeft, RichText::kTop, RichText::kWidth + kMargins, 700);
-    box->SetBorderWidth(0);
-    box->SetText(rich.text);
+    box_ = page_->TextBoxes()->Add();
+    box_->Move(RichText::kLeft, RichText::kTop, RichText::kWidth + kMargins, 700);
+    box_->SetBorderWidth(0);
+    box_->SetText(rich.text);
     if (!bold_) bold_ = document_->Fonts()->Add("Helvetica-Bold");
     for (const RichText::Run& run : rich.runs) {
       if (!run.isBold) continue;
-      box->SetSelStart(static_cast<std::int32_t>(run.start));
-      box->SetSelLength(static_cast<std::int32_t>(run.length));
-      box->SetSelFont(bold_);
+      Select(run.start, run.length);
+      box_->SetSelFont(bold_);
     }
+  }
+
+  void ColorText(std::size_t start, std::size_t length, bench::Color color) {
+    Select(start, length);
+    box_->SetSelColor(Packed(color));
   }
 
   void Save() { document_->SavePDFFile(path_); }
 
  private:
+  void Select(std::size_t start, std::size_t length) {
+    box_->SetSelStart(static_cast<std::int32_t>(start));
+    box_->SetSelLength(static_cast<std::int32_t>(length));
+  }
+
   std::string path_;
   std::shared_ptr<folivar::PDFDocument> document_ = folivar::PDFDocument::Create();
   std::shared_ptr<folivar::PDFFont> font_;  // null: the document's own, Helvetica 10
   std::shared_ptr<folivar::PDFPage> page_;
   std::shared_ptr<folivar::PDFGraphicsState> state_;
   std::shared_ptr<folivar::PDFTemplate> template_;
+  std::shared_ptr<folivar::PDFTextBox> box_;
   std::shared_ptr<folivar::PDFFont> bold_;
 };
 
