@@ -38,8 +38,7 @@ class StyledTextBox : public testing::Test {
       face.widths.fill(width);
       fonts_->faces["Sans," + std::string(style)] = face;
     }
-    const bool embed = true;
-    page_->SetFont(document_->Fonts()->Add("Sans", fontTrueType, embed));
+    page_->SetFont(document_->Fonts()->Add("Sans", fontTrueType));
     box_ = page_->TextBoxes()->Add();
     box_->Move(0, 700, 500, 100);
     box_->SetText("0123456789");
