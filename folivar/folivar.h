@@ -12,6 +12,7 @@
 // different threads do not disturb each other.
 
 #include "folivar/document/Error.h"
+#include "folivar/document/Event.h"
 #include "folivar/document/PDFDocument.h"
 #include "folivar/document/PDFPages.h"
 #include "folivar/document/PDFViewerPreferences.h"
@@ -22,6 +23,11 @@
 #include "folivar/fonts/PDFFonts.h"
 #include "folivar/images/PDFImage.h"
 #include "folivar/images/PDFImages.h"
+#include "folivar/navigation/PDFBookmark.h"
+#include "folivar/navigation/PDFBookmarks.h"
+#include "folivar/navigation/PDFHyperLink.h"
+#include "folivar/navigation/PDFHyperLinks.h"
+#include "folivar/navigation/PDFLinkDestination.h"
 #include "folivar/page/PDFGraphicsState.h"
 #include "folivar/page/PDFPage.h"
 #include "folivar/page/PDFTemplate.h"

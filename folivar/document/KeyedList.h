@@ -55,16 +55,25 @@ class KeyedList {
   const T& Item(const Value& index) const { return Find(index).item; }
 
   // Takes the entry out and returns its item. Raises as Item.
-  T Remove(const Value& index) {
-    Entry& entry = Find(index);
-    const Place place = PlaceOf(entry);
-    if (entry.key != nullptr) byKey_.erase(*entry.key);
-    T item = std::move(entry.item);
-    auto& entries = blocks_[place.block]->entries;
-    entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(place.index));
-    if (entries.empty()) blocks_.erase(blocks_.begin() + static_cast<std::ptrdiff_t>(place.block));
-    --count_;
-    return item;
+  T Remove(const Value& index) { return Erase(Find(index)); }
+
+  // Takes out the entry with this item, if there is one; it is looked for at `likely` first.
+  void RemoveItem(const T& item, const Value& likely) {
+    if (KeyExists(likely)) {
+      Entry& entry = Find(likely);
+      if (entry.item == item) {
+        Erase(entry);
+        return;
+      }
+    }
+    for (const auto& block : blocks_) {
+      for (const auto& entry : block->entries) {
+        if (entry->item == item) {
+          Erase(*entry);
+          return;
+        }
+      }
+    }
   }
 
   // Whether Item would succeed. Never raises; `index` is anything that makes a Value.
@@ -152,6 +161,17 @@ class KeyedList {
     while (entries[place.index].get() != &entry) ++place.index;
     place.position += place.index;
     return place;
+  }
+
+  T Erase(Entry& entry) {
+    const Place place = PlaceOf(entry);
+    if (entry.key != nullptr) byKey_.erase(*entry.key);
+    T item = std::move(entry.item);
+    auto& entries = blocks_[place.block]->entries;
+    entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(place.index));
+    if (entries.empty()) blocks_.erase(blocks_.begin() + static_cast<std::ptrdiff_t>(place.block));
+    --count_;
+    return item;
   }
 
   // Inserts, or changes nothing when memory runs out. `position` counts from 0.

@@ -16,6 +16,7 @@
 #include "folivar/fonts/PDFFont.h"
 #include "folivar/fonts/PDFFonts.h"
 #include "folivar/images/PDFImages.h"
+#include "folivar/navigation/PDFBookmarks.h"
 #include "folivar/navigation/PDFOutline.h"
 #include "folivar/page/PDFTemplates.h"
 
@@ -40,10 +41,12 @@ void PDFDocument::Initialise() {
   const std::shared_ptr<PDFFont> defaultFont = fonts_->Add("Helvetica");
   pages_ = std::make_shared<PDFPages>(Internal(), Shared<PDFDocument>(), defaultFont);
   images_ = std::make_shared<PDFImages>(Internal(), Shared<PDFDocument>());
-  outline_ = std::make_shared<PDFOutline>();
+  outline_ = std::make_shared<PDFOutline>(pages_);
   catalog_ = std::make_shared<PDFCatalog>(outline_, pages_);
   templates_ = std::make_shared<PDFTemplates>(Internal(), Shared<PDFDocument>(), defaultFont);
 }
+
+std::shared_ptr<PDFBookmarks> PDFDocument::Bookmarks() const { return outline_->Bookmarks(); }
 
 std::shared_ptr<PDFViewerPreferences> PDFDocument::ViewerPreferences() const {
   return catalog_->ViewerPreferences();

@@ -10,6 +10,7 @@
 namespace folivar {
 
 class Internal;
+class PDFBookmarks;
 class PDFCatalog;
 class PDFFonts;
 class PDFImages;
@@ -41,6 +42,8 @@ class FOLIVAR_API PDFDocument final : public Tagged {
   std::shared_ptr<PDFFonts> Fonts() const { return fonts_; }
   std::shared_ptr<PDFTemplates> Templates() const { return templates_; }
   std::shared_ptr<PDFImages> Images() const { return images_; }
+  // The top level of the outline.
+  std::shared_ptr<PDFBookmarks> Bookmarks() const;
   std::shared_ptr<PDFViewerPreferences> ViewerPreferences() const;
 
   // The font files that the document takes TrueType faces from before the system's: those of its

@@ -30,7 +30,19 @@ std::shared_ptr<PDFPage> PDFPages::Add(TextView key, const Value& before, const 
   return page;
 }
 
-void PDFPages::Remove(const Value& indexOrKey) { members_.Remove(indexOrKey); }
+void PDFPages::Remove(const Value& indexOrKey) {
+  if (const std::exception_ptr thrown = RemovePage(indexOrKey)) std::rethrow_exception(thrown);
+}
+
+std::exception_ptr PDFPages::RemovePage(const Value& indexOrKey) {
+  const auto self = Shared<PDFPages>();  // handlers may let go of it
+  const std::shared_ptr<PDFPage> page = members_.Item(indexOrKey);
+  std::exception_ptr thrown = page->RaisePageRemoved(Internal());
+  // By now it may stand elsewhere, or be removed already.
+  members_.RemoveItem(page, indexOrKey);
+  page->ForgetObjectNumber(Internal());
+  return thrown;
+}
 
 void PDFPages::NumberObjects(ObjectNumbers& numbers) {
   treeNodeNumber_ = numbers.Take();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <exception>
 #include <memory>
 
 #include "folivar/document/Api.h"
@@ -30,21 +31,29 @@ class FOLIVAR_API PDFPages final : public Object, public ObjectWriter, public Me
   std::shared_ptr<PDFPage> Add(TextView key = {}, const Value& before = {},
                                const Value& after = {});
 
-  // Takes a page out of the document; who holds it may still use it. Raises as Item.
+  // Takes a page out of the document; who holds it may still use it. First the page raises
+  // PageRemoved, whose handlers may do anything, removing pages included; what one of them throws
+  // comes out of here once the page is removed. Raises as Item.
   void Remove(const Value& indexOrKey);
 
   // Moves the page with this key to the place named, or to the end. Never raises: an unknown key
   // changes nothing. When both places are given, `after` is ignored; a page whose new place does
-  // not exist, counted without the page, stays removed.
+  // not exist, counted without the page, stays removed. Deliberate: to be moved, the page is
+  // removed, with PageRemoved, so that destinations no longer lead to it; what handlers throw is
+  // dropped.
   template <class Before = Value, class After = Value>
   void ReOrder(TextView key, const Before& before = {}, const After& after = {}) noexcept {
-    MoveMember(key, before, after, [this](const Value& name) { Remove(name); });
+    MoveMember(key, before, after,
+               [self = Shared<PDFPages>()](const Value& name) { self->RemovePage(name); });
   }
 
   // The page tree's object number in the save in progress.
   std::int32_t TreeNodeNumber(const Internal&) const { return treeNodeNumber_; }
 
  private:
+  // Returns what the first handler threw that did.
+  std::exception_ptr RemovePage(const Value& indexOrKey);
+
   // ObjectWriter
   void NumberObjects(ObjectNumbers& numbers) override;
   void WriteObjects(SaveFile& file) override;

@@ -1,19 +1,90 @@
 #include "folivar/navigation/PDFOutline.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+#include "folivar/document/Internal.h"
 #include "folivar/document/ObjectNumbers.h"
+#include "folivar/document/PDFText.h"
 #include "folivar/document/SaveFile.h"
+#include "folivar/navigation/PDFBookmark.h"
+#include "folivar/navigation/PDFBookmarks.h"
 
 namespace folivar {
 
-void PDFOutline::NumberObjects(ObjectNumbers& numbers) { objectNumber_ = numbers.Take(); }
+const std::shared_ptr<PDFBookmarks>& PDFOutline::Bookmarks() {
+  if (!bookmarks_) bookmarks_ = std::make_shared<PDFBookmarks>(Internal());
+  return bookmarks_;
+}
+
+// The bookmarks are laid out in a row, so that nothing depends on how deep they lie.
+void PDFOutline::NumberObjects(ObjectNumbers& numbers) {
+  struct Waiting {
+    std::shared_ptr<PDFBookmark> bookmark;
+    std::int32_t parent;
+  };
+  std::vector<Waiting> waiting;  // the next one last
+  const auto wait = [&](const std::shared_ptr<PDFBookmarks>& bookmarks, std::int32_t parent) {
+    if (!bookmarks) return;
+    const std::size_t start = waiting.size();
+    bookmarks->ForEach(Internal(), [&](const std::shared_ptr<PDFBookmark>& bookmark) {
+      waiting.push_back({bookmark, parent});
+    });
+    std::reverse(waiting.begin() + static_cast<std::ptrdiff_t>(start), waiting.end());
+  };
+
+  objectNumber_ = numbers.Take();
+  numbered_.assign(1, {});
+  wait(bookmarks_, objectNumber_);
+  while (!waiting.empty()) {
+    const auto [bookmark, parentNumber] = std::move(waiting.back());
+    waiting.pop_back();
+    const std::int32_t number = numbers.Take();
+    OutlinePlace& parent = At(parentNumber).place;
+    const std::int32_t previous = std::exchange(parent.last, number);
+    if (previous == 0) {
+      parent.first = number;
+    } else {
+      At(previous).place.next = number;
+    }
+    numbered_.push_back({bookmark, {.parent = parentNumber, .previous = previous}});
+    wait(bookmark->MadeSubBookmarks(Internal()), number);
+  }
+
+  // From the last to the first, so that those below a bookmark are counted before it is.
+  for (std::size_t i = numbered_.size() - 1; i > 0; --i) {
+    const Numbered& counted = numbered_[i];
+    std::int32_t& visible = At(counted.place.parent).place.visibleCount;
+    visible += 1 + (counted.bookmark->Expanded() ? counted.place.visibleCount : 0);
+  }
+}
 
 //   2 0 obj
 //   << /Type /Outlines
+//   /First 3 0 R
+//   /Last 7 0 R
+//   /Count 4
 //   >>
 //   endobj
 void PDFOutline::WriteObjects(SaveFile& file) {
-  file.BeginObject(objectNumber_).Append("<< /Type /Outlines\n>>\n");
+  const OutlinePlace& root = numbered_.front().place;
+  PDFText& text = file.BeginObject(objectNumber_);
+  text.Append("<< /Type /Outlines\n");
+  if (root.first != 0) {
+    text.Append("/First ", Reference{root.first}, "\n/Last ", Reference{root.last}, "\n/Count ",
+                root.visibleCount, "\n");
+  }
+  text.Append(">>\n");
   file.EndObject();
+
+  std::int32_t number = objectNumber_;
+  for (std::size_t i = 1; i < numbered_.size(); ++i) {
+    numbered_[i].bookmark->BuildBookmarkText(Internal(), file.BeginObject(++number),
+                                             numbered_[i].place, pages_);
+    file.EndObject();
+  }
+  numbered_ = {};
 }
 
 }  // namespace folivar

@@ -13,6 +13,7 @@
 #include "folivar/document/SaveFile.h"
 #include "folivar/fonts/PDFFont.h"
 #include "folivar/images/PDFImage.h"
+#include "folivar/navigation/PDFHyperLinks.h"
 #include "folivar/page/Drawing.h"
 #include "folivar/page/PDFGraphicsState.h"
 #include "folivar/page/PDFTemplate.h"
@@ -20,6 +21,11 @@
 #include "folivar/textbox/PDFTextBoxes.h"
 
 namespace folivar {
+namespace {
+
+ObjectWriter& AsWriter(const std::shared_ptr<PDFHyperLinks>& links) { return *links; }
+
+}  // namespace
 
 PDFPage::PDFPage(const Internal& internal, std::weak_ptr<PDFPages> parent,
                  std::weak_ptr<PDFDocument> document, std::shared_ptr<PDFFont> font, Text key)
@@ -61,6 +67,11 @@ std::shared_ptr<PDFTextBoxes> PDFPage::TextBoxes() {
     textBoxes_ = std::make_shared<PDFTextBoxes>(Internal(), Shared<PDFPage>(), surface_);
   }
   return textBoxes_;
+}
+
+std::shared_ptr<PDFHyperLinks> PDFPage::HyperLinks() {
+  if (!hyperLinks_) hyperLinks_ = std::make_shared<PDFHyperLinks>(Internal(), parent_);
+  return hyperLinks_;
 }
 
 void PDFPage::DrawText(TextView text, float x, float y) {
@@ -115,9 +126,22 @@ void PDFPage::DrawTemplate(const std::shared_ptr<PDFTemplate>& placed, const Val
   InMember("PDFPage.DrawTemplate", [&] { Drawing(*surface_).DrawTemplate(placed, x, y); });
 }
 
+bool PDFPage::IsNumberedIn(const Internal&, const std::weak_ptr<PDFPages>& pages) const {
+  return objectNumber_ != 0 && !parent_.owner_before(pages) && !pages.owner_before(parent_);
+}
+
+std::exception_ptr PDFPage::RaisePageRemoved(const Internal& internal) {
+  if (isBeingRemoved_) return nullptr;
+  isBeingRemoved_ = true;
+  std::exception_ptr thrown = pageRemoved_.Raise(internal, *this);
+  isBeingRemoved_ = false;
+  return thrown;
+}
+
 void PDFPage::NumberObjects(ObjectNumbers& numbers) {
   objectNumber_ = numbers.Take();
   contentNumber_ = numbers.Take();
+  if (hyperLinks_) AsWriter(hyperLinks_).NumberObjects(numbers);
 }
 
 void PDFPage::WriteObjects(SaveFile& file) {
@@ -127,6 +151,7 @@ void PDFPage::WriteObjects(SaveFile& file) {
   PDFText& textBoxes = file.Draft();
   if (textBoxes_) textBoxes_->Render(Internal(), textBoxes);
   WriteContentStream(file, textBoxes.Bytes());
+  if (hyperLinks_) AsWriter(hyperLinks_).WriteObjects(file);
 }
 
 //   4 0 obj
@@ -139,6 +164,7 @@ void PDFPage::WriteObjects(SaveFile& file) {
 //   /Font << /F0 6 0 R
 //    >>
 //   >>
+//   /Annots [ 6 0 R 7 0 R ]
 //   /Thumb 9 0 R
 //   >>
 //   endobj
@@ -154,6 +180,7 @@ void PDFPage::BuildPageObject(PDFText& text) const {
   }
   text.Append("/Contents ", Reference{contentNumber_}, "\n/Resources ");
   surface_->ResourceDictionary().BuildResourceText(text);
+  if (hyperLinks_) hyperLinks_->AppendAnnots(Internal(), text);
   if (const XObject* thumbnail = thumbnail_.get()) {
     text.Append("/Thumb ", Reference{thumbnail->ObjectNumber(Internal())}, "\n");
   }

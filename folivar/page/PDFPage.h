@@ -1,10 +1,12 @@
 #pragma once
 
 #include <cstdint>
+#include <exception>
 #include <memory>
 #include <string_view>
 
 #include "folivar/document/Api.h"
+#include "folivar/document/Event.h"
 #include "folivar/document/ObjectWriter.h"
 #include "folivar/document/Tagged.h"
 #include "folivar/document/Text.h"
@@ -18,6 +20,7 @@ class Internal;
 class PDFDocument;
 class PDFFont;
 class PDFGraphicsState;
+class PDFHyperLinks;
 class PDFImage;
 class PDFPages;
 class PDFTemplate;
@@ -66,6 +69,13 @@ class FOLIVAR_API PDFPage final : public Tagged, public ObjectWriter {
   // page, whatever its graphics state.
   std::shared_ptr<PDFTextBoxes> TextBoxes();
 
+  // Made on first use; the same object each time.
+  std::shared_ptr<PDFHyperLinks> HyperLinks();
+
+  // Raised by PDFPages::Remove and PDFPages::ReOrder, with this page, while it still is among the
+  // pages. It is removed whatever handlers do or throw.
+  Event<PDFPage&>& PageRemoved() { return pageRemoved_; }
+
   // Draws text with its first baseline starting at (x, y). "\n", "\r\n" and "\r" begin a new line,
   // one leading further down. Underline and strikeout of the font are drawn as lines, which move
   // the pen.
@@ -111,6 +121,13 @@ class FOLIVAR_API PDFPage final : public Tagged, public ObjectWriter {
 
   // The page's object number in the save in progress.
   std::int32_t ObjectNumber(const Internal&) const { return objectNumber_; }
+  // Whether the page is one of `pages`, and has been numbered with them.
+  bool IsNumberedIn(const Internal&, const std::weak_ptr<PDFPages>& pages) const;
+
+  // For PDFPages, around the page's removal. The first exception that a handler threw is returned.
+  // A page whose handlers are being called calls nobody.
+  std::exception_ptr RaisePageRemoved(const Internal&);
+  void ForgetObjectNumber(const Internal&) { objectNumber_ = 0; }
 
  private:
   // ObjectWriter
@@ -127,10 +144,13 @@ class FOLIVAR_API PDFPage final : public Tagged, public ObjectWriter {
   std::shared_ptr<PDFGraphicsState> graphicsState_;
   std::shared_ptr<PDFImage> thumbnail_;
   std::shared_ptr<PDFTextBoxes> textBoxes_;
+  std::shared_ptr<PDFHyperLinks> hyperLinks_;
+  Event<PDFPage&> pageRemoved_;
   float width_ = 612;
   float height_ = 792;
   ClipBox clipBox_{-1, -1, -1, -1};
-  std::int32_t objectNumber_ = 0;
+  bool isBeingRemoved_ = false;
+  std::int32_t objectNumber_ = 0;  // 0 for a page that is not among a document's pages
   std::int32_t contentNumber_ = 0;
 };
 

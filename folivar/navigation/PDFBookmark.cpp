@@ -1,0 +1,73 @@
+#include "folivar/navigation/PDFBookmark.h"
+
+#include <string>
+#include <utility>
+
+#include "folivar/document/AnsiText.h"
+#include "folivar/document/Error.h"
+#include "folivar/document/Internal.h"
+#include "folivar/document/PDFText.h"
+#include "folivar/navigation/OutlinePlace.h"
+#include "folivar/navigation/PDFBookmarks.h"
+
+namespace folivar {
+
+PDFBookmark::PDFBookmark(const Internal& internal, Text key)
+    : key_(std::move(key)), destination_(internal) {}
+
+PDFBookmark::~PDFBookmark() = default;
+
+const std::shared_ptr<PDFBookmarks>& PDFBookmark::SubBookmarks() {
+  if (!subBookmarks_) subBookmarks_ = std::make_shared<PDFBookmarks>(Internal());
+  return subBookmarks_;
+}
+
+std::shared_ptr<PDFLinkDestination> PDFBookmark::Destination() {
+  return {Shared<PDFBookmark>(), &destination_};
+}
+
+//   << /Title (Chapter 1)
+//   /Parent 2 0 R
+//   /Prev 3 0 R
+//   /Next 9 0 R
+//   /First 5 0 R
+//   /Last 8 0 R
+//   /Count 2/Dest [ 12 0 R /Fit ]
+//   >>
+void PDFBookmark::BuildBookmarkText(const Internal& internal, PDFText& text,
+                                    const OutlinePlace& place,
+                                    const std::weak_ptr<PDFPages>& pages) const {
+  // Deliberate: the title is not escaped; hosts pass titles that are, or have them escaped.
+  text.Append("<< /Title (", AnsiText(title_).Bytes(), ")\n/Parent ", Reference{place.parent},
+              "\n");
+  if (place.previous != 0) text.Append("/Prev ", Reference{place.previous}, "\n");
+  if (place.next != 0) text.Append("/Next ", Reference{place.next}, "\n");
+  if (place.first != 0) {
+    // Deliberate: no line end behind the count; what follows stands on the same line.
+    text.Append("/First ", Reference{place.first}, "\n/Last ", Reference{place.last}, "\n/Count ",
+                expanded_ ? place.visibleCount : -place.visibleCount);
+  }
+  try {
+    destination_.AppendDestination(internal, text, pages);
+  } catch (const Error& error) {
+    throw Error(error.Number(), "PDFBookmark '" + title_.Utf8() + "': " + error.what());
+  }
+  text.Append(">>\n");
+}
+
+Text EscapeTitle(TextView text) {
+  const Text plain(text);
+  std::u16string escaped;
+  escaped.reserve(plain.Utf16().size());
+  for (const char16_t unit : plain.Utf16()) {
+    if (unit == u'\r') {
+      escaped += u"\\r";
+      continue;
+    }
+    if (unit == u'\\' || unit == u'(' || unit == u')') escaped += u'\\';
+    escaped += unit;
+  }
+  return Text::Of(std::move(escaped));
+}
+
+}  // namespace folivar

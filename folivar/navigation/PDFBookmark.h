@@ -1,0 +1,68 @@
+#pragma once
+
+#include <memory>
+#include <utility>
+
+#include "folivar/document/Api.h"
+#include "folivar/document/Tagged.h"
+#include "folivar/document/Text.h"
+#include "folivar/navigation/PDFLinkDestination.h"
+
+namespace folivar {
+
+class Internal;
+class PDFBookmarks;
+class PDFPages;
+class PDFText;
+struct OutlinePlace;
+
+// One entry of the document's outline, with those below it; made by PDFBookmarks::Add.
+class FOLIVAR_API PDFBookmark final : public Tagged {
+ public:
+  PDFBookmark(const Internal&, Text key);
+  ~PDFBookmark() override;
+
+  // Empty at first. Deliberate: it is written as it stands, between parentheses, so that hosts may
+  // escape it in their own ways: a parenthesis without its other, or a backslash, spoils the
+  // outline. EscapeTitle makes any text a title.
+  const Text& Title() const { return title_; }
+  void SetTitle(TextView title) { title_ = Text(title); }
+
+  // Whether the bookmarks below it show; false at first.
+  bool Expanded() const { return expanded_; }
+  void SetExpanded(bool expanded) { expanded_ = expanded; }
+
+  // The bookmarks below this one. Made on first use; the same object each time.
+  const std::shared_ptr<PDFBookmarks>& SubBookmarks();
+
+  // Where it leads; the same object each time.
+  std::shared_ptr<PDFLinkDestination> Destination();
+
+  // The key given to PDFBookmarks::Add; empty without one.
+  const Text& Key() const { return key_; }
+
+  // Null before first use.
+  const std::shared_ptr<PDFBookmarks>& MadeSubBookmarks(const Internal&) const {
+    return subBookmarks_;
+  }
+  // Leaves none.
+  std::shared_ptr<PDFBookmarks> TakeSubBookmarks(const Internal&) {
+    return std::move(subBookmarks_);
+  }
+  // Appends the bookmark's dictionary; destinations lead to `pages`.
+  void BuildBookmarkText(const Internal&, PDFText& text, const OutlinePlace& place,
+                         const std::weak_ptr<PDFPages>& pages) const;
+
+ private:
+  Text key_;
+  Text title_;
+  std::shared_ptr<PDFBookmarks> subBookmarks_;
+  PDFLinkDestination destination_;
+  bool expanded_ = false;
+};
+
+// The text as a title that readers show as it is: "a(b\c" becomes "a\(b\\c". Raises 5 for text that
+// is not UTF-8.
+FOLIVAR_API Text EscapeTitle(TextView text);
+
+}  // namespace folivar

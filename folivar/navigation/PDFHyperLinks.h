@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "folivar/document/Api.h"
+#include "folivar/document/MemberList.h"
+#include "folivar/document/Object.h"
+#include "folivar/document/ObjectWriter.h"
+#include "folivar/document/Text.h"
+#include "folivar/document/Value.h"
+#include "folivar/navigation/PDFHyperLink.h"
+
+namespace folivar {
+
+class Internal;
+class PDFPages;
+class PDFText;
+
+// The links of one page; reached through PDFPage::HyperLinks. Where links overlap, readers follow
+// the later one.
+class FOLIVAR_API PDFHyperLinks final : public Object,
+                                        public ObjectWriter,
+                                        public MemberList<PDFHyperLink> {
+ public:
+  PDFHyperLinks(const Internal&, std::weak_ptr<PDFPages> pages);
+
+  // Makes a link with an empty region at the page's origin, at the place before or after the link
+  // that `before` or `after` names (position or key), or at the end. An empty key is no key. Raises
+  // 5 when both places are given, 457 for a key in use, then 5 for a key or 9 for a position that
+  // names no link.
+  std::shared_ptr<PDFHyperLink> Add(TextView key = {}, const Value& before = {},
+                                    const Value& after = {});
+
+  // Takes a link off the page; who holds it may still use it. Raises as Item.
+  void Remove(const Value& indexOrKey);
+
+  // Appends "/Annots " and the references to the links as an entry of a dictionary, if there are
+  // links.
+  void AppendAnnots(const Internal&, PDFText& text) const;
+
+ private:
+  // ObjectWriter
+  void NumberObjects(ObjectNumbers& numbers) override;
+  void WriteObjects(SaveFile& file) override;
+
+  std::weak_ptr<PDFPages> pages_;
+  std::int32_t firstNumber_ = 0;
+};
+
+}  // namespace folivar
