@@ -28,9 +28,12 @@
 //   void MakeTemplate(const Letterhead&);               // one in a document
 //   void PlaceTemplate(Point origin);
 //   void FillBox(const RichText&);                      // one box of wrapped text on the page
+//   void MakePages(std::size_t count);                  // empty ones, counted from 0
+//   void AddLink(std::size_t page, Rect, Place);        // without a border; page after page
+//   Mark AddMark(const Mark& parent, const std::string& title, Place);  // Mark() at the top
 //   void Save();
 //
-// and, if it can place the pictures in files:
+// with a type Mark for a bookmark, and, if it can place the pictures in files:
 //
 //   Picture LoadPicture(const std::string& path);
 //   void DrawPicture(const Picture&, Rect);
@@ -64,6 +67,12 @@ struct Rect {
 inline constexpr int kPictureWidth = 2001;
 inline constexpr int kPictureHeight = 2000;
 inline constexpr std::size_t kPictureCount = 20;
+
+// Where bookmarks and links lead: a page and its upper left corner in the window.
+struct Place {
+  std::size_t page;
+  Point corner;
+};
 
 struct Color {
   std::uint8_t red;
@@ -264,6 +273,30 @@ class Workloads {
     }
   }
 
+  // `size` pages of 20 links each. For ten pages there are 100 bookmarks: a chapter of nine
+  // sections, each of ten parts.
+  void Navigation(std::size_t size) {
+    Document document(PathOf(0), input_);
+    document.MakePages(size);
+    for (std::size_t page = 0; page < size; ++page) {
+      for (std::size_t link = 0; link < 20; ++link) {
+        const float bottom = 742.5F - 36.25F * static_cast<float>(link);
+        document.AddLink(page, {72, bottom, Hundredths(40000), 12.5F}, NextPlace(size));
+      }
+    }
+    using Mark = typename Document::Mark;
+    for (std::size_t chapter = 0; chapter < size / 10; ++chapter) {
+      const Mark first = document.AddMark(Mark(), TitleOf(chapter, 0, 0), NextPlace(size));
+      for (std::size_t section = 1; section <= 9; ++section) {
+        const Mark second = document.AddMark(first, TitleOf(chapter, section, 0), NextPlace(size));
+        for (std::size_t part = 1; part <= 10; ++part) {
+          document.AddMark(second, TitleOf(chapter, section, part), NextPlace(size));
+        }
+      }
+    }
+    document.Save();
+  }
+
   // `size` documents of one page with `lineCount` lines.
   void Documents(std::size_t size, std::size_t lineCount) {
     for (std::size_t number = 0; number < size; ++number) {
@@ -314,6 +347,18 @@ class Workloads {
     }
   }
 
+  // "12.3.4 delivery paid by", without parentheses.
+  std::string TitleOf(std::size_t chapter, std::size_t section, std::size_t part) const {
+    const std::string& line = lines_.At(8 * (chapter + section) + 1 + part % 7);
+    return std::to_string(chapter + 1) + "." + std::to_string(section) + "." +
+           std::to_string(part) + line.substr(6, 24);
+  }
+
+  Place NextPlace(std::size_t pageCount) {
+    const std::size_t page = sequence_.Below(static_cast<std::uint32_t>(pageCount));
+    return {page, NextPoint()};
+  }
+
   float Hundredths(std::uint32_t limit) { return static_cast<float>(sequence_.Below(limit)) / 100; }
 
   Point NextPoint() {
@@ -358,6 +403,8 @@ void RunNamed(std::string_view name, std::size_t size, const std::string& folder
     workloads.Pictures(size, ".jpg");
   } else if (name == "bmp") {
     workloads.Pictures(size, ".bmp");
+  } else if (name == "navigation") {
+    workloads.Navigation(size);
   } else if (name == "small") {
     workloads.Documents(size, 5);
   } else if (name == "startup") {

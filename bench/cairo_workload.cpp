@@ -172,7 +172,28 @@ class Document {
     pango_cairo_show_layout(context_.get(), layout_.get());
   }
 
+  using Mark = int;
+
+  // The pages are shown as their links come.
+  void MakePages(std::size_t count) { pageCount_ = count; }
+
+  void AddLink(std::size_t page, bench::Rect rect, bench::Place place) {
+    ShowPagesBefore(page);
+    const std::string attributes = "rect=[" + std::to_string(rect.left) + " " +
+                                   std::to_string(Down(rect.bottom + rect.height)) + " " +
+                                   std::to_string(rect.width) + " " + std::to_string(rect.height) +
+                                   "] " + Lead(place);
+    cairo_tag_begin(context_.get(), CAIRO_TAG_LINK, attributes.c_str());
+    cairo_tag_end(context_.get(), CAIRO_TAG_LINK);
+  }
+
+  int AddMark(int parent, const std::string& title, bench::Place place) {
+    return cairo_pdf_surface_add_outline(surface_.get(), parent, title.c_str(), Lead(place).c_str(),
+                                         static_cast<cairo_pdf_outline_flags_t>(0));
+  }
+
   void Save() {
+    ShowPagesBefore(pageCount_);
     Check(cairo_status(context_.get()));
     cairo_surface_finish(surface_.get());
     Check(cairo_surface_status(surface_.get()));
@@ -212,6 +233,16 @@ class Document {
     pango_layout_set_width(layout_.get(), static_cast<int>(bench::RichText::kWidth * PANGO_SCALE));
   }
 
+  // Pages count from 1 here.
+  static std::string Lead(bench::Place place) {
+    return "page=" + std::to_string(place.page + 1) + " pos=[" + std::to_string(place.corner.x) +
+           " " + std::to_string(Down(place.corner.y)) + "]";
+  }
+
+  void ShowPagesBefore(std::size_t page) {
+    for (; shownCount_ < page; ++shownCount_) cairo_show_page(context_.get());
+  }
+
   static double Down(float y) { return bench::kPageHeight - y; }
 
   void SetColor(bench::Color color) {
@@ -229,6 +260,8 @@ class Document {
   std::unique_ptr<cairo_t, Destroyer> context_;
   std::unique_ptr<cairo_surface_t, Destroyer> template_;
   std::unique_ptr<PangoLayout, Destroyer> layout_;
+  std::size_t pageCount_ = 0;  // made by MakePages
+  std::size_t shownCount_ = 0;
 };
 
 }  // namespace

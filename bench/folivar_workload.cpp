@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "Workload.h"
 
@@ -95,6 +96,27 @@ class Document {
     }
   }
 
+  using Mark = std::shared_ptr<folivar::PDFBookmark>;
+
+  void MakePages(std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i) pages_.push_back(document_->Pages()->Add());
+  }
+
+  void AddLink(std::size_t page, bench::Rect rect, bench::Place place) {
+    const auto link = pages_[page]->HyperLinks()->Add();
+    link->SetRegion(rect.left, rect.bottom, rect.width, rect.height);
+    link->SetBorderWidth(0);
+    Lead(*link->Destination(), place);
+  }
+
+  Mark AddMark(const Mark& parent, const std::string& title, bench::Place place) {
+    const auto& level = parent ? parent->SubBookmarks() : document_->Bookmarks();
+    Mark mark = level->Add();
+    mark->SetTitle(title);
+    Lead(*mark->Destination(), place);
+    return mark;
+  }
+
   void ColorText(std::size_t start, std::size_t length, bench::Color color) {
     Select(start, length);
     box_->SetSelColor(Packed(color));
@@ -103,6 +125,11 @@ class Document {
   void Save() { document_->SavePDFFile(path_); }
 
  private:
+  void Lead(folivar::PDFLinkDestination& destination, bench::Place place) {
+    destination.SetPage(pages_[place.page]);
+    destination.SetRegion(place.corner.x, place.corner.y);
+  }
+
   void Select(std::size_t start, std::size_t length) {
     box_->SetSelStart(static_cast<std::int32_t>(start));
     box_->SetSelLength(static_cast<std::int32_t>(length));
@@ -116,6 +143,7 @@ class Document {
   std::shared_ptr<folivar::PDFTemplate> template_;
   std::shared_ptr<folivar::PDFTextBox> box_;
   std::shared_ptr<folivar::PDFFont> bold_;
+  std::vector<std::shared_ptr<folivar::PDFPage>> pages_;
 };
 
 }  // namespace

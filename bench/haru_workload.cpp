@@ -6,6 +6,7 @@
 #include <string>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 #include "Workload.h"
 
@@ -147,12 +148,41 @@ class Document {
     Check(HPDF_Page_EndText(page_));
   }
 
+  using Mark = HPDF_Outline;
+
+  void MakePages(std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i) {
+      BeginPage();
+      pages_.push_back(page_);
+    }
+  }
+
+  void AddLink(std::size_t page, bench::Rect rect, bench::Place place) {
+    const HPDF_Rect edges = {rect.left, rect.bottom, rect.left + rect.width,
+                             rect.bottom + rect.height};
+    HPDF_Annotation link = Check(HPDF_Page_CreateLinkAnnot(pages_[page], edges, Lead(place)));
+    Check(HPDF_LinkAnnot_SetBorderStyle(link, 0, 0, 0));
+  }
+
+  HPDF_Outline AddMark(HPDF_Outline parent, const std::string& title, bench::Place place) {
+    HPDF_Outline mark = Check(HPDF_CreateOutline(document_.get(), parent, title.c_str(), nullptr));
+    Check(HPDF_Outline_SetDestination(mark, Lead(place)));
+    return mark;
+  }
+
   void Save() { Check(HPDF_SaveToFile(document_.get(), path_.c_str())); }
 
  private:
   struct Freer {
     void operator()(HPDF_Doc document) const { HPDF_Free(document); }
   };
+
+  HPDF_Destination Lead(bench::Place place) {
+    HPDF_Destination destination = Check(HPDF_Page_CreateDestination(pages_[place.page]));
+    // The library has no way to keep the reader's zoom.
+    Check(HPDF_Destination_SetXYZ(destination, place.corner.x, place.corner.y, 1));
+    return destination;
+  }
 
   void EndText() {
     if (isInText_) Check(HPDF_Page_EndText(page_));
@@ -177,6 +207,7 @@ class Document {
   HPDF_Font bold_ = nullptr;
   HPDF_Page page_ = nullptr;
   HPDF_XObject template_ = nullptr;
+  std::vector<HPDF_Page> pages_;
   bool isFontSet_ = false;
   bool isInText_ = false;
 };
