@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -20,9 +21,9 @@ namespace folivar {
 // that no other entry has. Keys compare without regard to case. A text always names a key ("1"
 // too), a number a position; this is the one place that tells them apart.
 //
-// Finding by key and adding at the end take constant time. Entries are kept in blocks of up to 512,
-// so that finding, inserting and removing elsewhere walks over blocks, not over entries, and moves
-// the entries of one block at most.
+// Adding at the end takes constant time, and so does finding by key, which walks over one block of
+// entries at most. Blocks are of up to 512 entries, so that finding, inserting and removing
+// elsewhere walks over blocks, not over entries, and moves the entries of one block at most.
 template <class T>
 class KeyedList {
  public:
@@ -47,7 +48,7 @@ class KeyedList {
     std::size_t position = count_;
     if (!before.IsMissing()) position = PlaceOf(Find(before)).position;
     if (!after.IsMissing()) position = PlaceOf(Find(after)).position + 1;
-    Insert(position, std::make_unique<Entry>(std::move(item)), std::move(folded));
+    Insert(position, std::move(item), std::move(folded));
   }
 
   // Raises 5 for an unknown key and 9 for a position outside 1 to Count(); 13 for what is neither a
@@ -67,9 +68,9 @@ class KeyedList {
       }
     }
     for (const auto& block : blocks_) {
-      for (const auto& entry : block->entries) {
-        if (entry->item == item) {
-          Erase(*entry);
+      for (Entry& entry : block->entries) {
+        if (entry.item == item) {
+          Erase(entry);
           return;
         }
       }
@@ -92,20 +93,19 @@ class KeyedList {
   template <class Visit>
   void ForEach(Visit visit) const {
     for (const auto& block : blocks_) {
-      for (const auto& entry : block->entries) visit(entry->item);
+      for (const Entry& entry : block->entries) visit(entry.item);
     }
   }
 
  private:
   struct Block;
+  using Keys = std::unordered_map<std::u16string, Block*>;
   struct Entry {
-    explicit Entry(T held) : item(std::move(held)) {}
     T item;
-    const std::u16string* key = nullptr;  // in byKey_; null without a key
-    Block* block = nullptr;
+    typename Keys::value_type* key;  // in byKey_; null without a key
   };
   struct Block {
-    std::vector<std::unique_ptr<Entry>> entries;
+    std::vector<Entry> entries;
   };
   struct Place {
     std::size_t block;
@@ -123,7 +123,9 @@ class KeyedList {
       if (found == byKey_.end()) {
         throw Error::InvalidArgument("Key '" + key->Utf8() + "' is not in " + Name());
       }
-      return *found->second;
+      auto& entries = found->second->entries;
+      return *std::find_if(entries.begin(), entries.end(),
+                           [&](const Entry& entry) { return entry.key == &*found; });
     }
     return At(PositionFrom(index));
   }
@@ -144,7 +146,7 @@ class KeyedList {
     if (Holds(position)) {
       auto rest = static_cast<std::size_t>(position) - 1;
       for (const auto& block : blocks_) {
-        if (rest < block->entries.size()) return *block->entries[rest];
+        if (rest < block->entries.size()) return block->entries[rest];
         rest -= block->entries.size();
       }
     }
@@ -154,18 +156,21 @@ class KeyedList {
 
   Place PlaceOf(const Entry& entry) const {
     Place place{};
-    while (blocks_[place.block].get() != entry.block) {
+    const auto isInside = [&](const std::vector<Entry>& entries) {
+      return !std::less<>()(&entry, entries.data()) &&
+             std::less<>()(&entry, entries.data() + entries.size());
+    };
+    while (!isInside(blocks_[place.block]->entries)) {
       place.position += blocks_[place.block++]->entries.size();
     }
-    const auto& entries = blocks_[place.block]->entries;
-    while (entries[place.index].get() != &entry) ++place.index;
+    place.index = static_cast<std::size_t>(&entry - blocks_[place.block]->entries.data());
     place.position += place.index;
     return place;
   }
 
   T Erase(Entry& entry) {
     const Place place = PlaceOf(entry);
-    if (entry.key != nullptr) byKey_.erase(*entry.key);
+    if (entry.key != nullptr) byKey_.erase(entry.key->first);
     T item = std::move(entry.item);
     auto& entries = blocks_[place.block]->entries;
     entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(place.index));
@@ -175,17 +180,15 @@ class KeyedList {
   }
 
   // Inserts, or changes nothing when memory runs out. `position` counts from 0.
-  void Insert(std::size_t position, std::unique_ptr<Entry> entry, std::u16string foldedKey) {
+  void Insert(std::size_t position, T item, std::u16string foldedKey) {
     const Place place = MakeRoom(position);
     Block& block = *blocks_[place.block];
     auto& entries = block.entries;
     if (entries.size() == entries.capacity()) {
       entries.reserve(std::clamp(2 * entries.size(), kSmallestBlock, kBlockSize));
     }
-    entry->block = &block;
-    if (!foldedKey.empty()) {
-      entry->key = &byKey_.emplace(std::move(foldedKey), entry.get()).first->first;
-    }
+    Entry entry{std::move(item), nullptr};
+    if (!foldedKey.empty()) entry.key = &*byKey_.emplace(std::move(foldedKey), &block).first;
     entries.insert(entries.begin() + static_cast<std::ptrdiff_t>(place.index), std::move(entry));
     ++count_;
   }
@@ -221,7 +224,7 @@ class KeyedList {
     auto& lower = blocks_[number]->entries;
     const auto middle = lower.begin() + static_cast<std::ptrdiff_t>(kBlockSize / 2);
     for (auto entry = middle; entry != lower.end(); ++entry) {
-      (*entry)->block = upper.get();
+      if (entry->key != nullptr) entry->key->second = upper.get();
       upper->entries.push_back(std::move(*entry));
     }
     lower.erase(middle, lower.end());
@@ -231,7 +234,7 @@ class KeyedList {
   const char* name_;
   std::size_t count_ = 0;
   std::vector<std::unique_ptr<Block>> blocks_;
-  std::unordered_map<std::u16string, Entry*> byKey_;
+  Keys byKey_;  // with the block that the entry is in
 };
 
 }  // namespace folivar

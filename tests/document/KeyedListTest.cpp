@@ -140,6 +140,24 @@ TEST_F(KeyedListOfThree, RemoveGivesTheItemAndFreesItsKey) {
   EXPECT_EQ(list_.Count(), 0U);
 }
 
+TEST(KeyedList, RemoveItemFindsTheItemWhereverItIs) {
+  KeyedList<int> list("list");
+  for (int item = 0; item < 2000; ++item) list.Add(item, "k" + std::to_string(item), {}, {});
+  list.RemoveItem(1500, 1501);
+  list.RemoveItem(1501, "K1501");
+  list.RemoveItem(700, 1);
+  list.RemoveItem(701, "k1");
+  list.RemoveItem(702, 5000);
+  list.RemoveItem(703, "no such key");
+  EXPECT_EQ(list.Count(), 1994U);
+  for (const int gone : {1500, 1501, 700, 701, 702, 703}) {
+    EXPECT_FALSE(list.KeyExists("k" + std::to_string(gone)));
+    list.RemoveItem(gone, 1);
+  }
+  EXPECT_EQ(list.Count(), 1994U);
+  EXPECT_EQ(list.Item(1), 0);
+}
+
 TEST_F(KeyedListOfThree, ItemAndRemoveRaise) {
   const auto expectError = [&](const Value& index, int number) {
     EXPECT_EQ(ErrorNumberOf([&] { list_.Item(index); }), number);
