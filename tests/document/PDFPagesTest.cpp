@@ -179,6 +179,114 @@ TEST_F(PDFPagesOfThree, SavesThePagesInTheirOrder) {
   }
 }
 
+using Subscription = Event<PDFPage&>::Subscription;
+
+TEST_F(PDFPagesOfThree, RemoveRaisesPageRemovedBeforeThePageLeaves) {
+  std::string heard;
+  const Subscription subscription = pages_->Item("b")->PageRemoved().Subscribe(
+      [&](PDFPage& page) { heard += page.Key().Utf8() + ":" + KeysOf(*pages_); });
+  pages_->Remove("a");
+  EXPECT_EQ(heard, "");
+  pages_->Remove(1);
+  EXPECT_EQ(heard, "b:bc");
+  EXPECT_EQ(KeysOf(*pages_), "c");
+}
+
+TEST_F(PDFPagesOfThree, ARemoveThatFailsRaisesNoEvent) {
+  bool isHeard = false;
+  const Subscription subscription =
+      pages_->Item("b")->PageRemoved().Subscribe([&](PDFPage&) { isHeard = true; });
+  EXPECT_EQ(ErrorNumberOf([&] { pages_->Remove(4); }), 9);
+  EXPECT_EQ(ErrorNumberOf([&] { pages_->Remove("x"); }), 5);
+  pages_->ReOrder("x");
+  EXPECT_FALSE(isHeard);
+}
+
+// Deliberate: a page is moved by removing it and putting it back.
+TEST_F(PDFPagesOfThree, DeliberateReOrderRaisesPageRemoved) {
+  std::string heard;
+  const Subscription subscription =
+      pages_->Item("a")->PageRemoved().Subscribe([&](PDFPage&) { heard += KeysOf(*pages_); });
+  pages_->ReOrder("b", 1);
+  EXPECT_EQ(heard, "");
+  pages_->ReOrder("a");
+  EXPECT_EQ(heard, "bac");
+  EXPECT_EQ(KeysOf(*pages_), "bca");
+}
+
+TEST_F(PDFPagesOfThree, AHandlerThatThrowsDoesNotKeepThePage) {
+  const Subscription subscription = pages_->Item("b")->PageRemoved().Subscribe(
+      [](PDFPage&) { throw Error::Overflow("the handler's own"); });
+  EXPECT_EQ(ErrorTextOf([&] { pages_->Remove("b"); }), "the handler's own");
+  EXPECT_EQ(KeysOf(*pages_), "ac");
+}
+
+TEST_F(PDFPagesOfThree, AHandlerThatThrowsDoesNotKeepReOrderFromMoving) {
+  const Subscription subscription = pages_->Item("a")->PageRemoved().Subscribe(
+      [](PDFPage&) { throw Error::Overflow("the handler's own"); });
+  pages_->ReOrder("a");
+  EXPECT_EQ(KeysOf(*pages_), "bca");
+}
+
+TEST_F(PDFPagesOfThree, AHandlerMayRemoveOtherPages) {
+  const Subscription subscription =
+      pages_->Item("b")->PageRemoved().Subscribe([&](PDFPage&) { pages_->Remove(1); });
+  pages_->Remove(2);
+  EXPECT_EQ(KeysOf(*pages_), "c") << "b goes, although the second page is another by now";
+}
+
+TEST_F(PDFPagesOfThree, AHandlerMayRemoveTheSamePageAndIsNotCalledAgain) {
+  int calls = 0;
+  const Subscription first = pages_->Item("b")->PageRemoved().Subscribe([&](PDFPage& page) {
+    ++calls;
+    pages_->Remove(page.Key());
+  });
+  const Subscription second =
+      pages_->Item("b")->PageRemoved().Subscribe([&](PDFPage&) { ++calls; });
+  pages_->Remove("b");
+  EXPECT_EQ(calls, 2);
+  EXPECT_EQ(KeysOf(*pages_), "ac");
+}
+
+TEST_F(PDFPagesOfThree, AHandlerMayMoveThePageThatIsRemoved) {
+  const Subscription subscription = pages_->Item("a")->PageRemoved().Subscribe(
+      [&](PDFPage& page) { pages_->ReOrder(page.Key()); });
+  pages_->Remove("a");
+  EXPECT_EQ(KeysOf(*pages_), "bc");
+}
+
+TEST_F(PDFPagesOfThree, AHandlerMayAddPages) {
+  const Subscription subscription =
+      pages_->Item("b")->PageRemoved().Subscribe([&](PDFPage&) { pages_->Add("new", 1); });
+  pages_->Remove(2);
+  EXPECT_EQ(KeysOf(*pages_), "newac");
+}
+
+TEST_F(PDFPagesOfThree, AHandlerMayLetGoOfEverything) {
+  const std::weak_ptr<PDFPages> watch = pages_;
+  Subscription subscription;
+  subscription = pages_->Item("b")->PageRemoved().Subscribe([&](PDFPage& page) {
+    document_.reset();
+    pages_.reset();
+    subscription.Reset();
+    EXPECT_EQ(page.Key(), "b") << "the page is there until its handlers are done";
+  });
+  PDFPages& pages = *pages_;
+  pages.Remove("b");
+  EXPECT_TRUE(watch.expired());
+}
+
+TEST_F(PDFPagesOfThree, AHandlerMayLetGoOfEverythingWhileItsPageIsMoved) {
+  const std::weak_ptr<PDFPages> watch = pages_;
+  const Subscription subscription = pages_->Item("a")->PageRemoved().Subscribe([&](PDFPage&) {
+    document_.reset();
+    pages_.reset();
+  });
+  PDFPages& pages = *pages_;
+  pages.ReOrder("a");
+  EXPECT_TRUE(watch.expired());
+}
+
 // The pages of a document and a model of them, compared after every step.
 class PagesAndModel {
  public:

@@ -1,0 +1,95 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "folivar/folivar.h"
+#include "folivar/navigation/PDFBookmark.h"
+#include "tests/support/Content.h"
+#include "tests/support/SavedDocument.h"
+
+namespace folivar::test {
+namespace {
+
+class PDFBookmarkTest : public testing::Test {
+ protected:
+  std::string ObjectText(std::size_t number) {
+    return std::string(Save(*document_, "bookmark.pdf", Check::kForm).pdf.Object(number));
+  }
+
+  std::shared_ptr<PDFDocument> document_ = PDFDocument::Create();
+  std::shared_ptr<PDFPage> page_ = document_->Pages()->Add();
+  std::shared_ptr<PDFBookmark> bookmark_ = document_->Bookmarks()->Add("key");
+};
+
+TEST_F(PDFBookmarkTest, IsClosedAndWithoutATitleAtFirst) {
+  EXPECT_TRUE(bookmark_->Title().IsEmpty());
+  EXPECT_FALSE(bookmark_->Expanded());
+  EXPECT_EQ(bookmark_->Key(), "key");
+  EXPECT_TRUE(bookmark_->Tag().IsEmpty());
+  EXPECT_EQ(bookmark_->SubBookmarks()->count(), 0);
+  EXPECT_EQ(bookmark_->SubBookmarks(), bookmark_->SubBookmarks());
+  EXPECT_EQ(ObjectText(3), "<< /Title ()\n/Parent 2 0 R\n>>\n");
+}
+
+TEST_F(PDFBookmarkTest, ClosedWithChildrenCountsThemNegative) {
+  for (const char* title : {"a", "b"}) bookmark_->SubBookmarks()->Add()->SetTitle(title);
+  EXPECT_EQ(ObjectText(2), "<< /Type /Outlines\n/First 3 0 R\n/Last 3 0 R\n/Count 1\n>>\n");
+  EXPECT_EQ(ObjectText(3), "<< /Title ()\n/Parent 2 0 R\n/First 4 0 R\n/Last 5 0 R\n/Count -2>>\n");
+  EXPECT_EQ(ObjectText(4), "<< /Title (a)\n/Parent 3 0 R\n/Next 5 0 R\n>>\n");
+  EXPECT_EQ(ObjectText(5), "<< /Title (b)\n/Parent 3 0 R\n/Prev 4 0 R\n>>\n");
+  bookmark_->SetExpanded(true);
+  EXPECT_EQ(ObjectText(2), "<< /Type /Outlines\n/First 3 0 R\n/Last 3 0 R\n/Count 3\n>>\n");
+  EXPECT_EQ(ObjectText(3), "<< /Title ()\n/Parent 2 0 R\n/First 4 0 R\n/Last 5 0 R\n/Count 2>>\n");
+}
+
+// Deliberate: no line end behind the count.
+TEST_F(PDFBookmarkTest, DeliberateCountAndDestinationShareALine) {
+  bookmark_->SetTitle("Chapter");
+  bookmark_->SetExpanded(true);
+  bookmark_->SubBookmarks()->Add();
+  bookmark_->SubBookmarks()->Add();
+  bookmark_->Destination()->SetPage(page_);
+  bookmark_->Destination()->SetDestinationMode(dsFit);
+  document_->Bookmarks()->Add();
+  EXPECT_EQ(ObjectText(3),
+            "<< /Title (Chapter)\n/Parent 2 0 R\n/Next 6 0 R\n/First 4 0 R\n/Last 5 0 R\n"
+            "/Count 2/Dest [ 8 0 R /Fit ]\n>>\n");
+}
+
+// Deliberate: hosts escape their titles, or have them escaped.
+TEST_F(PDFBookmarkTest, DeliberateTitleIsWrittenAsItStands) {
+  bookmark_->SetTitle("a(b)");
+  EXPECT_EQ(ObjectText(3), "<< /Title (a(b))\n/Parent 2 0 R\n>>\n");
+  bookmark_->SetTitle("a\\(b\\n");
+  EXPECT_EQ(bookmark_->Title(), "a\\(b\\n");
+  EXPECT_EQ(ObjectText(3), "<< /Title (a\\(b\\n)\n/Parent 2 0 R\n>>\n");
+}
+
+TEST_F(PDFBookmarkTest, TitlesAreBytesOfTheCodePage) {
+  bookmark_->SetTitle(u8"\u00E9 \u20AC \u0416");
+  EXPECT_EQ(ObjectText(3), "<< /Title (\xE9 \x80 ?)\n/Parent 2 0 R\n>>\n");
+}
+
+TEST_F(PDFBookmarkTest, ATitleThatIsNotUtf8Raises5AndTheOldOneStays) {
+  bookmark_->SetTitle("old");
+  EXPECT_EQ(ErrorNumberOf([&] { bookmark_->SetTitle("\xFF"); }), 5);
+  EXPECT_EQ(bookmark_->Title(), "old");
+}
+
+TEST(EscapeTitle, EscapesWhatEndsAString) {
+  EXPECT_EQ(EscapeTitle("plain"), "plain");
+  EXPECT_EQ(EscapeTitle(""), "");
+  EXPECT_EQ(EscapeTitle("a(b\\c)"), "a\\(b\\\\c\\)");
+  EXPECT_EQ(EscapeTitle("one\rtwo\nthree"), "one\\rtwo\nthree");
+  EXPECT_EQ(EscapeTitle(u"\u20AC("), u"\u20AC\\(");
+  EXPECT_EQ(ErrorNumberOf([] { EscapeTitle("\xFF"); }), 5);
+}
+
+TEST_F(PDFBookmarkTest, AnEscapedTitleIsAStringOfItsOwn) {
+  bookmark_->SetTitle(EscapeTitle(":-) \\"));
+  EXPECT_EQ(ObjectText(3), "<< /Title (:-\\) \\\\)\n/Parent 2 0 R\n>>\n");
+}
+
+}  // namespace
+}  // namespace folivar::test
