@@ -23,6 +23,7 @@
 #include "folivar/fonts/PDFFonts.h"
 #include "folivar/images/PDFImage.h"
 #include "folivar/images/PDFImages.h"
+#include "folivar/navigation/EscapeTitle.h"
 #include "folivar/navigation/PDFBookmark.h"
 #include "folivar/navigation/PDFBookmarks.h"
 #include "folivar/navigation/PDFHyperLink.h"

@@ -50,6 +50,16 @@ char AnsiByte(char16_t unit) {
   return static_cast<char>(found->second);
 }
 
+char* PutAnsi(char* out, std::u16string_view units) {
+  char16_t all = 0;
+  for (const char16_t unit : units) all = static_cast<char16_t>(all | unit);
+  if (all <= 0xFF) {
+    return std::transform(units.begin(), units.end(), out,
+                          [](char16_t unit) { return static_cast<char>(unit); });
+  }
+  return std::transform(units.begin(), units.end(), out, AnsiByte);
+}
+
 char16_t AnsiCharacter(char byte) {
   const auto value = static_cast<unsigned char>(byte);
   const auto* found = std::find_if(kWindows1252.begin(), kWindows1252.end(),
@@ -77,14 +87,7 @@ void AnsiText::Convert(std::u16string_view units) {
     long_.resize(units.size());
     out = long_.data();
   }
-  char16_t all = 0;
-  for (const char16_t unit : units) all = static_cast<char16_t>(all | unit);
-  if (all <= 0xFF) {
-    std::transform(units.begin(), units.end(), out,
-                   [](char16_t unit) { return static_cast<char>(unit); });
-  } else {
-    std::transform(units.begin(), units.end(), out, AnsiByte);
-  }
+  PutAnsi(out, units);
   bytes_ = std::string_view(out, units.size());
   traits_ = TraitsOf(bytes_);
 }

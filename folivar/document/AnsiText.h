@@ -14,6 +14,9 @@ namespace folivar {
 // the euro sign, is 0x80), and anything else is "?".
 char AnsiByte(char16_t unit);
 
+// The bytes of all units; returns the end. `out` has room for one byte each.
+char* PutAnsi(char* out, std::u16string_view units);
+
 // The other way round: the character that a byte stands for in Windows code page 1252; for the five
 // bytes that have none (0x81, say) the one of the same value.
 char16_t AnsiCharacter(char byte);

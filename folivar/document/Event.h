@@ -1,6 +1,7 @@
 #pragma once
 
 #include <bit>
+#include <cstddef>
 #include <exception>
 #include <memory>
 #include <type_traits>
@@ -49,15 +50,66 @@ class Event {
     Link* next = this;
   };
 
-  struct Handler {
-    void (*call)(void* target, Args... args) = nullptr;
-    void* target = nullptr;          // what is called, or, if it is that small, its bits
-    std::shared_ptr<void> keeper{};  // of a target that is not that small
+  // What is called: a callable of one pointer, whose bits are here, or one that is kept elsewhere
+  // and shared by the copies.
+  class Handler {
+   public:
+    Handler() = default;
+    template <class Callable>
+    explicit Handler(Callable callable) {
+      if constexpr (sizeof(Callable) == sizeof(void*) && std::is_trivially_copyable_v<Callable>) {
+        static constexpr Kind kKind = {
+            [](void* bits, Args... args) { std::bit_cast<Callable>(bits)(args...); }, nullptr,
+            nullptr};
+        kind_ = &kKind;
+        target_ = std::bit_cast<void*>(callable);
+      } else {
+        struct Kept {
+          Callable callable;
+          std::size_t holders = 1;
+        };
+        static constexpr Kind kKind = {
+            [](void* kept, Args... args) { static_cast<Kept*>(kept)->callable(args...); },
+            [](void* kept) { ++static_cast<Kept*>(kept)->holders; },
+            [](void* kept) {
+              if (--static_cast<Kept*>(kept)->holders > 0) return;
+              const std::unique_ptr<Kept> last(static_cast<Kept*>(kept));
+            }};
+        kind_ = &kKind;
+        target_ = std::make_unique<Kept>(Kept{std::move(callable)}).release();
+      }
+    }
+    Handler(const Handler& other) : kind_(other.kind_), target_(other.target_) {
+      if (kind_ != nullptr && kind_->hold != nullptr) kind_->hold(target_);
+    }
+    Handler(Handler&& other) noexcept
+        : kind_(std::exchange(other.kind_, nullptr)), target_(other.target_) {}
+    Handler& operator=(Handler other) noexcept {
+      std::swap(kind_, other.kind_);
+      std::swap(target_, other.target_);
+      return *this;
+    }
+    ~Handler() {
+      if (kind_ != nullptr && kind_->release != nullptr) kind_->release(target_);
+    }
+
+    bool IsNone() const { return kind_ == nullptr; }
+    void operator()(Args... args) const { kind_->call(target_, args...); }
+
+   private:
+    struct Kind {
+      void (*call)(void* target, Args... args);
+      void (*hold)(void* target);  // both null for bits
+      void (*release)(void* target);
+    };
+
+    const Kind* kind_ = nullptr;
+    void* target_ = nullptr;
   };
 
   // Every link of an event's ring but its own.
   struct Node : Link {
-    Handler handler;  // without a call: the place of a walk
+    Handler handler{};  // none at the place of a walk
   };
 
  public:
@@ -84,14 +136,14 @@ class Event {
     void Reset() {
       node_.Leave();
       // What the handler captured may hold this subscription.
-      const Handler last = std::exchange(node_.handler, Handler());
+      const Handler last = std::move(node_.handler);
     }
 
    private:
     friend class Event;
 
     void Take(Subscription& other) noexcept {
-      node_.handler = std::exchange(other.node_.handler, Handler());
+      node_.handler = std::move(other.node_.handler);
       if (other.node_.IsAlone()) return;
       node_.JoinBefore(other.node_);
       other.node_.Leave();
@@ -112,16 +164,7 @@ class Event {
   template <class Callable>
   Subscription Subscribe(Callable handler) {
     Subscription subscription;
-    Handler& made = subscription.node_.handler;
-    if constexpr (sizeof(Callable) == sizeof(void*) && std::is_trivially_copyable_v<Callable>) {
-      made.call = [](void* target, Args... args) { std::bit_cast<Callable>(target)(args...); };
-      made.target = std::bit_cast<void*>(handler);
-    } else {
-      auto kept = std::make_shared<Callable>(std::move(handler));
-      made.call = [](void* target, Args... args) { (*static_cast<Callable*>(target))(args...); };
-      made.target = kept.get();
-      made.keeper = std::move(kept);
-    }
+    subscription.node_.handler = Handler(std::move(handler));
     subscription.node_.JoinBefore(ring_);
     return subscription;
   }
@@ -135,7 +178,7 @@ class Event {
     while (const Node* const node = walk.Next()) {
       const Handler handler = node->handler;  // the node may go away meanwhile
       try {
-        handler.call(handler.target, args...);
+        handler(args...);
       } catch (...) {
         if (!thrown) thrown = std::current_exception();
       }
@@ -166,7 +209,7 @@ class Event {
         place_.Leave();
         place_.JoinBefore(*next.next);
         const Node& node = static_cast<Node&>(next);
-        if (node.handler.call != nullptr) return &node;
+        if (!node.handler.IsNone()) return &node;
       }
       return nullptr;
     }

@@ -41,7 +41,7 @@ class KeyedList {
     if (!before.IsMissing() && !after.IsMissing()) {
       throw Error::InvalidArgument("Before and After cannot both be given in " + Name());
     }
-    std::u16string folded = FoldCase(key);
+    std::u16string folded = key.IsEmpty() ? std::u16string() : FoldCase(key);
     if (!folded.empty() && byKey_.contains(folded)) {
       throw Error::KeyInUse("Key '" + Text(key).Utf8() + "' is already in use in " + Name());
     }

@@ -35,11 +35,12 @@ void PDFPages::Remove(const Value& indexOrKey) {
 }
 
 std::exception_ptr PDFPages::RemovePage(const Value& indexOrKey) {
-  const auto self = Shared<PDFPages>();  // handlers may let go of it
-  const std::shared_ptr<PDFPage> page = members_.Item(indexOrKey);
+  const auto self = Shared<PDFPages>();  // handlers may let go of it, and of what is given
+  const Value place = indexOrKey;
+  const std::shared_ptr<PDFPage> page = members_.Item(place);
   std::exception_ptr thrown = page->RaisePageRemoved(Internal());
   // By now it may stand elsewhere, or be removed already.
-  members_.RemoveItem(page, indexOrKey);
+  members_.RemoveItem(page, place);
   page->ForgetObjectNumber(Internal());
   return thrown;
 }

@@ -5,6 +5,7 @@
 #include <limits>
 #include <new>
 
+#include "folivar/document/AnsiText.h"
 #include "folivar/document/Error.h"
 
 namespace folivar {
@@ -88,6 +89,8 @@ char* PDFText::PutEscaped(char* out, std::string_view bytes) {
   }
   return out;
 }
+
+char* PDFText::Put(char* out, Ansi text) { return PutAnsi(out, text.units); }
 
 char* PDFText::Put(char* out, ColorShare share) {
   const ShareText& text = kColorShares[share.byte];

@@ -53,6 +53,11 @@ struct Escaped {
   bool isPlain = false;  // known to hold none of them
 };
 
+// A text as the bytes that go into the file, as AnsiText makes them.
+struct Ansi {
+  std::u16string_view units;
+};
+
 // PDF syntax under construction: a growing run of bytes, and the only way that numbers reach them.
 //
 //   text.Append("/MediaBox [ 0 0 ", Real{612}, " ", Real{792}, "]\n");
@@ -97,6 +102,7 @@ class PDFText {
   static std::size_t SizeBound(const Escaped& text) {
     return text.isPlain ? text.bytes.size() : BoundOfEscaped(text.bytes);
   }
+  static std::size_t SizeBound(Ansi text) { return text.units.size(); }
   template <std::integral Integer>
   static std::size_t SizeBound(Integer) {
     static_assert(!std::same_as<Integer, bool> && !std::same_as<Integer, char>);
@@ -122,6 +128,7 @@ class PDFText {
   static char* Put(char* out, const Escaped& text) {
     return text.isPlain ? Put(out, text.bytes) : PutEscaped(out, text.bytes);
   }
+  static char* Put(char* out, Ansi text);
   template <std::integral Integer>
   static char* Put(char* out, Integer number) {
     if (std::cmp_less(number, 0)) {

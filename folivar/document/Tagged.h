@@ -1,6 +1,6 @@
 #pragma once
 
-#include <utility>
+#include <memory>
 
 #include "folivar/document/Api.h"
 #include "folivar/document/Object.h"
@@ -12,14 +12,15 @@ namespace folivar {
 // Never written to the file. Empty at first.
 class FOLIVAR_API Tagged : public Object {
  public:
-  const Value& Tag() const { return tag_; }
-  void SetTag(Value tag) { tag_ = std::move(tag); }
+  const Value& Tag() const;
+  void SetTag(Value tag);
 
  protected:
   Tagged() = default;
+  ~Tagged() override;
 
  private:
-  Value tag_ = Value::Empty();
+  std::unique_ptr<const Value> tag_;  // null until it is set: few are
 };
 
 }  // namespace folivar

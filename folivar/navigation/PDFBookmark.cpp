@@ -3,7 +3,6 @@
 #include <string>
 #include <utility>
 
-#include "folivar/document/AnsiText.h"
 #include "folivar/document/Error.h"
 #include "folivar/document/Internal.h"
 #include "folivar/document/PDFText.h"
@@ -38,8 +37,7 @@ void PDFBookmark::BuildBookmarkText(const Internal& internal, PDFText& text,
                                     const OutlinePlace& place,
                                     const std::weak_ptr<PDFPages>& pages) const {
   // Deliberate: the title is not escaped; hosts pass titles that are, or have them escaped.
-  text.Append("<< /Title (", AnsiText(title_).Bytes(), ")\n/Parent ", Reference{place.parent},
-              "\n");
+  text.Append("<< /Title (", Ansi{title_.Utf16()}, ")\n/Parent ", Reference{place.parent}, "\n");
   if (place.previous != 0) text.Append("/Prev ", Reference{place.previous}, "\n");
   if (place.next != 0) text.Append("/Next ", Reference{place.next}, "\n");
   if (place.first != 0) {
@@ -53,21 +51,6 @@ void PDFBookmark::BuildBookmarkText(const Internal& internal, PDFText& text,
     throw Error(error.Number(), "PDFBookmark '" + title_.Utf8() + "': " + error.what());
   }
   text.Append(">>\n");
-}
-
-Text EscapeTitle(TextView text) {
-  const Text plain(text);
-  std::u16string escaped;
-  escaped.reserve(plain.Utf16().size());
-  for (const char16_t unit : plain.Utf16()) {
-    if (unit == u'\r') {
-      escaped += u"\\r";
-      continue;
-    }
-    if (unit == u'\\' || unit == u'(' || unit == u')') escaped += u'\\';
-    escaped += unit;
-  }
-  return Text::Of(std::move(escaped));
 }
 
 }  // namespace folivar

@@ -61,8 +61,4 @@ class FOLIVAR_API PDFBookmark final : public Tagged {
   bool expanded_ = false;
 };
 
-// The text as a title that readers show as it is: "a(b\c" becomes "a\(b\\c". Raises 5 for text that
-// is not UTF-8.
-FOLIVAR_API Text EscapeTitle(TextView text);
-
 }  // namespace folivar

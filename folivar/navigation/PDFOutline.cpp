@@ -48,7 +48,8 @@ void PDFOutline::NumberObjects(ObjectNumbers& numbers) {
     } else {
       At(previous).place.next = number;
     }
-    numbered_.push_back({bookmark, {.parent = parentNumber, .previous = previous}});
+    numbered_.push_back(
+        {bookmark, {.parent = parentNumber, .previous = previous}, bookmark->Expanded()});
     wait(bookmark->MadeSubBookmarks(Internal()), number);
   }
 
@@ -56,7 +57,7 @@ void PDFOutline::NumberObjects(ObjectNumbers& numbers) {
   for (std::size_t i = numbered_.size() - 1; i > 0; --i) {
     const Numbered& counted = numbered_[i];
     std::int32_t& visible = At(counted.place.parent).place.visibleCount;
-    visible += 1 + (counted.bookmark->Expanded() ? counted.place.visibleCount : 0);
+    visible += 1 + (counted.expanded ? counted.place.visibleCount : 0);
   }
 }
 
@@ -68,7 +69,8 @@ void PDFOutline::NumberObjects(ObjectNumbers& numbers) {
 //   >>
 //   endobj
 void PDFOutline::WriteObjects(SaveFile& file) {
-  const OutlinePlace& root = numbered_.front().place;
+  const std::vector<Numbered> numbered = std::exchange(numbered_, {});
+  const OutlinePlace& root = numbered.front().place;
   PDFText& text = file.BeginObject(objectNumber_);
   text.Append("<< /Type /Outlines\n");
   if (root.first != 0) {
@@ -79,12 +81,11 @@ void PDFOutline::WriteObjects(SaveFile& file) {
   file.EndObject();
 
   std::int32_t number = objectNumber_;
-  for (std::size_t i = 1; i < numbered_.size(); ++i) {
-    numbered_[i].bookmark->BuildBookmarkText(Internal(), file.BeginObject(++number),
-                                             numbered_[i].place, pages_);
+  for (std::size_t i = 1; i < numbered.size(); ++i) {
+    numbered[i].bookmark->BuildBookmarkText(Internal(), file.BeginObject(++number),
+                                            numbered[i].place, pages_);
     file.EndObject();
   }
-  numbered_ = {};
 }
 
 }  // namespace folivar

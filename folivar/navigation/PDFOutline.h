@@ -33,6 +33,7 @@ class PDFOutline final : public ObjectWriter {
   struct Numbered {
     std::shared_ptr<PDFBookmark> bookmark;  // null for the root
     OutlinePlace place{};
+    bool expanded = false;
   };
 
   Numbered& At(std::int32_t number) {

@@ -68,6 +68,19 @@ void Host(folivar::PDFPage& page, [[maybe_unused]] folivar::PDFTemplate& drawn,
   page.TextBoxes()->Item(1)->RegisterFaces({});
 #elif defined(CASE_TextBoxOfATextBox)
   page.TextBoxes()->Item(1)->TextBoxes();
+#elif defined(CASE_MakeBookmark)
+  std::make_shared<folivar::PDFBookmark>();
+#elif defined(CASE_MakeHyperLink)
+  std::make_shared<folivar::PDFHyperLink>();
+#elif defined(CASE_NumberHyperLinks)
+  page.HyperLinks()->NumberObjects(numbers);
+#elif defined(CASE_ReOrderHyperLinks)
+  page.HyperLinks()->ReOrder("key");
+#elif defined(CASE_RaisePageRemoved)
+  page.PageRemoved().Raise({}, page);
+#elif defined(CASE_CopySubscription)
+  auto subscription = page.PageRemoved().Subscribe([](folivar::PDFPage&) {});
+  auto copy = subscription;
 #elif defined(CASE_CharacterAsKey)
   page.SetTag('a');
 #elif defined(CASE_AppendNothingWrong)

@@ -111,8 +111,7 @@ TEST_F(EventTest, ASubscriptionMayOutliveItsEvent) {
 }
 
 TEST_F(EventTest, AHandlerOfOnePointerTakesNoMemory) {
-  // What is larger is kept elsewhere, and only a pointer to it here.
-  static_assert(sizeof(Subscription) <= 6 * sizeof(void*));
+  static_assert(sizeof(Subscription) == 4 * sizeof(void*));
   static_assert(sizeof(TestEvent) == 2 * sizeof(void*));
   int sum = 0;
   const Subscription small = event_->Subscribe([&sum](int number) { sum += number; });

@@ -172,6 +172,46 @@ class HeldWithTextBox {
   std::shared_ptr<PDFGraphicsState> state_;
 };
 
+// The same of a bookmark and a link that lead to a page.
+class HeldWithNavigation {
+ public:
+  HeldWithNavigation()
+      : document_(PDFDocument::Create()),
+        page_(document_->Pages()->Add()),
+        bookmarks_(document_->Bookmarks()),
+        below_(bookmarks_->Add("top")->SubBookmarks()->Add()),
+        links_(page_->HyperLinks()),
+        destination_(links_->Add("link")->Destination()) {
+    below_->Destination()->SetPage(page_);
+    destination_->SetPage(page_);
+  }
+
+  auto Parts() { return std::tie(document_, page_, bookmarks_, below_, links_, destination_); }
+
+  void UseWhatIsLeft() const {
+    const bool hasPage = document_ || page_;
+    if (below_) {
+      EXPECT_EQ(below_->Destination()->Page() != nullptr, hasPage);
+      below_->SubBookmarks()->Add()->Destination()->SetPage(page_);
+    }
+    if (destination_) {
+      EXPECT_EQ(destination_->Page() != nullptr, hasPage);
+      if (page_) destination_->SetPage(page_);
+    }
+    if (bookmarks_) bookmarks_->Add()->SetTitle("more");
+    if (links_) links_->Add()->Destination()->SetPage(page_);
+    if (document_) Save(*document_, "held.pdf", Check::kForm);
+  }
+
+ private:
+  std::shared_ptr<PDFDocument> document_;
+  std::shared_ptr<PDFPage> page_;
+  std::shared_ptr<PDFBookmarks> bookmarks_;
+  std::shared_ptr<PDFBookmark> below_;
+  std::shared_ptr<PDFHyperLinks> links_;
+  std::shared_ptr<PDFLinkDestination> destination_;
+};
+
 template <class Parts>
 void Release(Parts parts, std::size_t which) {
   std::size_t number = 0;
@@ -207,6 +247,10 @@ TEST(Lifetime, EveryOrderOfReleaseOfATemplateIsSafe) {
 
 TEST(Lifetime, EveryOrderOfReleaseOfATextBoxIsSafe) {
   EXPECT_EQ(ReleaseInEveryOrder<HeldWithTextBox>(), 720);
+}
+
+TEST(Lifetime, EveryOrderOfReleaseOfNavigationIsSafe) {
+  EXPECT_EQ(ReleaseInEveryOrder<HeldWithNavigation>(), 720);
 }
 
 TEST(Lifetime, NothingKeepsADocumentAlive) {

@@ -76,6 +76,12 @@ TEST(PDFText, EscapesBackslashesAndParentheses) {
   EXPECT_EQ(Appended(Escaped{""}), "");
 }
 
+TEST(PDFText, WritesATextAsBytesOfTheCodePage) {
+  EXPECT_EQ(Appended(Ansi{u"plain \u00E9"}), "plain \xE9");
+  EXPECT_EQ(Appended(Ansi{u"\u20AC(\u0416"}), "\x80(?");
+  EXPECT_EQ(Appended(Ansi{u""}), "");
+}
+
 TEST(PDFText, AppendsAllPartsOrNone) {
   PDFText text;
   text.Append("before");

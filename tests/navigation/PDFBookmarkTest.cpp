@@ -77,15 +77,6 @@ TEST_F(PDFBookmarkTest, ATitleThatIsNotUtf8Raises5AndTheOldOneStays) {
   EXPECT_EQ(bookmark_->Title(), "old");
 }
 
-TEST(EscapeTitle, EscapesWhatEndsAString) {
-  EXPECT_EQ(EscapeTitle("plain"), "plain");
-  EXPECT_EQ(EscapeTitle(""), "");
-  EXPECT_EQ(EscapeTitle("a(b\\c)"), "a\\(b\\\\c\\)");
-  EXPECT_EQ(EscapeTitle("one\rtwo\nthree"), "one\\rtwo\nthree");
-  EXPECT_EQ(EscapeTitle(u"\u20AC("), u"\u20AC\\(");
-  EXPECT_EQ(ErrorNumberOf([] { EscapeTitle("\xFF"); }), 5);
-}
-
 TEST_F(PDFBookmarkTest, AnEscapedTitleIsAStringOfItsOwn) {
   bookmark_->SetTitle(EscapeTitle(":-) \\"));
   EXPECT_EQ(ObjectText(3), "<< /Title (:-\\) \\\\)\n/Parent 2 0 R\n>>\n");
