@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -136,14 +137,16 @@ class RandomDocument {
   float Quarters(std::size_t limit) { return static_cast<float>(random_.Below(4 * limit)) / 4; }
 
   std::string RandomTitle() {
+    // Behind the accented letters always stands a hyphen: one of the characters that titles have
+    // from 0x80 on would make UTF-8 of them, which MuPDF then reads.
     static constexpr std::array<std::string_view, 14> kParts = {"(",
                                                                 ")",
                                                                 "\\",
                                                                 "Chapter",
                                                                 " ",
                                                                 "1",
-                                                                "\xC3\xA9",
-                                                                "\xC3\x9F",
+                                                                "\xC3\xA9-",
+                                                                "\xC3\x9F-",
                                                                 "(a)",
                                                                 ":-)",
                                                                 "\xE2\x80\x93",
@@ -261,7 +264,15 @@ TEST_P(NavigationReaders, SeeWhatWasAskedFor) {
   }
   const ToolResult told = test::Run(command);
   EXPECT_EQ(told.status, 0) << told.err;
-  EXPECT_EQ(told.out, expected);
+  std::istringstream toldLines(told.out);
+  std::istringstream expectedLines(expected);
+  std::string line;
+  std::string expectedLine;
+  while (std::getline(expectedLines, expectedLine)) {
+    ASSERT_TRUE(std::getline(toldLines, line)) << "missing: " << expectedLine;
+    ASSERT_EQ(line, expectedLine);
+  }
+  EXPECT_FALSE(std::getline(toldLines, line)) << line;
 }
 
 INSTANTIATE_TEST_SUITE_P(All, NavigationReaders, testing::Values("pdfjs", "qpdf", "mupdf"),
