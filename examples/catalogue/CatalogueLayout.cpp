@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <memory>
 
-#include "Box.h"
-#include "Ink.h"
+#include "common/Box.h"
+#include "common/Ink.h"
 #include "common/Color.h"
 #include "common/FittedText.h"
 

@@ -1,47 +1,11 @@
 #include "common/CsvReader.h"
 
-#include <folivar/folivar.h>
-
-#include <cerrno>
-#include <fstream>
-#include <sstream>
-#include <string_view>
-#include <system_error>
 #include <utility>
 
 #include "common/InputError.h"
+#include "common/InputText.h"
 
-namespace {
-
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
-std::string ReadFile(const std::string& path) {
-  errno = 0;
-  std::ifstream file(path, std::ios::binary);
-  if (!file) {
-    throw InputError(path, "cannot be opened: " + std::generic_category().message(errno));
-  }
-  std::ostringstream content;
-  const bool isEmpty = file.peek() == std::ifstream::traits_type::eof();
-  if (!isEmpty) content << file.rdbuf();
-  if (file.bad() || !content) throw InputError(path, "cannot be read");
-  return std::move(content).str();
-}
-
-bool IsUtf8(const std::string& text) {
-  try {
-    folivar::Text checked(text);
-    return true;
-  } catch (const folivar::Error&) {
-    return false;
-  }
-}
-
-}  // namespace
-
-CsvReader::CsvReader(const std::string& path) : path_(path), content_(ReadFile(path)) {
-  if (content_.starts_with(kByteOrderMark)) position_ = kByteOrderMark.size();
-}
+CsvReader::CsvReader(const std::string& path) : path_(path), content_(ReadInputFile(path)) {}
 
 std::optional<CsvRecord> CsvReader::Next() {
   while (!AtEnd() && AtLineEnd()) SkipLineEnd();

@@ -1,7 +1,32 @@
 #include "common/InputText.h"
 
+#include <folivar/folivar.h>
+
 #include <algorithm>
+#include <cerrno>
 #include <cstddef>
+#include <fstream>
+#include <sstream>
+#include <system_error>
+#include <utility>
+
+#include "common/InputError.h"
+
+std::string ReadInputFile(const std::string& path) {
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  errno = 0;
+  std::ifstream file(path, std::ios::binary);
+  if (!file) {
+    throw InputError(path, "cannot be opened: " + std::generic_category().message(errno));
+  }
+  std::ostringstream content;
+  const bool isEmpty = file.peek() == std::ifstream::traits_type::eof();
+  if (!isEmpty) content << file.rdbuf();
+  if (file.bad() || !content) throw InputError(path, "cannot be read");
+  std::string text = std::move(content).str();
+  if (text.starts_with(kByteOrderMark)) text.erase(0, kByteOrderMark.size());
+  return text;
+}
 
 std::string_view Trimmed(std::string_view text) {
   constexpr std::string_view kBlanks = " \t";
@@ -45,4 +70,13 @@ std::string Quoted(std::string_view name, std::string_view value) {
 
 bool IsAscii(std::string_view text) {
   return std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
+}
+
+bool IsUtf8(std::string_view text) {
+  try {
+    folivar::Text checked(text);
+    return true;
+  } catch (const folivar::Error&) {
+    return false;
+  }
 }

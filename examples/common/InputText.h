@@ -5,6 +5,10 @@
 
 // Text as input files have it; all of it is UTF-8.
 
+// The whole file, without a byte order mark at its front; not checked. Throws InputError for a file
+// that cannot be read.
+std::string ReadInputFile(const std::string& path);
+
 // Without the blanks and tabs at both ends.
 std::string_view Trimmed(std::string_view text);
 
@@ -19,3 +23,5 @@ std::string SingleLine(std::string_view text);
 std::string Quoted(std::string_view name, std::string_view value);
 
 bool IsAscii(std::string_view text);
+
+bool IsUtf8(std::string_view text);

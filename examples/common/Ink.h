@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "Box.h"
+#include "common/Box.h"
 
 // What is drawn on pages and on templates alike; a Surface is one of both.
 
