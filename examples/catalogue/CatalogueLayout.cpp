@@ -7,9 +7,9 @@
 #include <memory>
 
 #include "common/Box.h"
-#include "common/Ink.h"
 #include "common/Color.h"
 #include "common/FittedText.h"
+#include "common/Ink.h"
 
 using folivar::htaCenter;
 using folivar::PDFDocument;
