@@ -129,11 +129,11 @@ class Book {
   }
 
   // From the first line to where the page may break: behind a block that stays with the next one
-  // stands some of that.
+  // stands some of that. More than a page is as good as any.
   static float RoomNeeded(std::vector<LaidBlock>::const_iterator block,
                           std::vector<LaidBlock>::const_iterator end) {
     float room = 0;
-    for (; block->staysWithNext && block + 1 != end; ++block) {
+    for (; block->staysWithNext && block + 1 != end && room < kText.height; ++block) {
       room += block->HeightOf(block->lines.size()) + std::max(block->below, (block + 1)->above);
     }
     return room + block->HeightOf(std::min(block->leastLines, block->lines.size()));

@@ -4,7 +4,9 @@
 #include <array>
 #include <cstddef>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
+#include <vector>
 
 #include "common/InputError.h"
 #include "common/InputText.h"
@@ -135,7 +137,7 @@ class ManualReader {
     CloseText();
     if (manual_.title.empty()) throw InputError(path_, "there is no title");
     if (manual_.headings.empty()) throw InputError(path_, "there is no chapter");
-    for (const Reference& reference : references_) Resolve(reference);
+    ResolveReferences();
     return std::move(manual_);
   }
 
@@ -228,20 +230,22 @@ class ManualReader {
     }
   }
 
-  void Resolve(const Reference& reference) {
-    std::optional<std::size_t> target;
+  // Sets the headings that links lead to.
+  void ResolveReferences() {
+    std::unordered_map<std::string_view, std::vector<std::size_t>> called;
     for (std::size_t index = 0; index < manual_.headings.size(); ++index) {
-      if (manual_.headings[index].title != reference.title) continue;
-      if (target) {
-        throw InputError(path_, reference.line,
-                         "more than one heading is called '" + reference.title + "'");
+      called[manual_.headings[index].title].push_back(index);
+    }
+    for (const Reference& reference : references_) {
+      const std::vector<std::size_t>& targets = called[reference.title];
+      if (targets.size() != 1) {
+        throw InputError(
+            path_, reference.line,
+            (targets.empty() ? "no heading is called '" : "more than one heading is called '") +
+                reference.title + "'");
       }
-      target = index;
+      manual_.blocks[reference.block].spans[reference.span].target = targets.front();
     }
-    if (!target) {
-      throw InputError(path_, reference.line, "no heading is called '" + reference.title + "'");
-    }
-    manual_.blocks[reference.block].spans[reference.span].target = target;
   }
 
   const std::string& path_;
