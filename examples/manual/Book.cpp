@@ -129,14 +129,16 @@ class Book {
   }
 
   // From the first line to where the page may break: behind a block that stays with the next one
-  // stands some of that. More than a page is as good as any.
+  // stands some of that. What no page has room for need not stay together.
   static float RoomNeeded(std::vector<LaidBlock>::const_iterator block,
                           std::vector<LaidBlock>::const_iterator end) {
+    const float alone = block->HeightOf(block->leastLines);
     float room = 0;
     for (; block->staysWithNext && block + 1 != end && room < kText.height; ++block) {
       room += block->HeightOf(block->lines.size()) + std::max(block->below, (block + 1)->above);
     }
-    return room + block->HeightOf(std::min(block->leastLines, block->lines.size()));
+    room += block->HeightOf(block->leastLines);
+    return room <= kText.height ? room : alone;
   }
 
   void SetPlace(std::size_t heading) {

@@ -324,6 +324,10 @@ check "carriage returns, byte order mark: set" write '\xEF\xBB\xBFT\r\n\r\n# C\r
 check "carriage returns, byte order mark: shown" same "$(body_text text.pdf 3 3 | xargs)" "1 C x y"
 check "only a heading: set" write 'T\n\n# C\n'
 check "only a heading: pages" same "$(page_count text.pdf)" 3
+check "a hundred headings without text: set" \
+  write "T\n\n# C\n$(printf '## S %d\\n' {1..100})"
+# The title, 3 pages of contents, a page with the chapter and 12 sections, then 15 on each.
+check "a hundred headings without text: fill their pages" same "$(page_count text.pdf)" 11
 check "an empty code block: set" write "T\n\n# C\n\n\`\`\`\n\`\`\`\n"
 
 word=$(printf 'x%.0s' {1..900})
