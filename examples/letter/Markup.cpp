@@ -1,13 +1,12 @@
 #include "Markup.h"
 
-#include <cerrno>
 #include <cstddef>
-#include <fstream>
+#include <sstream>
 #include <string_view>
-#include <system_error>
 #include <utility>
 
 #include "common/InputError.h"
+#include "common/InputText.h"
 
 namespace {
 
@@ -73,10 +72,7 @@ bool Takes(std::string_view& line, std::string_view mark) {
 }  // namespace
 
 std::vector<Block> ReadMarkup(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  if (!file) {
-    throw InputError(path, "cannot be opened: " + std::generic_category().message(errno));
-  }
+  std::istringstream file(ReadInputFile(path));
   std::vector<Block> blocks;
   std::string text;
   bool isOpen = false;
@@ -106,7 +102,6 @@ std::vector<Block> ReadMarkup(const std::string& path) {
     isOpen = true;
     if (isHeading) close();
   }
-  if (file.bad()) throw InputError(path, "cannot be read");
   close();
   return blocks;
 }
