@@ -50,14 +50,15 @@ class Event {
     Link* next = this;
   };
 
-  // What is called: a callable of one pointer, whose bits are here, or one that is kept elsewhere
-  // and shared by the copies.
+  // What is called: a callable of one pointer that never changes, whose bits are here, or one that
+  // is kept elsewhere and shared by the copies.
   class Handler {
    public:
     Handler() = default;
     template <class Callable>
     explicit Handler(Callable callable) {
-      if constexpr (sizeof(Callable) == sizeof(void*) && std::is_trivially_copyable_v<Callable>) {
+      if constexpr (sizeof(Callable) == sizeof(void*) && std::is_trivially_copyable_v<Callable> &&
+                    std::is_invocable_v<const Callable&, Args...>) {
         static constexpr Kind kKind = {
             [](void* bits, Args... args) { std::bit_cast<Callable>(bits)(args...); }, nullptr,
             nullptr};

@@ -110,13 +110,26 @@ TEST_F(EventTest, ASubscriptionMayOutliveItsEvent) {
   EXPECT_EQ(Raise(), "c");
 }
 
-TEST_F(EventTest, AHandlerOfOnePointerTakesNoMemory) {
+TEST_F(EventTest, SubscriptionsAreFourPointersAndEventsTwo) {
   static_assert(sizeof(Subscription) == 4 * sizeof(void*));
   static_assert(sizeof(TestEvent) == 2 * sizeof(void*));
   int sum = 0;
   const Subscription small = event_->Subscribe([&sum](int number) { sum += number; });
   Raise();
   EXPECT_EQ(sum, 1);
+}
+
+TEST_F(EventTest, AHandlerKeepsWhatItChangesInItself) {
+  Event<std::string&> event;
+  const auto small = event.Subscribe(
+      [calls = std::size_t{0}](std::string& told) mutable { told += std::to_string(++calls); });
+  const auto large = event.Subscribe([calls = std::string()](std::string& told) mutable {
+    calls += 'x';
+    told += calls;
+  });
+  std::string told;
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(event.Raise(Internal(), told), nullptr);
+  EXPECT_EQ(told, "1x2xx3xxx");
 }
 
 TEST_F(EventTest, AHandlerMayUnsubscribeItself) {
