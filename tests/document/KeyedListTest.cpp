@@ -178,6 +178,24 @@ TEST_F(KeyedListOfThree, ItemAndRemoveRaise) {
   EXPECT_EQ(list_.Count(), 3U);
 }
 
+TEST(KeyedList, RemovesAnItemWhereverItIs) {
+  KeyedList<int> list("numbers");
+  const auto itemsAfter = [&](int item, const Value& likely) {
+    list.RemoveItem(item, likely);
+    std::vector<int> items;
+    list.ForEach([&](int each) { items.push_back(each); });
+    return items;
+  };
+  for (int item = 1; item <= 6; ++item) list.Add(item, item == 4 ? "d" : "", {}, {});
+  EXPECT_EQ(itemsAfter(2, 2), (Items{1, 3, 4, 5, 6})) << "at the likely place";
+  EXPECT_EQ(itemsAfter(5, 1), (Items{1, 3, 4, 6})) << "elsewhere";
+  EXPECT_EQ(itemsAfter(6, 9), (Items{1, 3, 4})) << "the likely place does not exist";
+  EXPECT_EQ(itemsAfter(4, "D"), (Items{1, 3}));
+  EXPECT_FALSE(list.KeyExists("d"));
+  EXPECT_EQ(itemsAfter(7, 1), (Items{1, 3})) << "no entry has it";
+  EXPECT_EQ(list.Count(), 2U);
+}
+
 TEST_F(KeyedListOfThree, KeyExistsNeverRaises) {
   EXPECT_TRUE(list_.KeyExists("A"));
   EXPECT_TRUE(list_.KeyExists(3));

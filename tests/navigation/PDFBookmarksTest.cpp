@@ -75,6 +75,14 @@ TEST_F(PDFBookmarksTest, DeliberateReOrderIgnoresAfterWhenBothPlacesAreGiven) {
   EXPECT_EQ(Keys(), "cab");
 }
 
+TEST_F(PDFBookmarksTest, DeliberateReOrderToAPlaceThatDoesNotExistRemovesTheBookmark) {
+  for (const char* key : {"a", "b", "c"}) bookmarks_->Add(key);
+  bookmarks_->ReOrder("a", 3);
+  EXPECT_EQ(Keys(), "bc") << "without it there are two places";
+  bookmarks_->ReOrder("b", {}, "b");
+  EXPECT_EQ(Keys(), "c") << "the bookmark itself is no place";
+}
+
 TEST_F(PDFBookmarksTest, ARemovedSubtreeIsNotWrittenAndStaysUsable) {
   const auto page = document_->Pages()->Add();
   const auto kept = bookmarks_->Add("kept");
