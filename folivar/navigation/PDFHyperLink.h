@@ -17,8 +17,8 @@ class PDFPages;
 class PDFText;
 
 // A rectangle on a page that leads to a place in the document when it is clicked; made by
-// PDFHyperLinks::Add. Its region is on its own page. No setter checks its value; a number that PDF
-// cannot hold raises 6 when the document is saved.
+// PDFHyperLinks::Add. Its region is on its own page. A number that PDF cannot hold raises 6 when
+// the document is saved.
 class FOLIVAR_API PDFHyperLink final : public Tagged, public Region {
  public:
   PDFHyperLink(const Internal&, Text key);
@@ -26,7 +26,7 @@ class FOLIVAR_API PDFHyperLink final : public Tagged, public Region {
   // Where it leads; the same object each time. A link that leads nowhere is still written.
   std::shared_ptr<PDFLinkDestination> Destination();
 
-  // lhaUserDefault at first.
+  // lhaUserDefault at first; not checked.
   PDFLinkHighlightAction LinkHighlightAction() const { return highlight_; }
   void SetLinkHighlightAction(PDFLinkHighlightAction action) { highlight_ = action; }
 

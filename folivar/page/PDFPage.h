@@ -150,7 +150,7 @@ class FOLIVAR_API PDFPage final : public Tagged, public ObjectWriter {
   float height_ = 792;
   ClipBox clipBox_{-1, -1, -1, -1};
   bool isBeingRemoved_ = false;
-  std::int32_t objectNumber_ = 0;  // 0 for a page that is not among a document's pages
+  std::int32_t objectNumber_ = 0;  // 0 before the first save, and once removed
   std::int32_t contentNumber_ = 0;
 };
 

@@ -124,7 +124,7 @@ TEST_F(PDFLinkDestinationTest, APageMovedBackToItsPlaceIsWrittenAgain) {
   EXPECT_EQ(Line(), "/Dest [ 5 0 R /XYZ 0  0  0  ]\n");
 }
 
-TEST_F(PDFLinkDestinationTest, APageRemovedInTheMidstOfASaveInAHandlerIsNotWritten) {
+TEST_F(PDFLinkDestinationTest, APageSavedInTheMidstOfItsRemovalIsNotWrittenLater) {
   const auto subscription = page_->PageRemoved().Subscribe([this](PDFPage&) {
     Save(*document_, "midst.pdf", Check::kForm);  // the page is still there, and gets a number
     destination_->SetPage(page_);                 // too late to be told
