@@ -1,10 +1,10 @@
 #include "folivar/navigation/PDFHyperLink.h"
 
-#include <string>
 #include <utility>
 
 #include "folivar/document/Error.h"
 #include "folivar/document/Internal.h"
+#include "folivar/document/KeyedName.h"
 #include "folivar/document/PDFText.h"
 
 namespace folivar {
@@ -39,8 +39,7 @@ void PDFHyperLink::BuildAnnotationText(const Internal& internal, PDFText& text,
     destination_.AppendDestination(internal, text, pages);
     AppendBorder(text);
   } catch (const Error& error) {
-    const std::string name = key_.IsEmpty() ? " without a key" : " '" + key_.Utf8() + "'";
-    throw Error(error.Number(), "PDFHyperLink" + name + ": " + error.what());
+    throw Error(error.Number(), KeyedName("PDFHyperLink", key_) + ": " + error.what());
   }
   // Deliberate: black is 0, which stands for the reader's own choice, and that is black.
   if (borderColor_ != 0) {

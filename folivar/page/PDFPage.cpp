@@ -6,6 +6,7 @@
 #include "folivar/document/Error.h"
 #include "folivar/document/InMember.h"
 #include "folivar/document/Internal.h"
+#include "folivar/document/KeyedName.h"
 #include "folivar/document/ObjectNumbers.h"
 #include "folivar/document/PDFDocument.h"
 #include "folivar/document/PDFPages.h"
@@ -174,9 +175,8 @@ void PDFPage::BuildPageObject(PDFText& text) const {
   try {
     AppendBoxes(text);
   } catch (const Error& error) {
-    const std::string name = key_.IsEmpty() ? " without a key" : " '" + key_.Utf8() + "'";
-    throw Error(error.Number(),
-                "The extents or the clip box of the PDFPage" + name + ": " + error.what());
+    throw Error(error.Number(), "The extents or the clip box of the " + KeyedName("PDFPage", key_) +
+                                    ": " + error.what());
   }
   text.Append("/Contents ", Reference{contentNumber_}, "\n/Resources ");
   surface_->ResourceDictionary().BuildResourceText(text);

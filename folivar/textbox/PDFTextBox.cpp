@@ -13,6 +13,7 @@
 #include "folivar/document/Global.h"
 #include "folivar/document/InMember.h"
 #include "folivar/document/Internal.h"
+#include "folivar/document/KeyedName.h"
 #include "folivar/document/PDFText.h"
 #include "folivar/fonts/FontMetrics.h"
 #include "folivar/fonts/PDFFont.h"
@@ -59,10 +60,6 @@ Value ValueOf(const std::optional<T>& answer) {
   return answer ? Value(*answer) : Value::Null();
 }
 
-std::string NameOf(const PDFTextBox& box) {
-  return box.Key().IsEmpty() ? "without a key" : "'" + box.Key().Utf8() + "'";
-}
-
 }  // namespace
 
 PDFTextBox::PDFTextBox(const Internal&, std::weak_ptr<Object> parent,
@@ -80,7 +77,8 @@ PDFTextBox::~PDFTextBox() = default;
 
 std::shared_ptr<Object> PDFTextBox::Parent() const {
   if (auto parent = parent_.lock()) return parent;
-  throw Error::ObjectNotSet("Parent: the owner of the PDFTextBox " + NameOf(*this) + " is gone");
+  throw Error::ObjectNotSet("Parent: the owner of the " + KeyedName("PDFTextBox", key_) +
+                            " is gone");
 }
 
 float PDFTextBox::Bottom() const {
@@ -155,7 +153,7 @@ void PDFTextBox::Copy(const std::shared_ptr<PDFTextBox>& source) {
   InMember("PDFTextBox.Copy", [&] {
     if (!source) throw Error::ObjectNotSet("no text box is given");
     if (!parentSurface_->IsOfSameDocument(*source->parentSurface_)) {
-      throw Error::InvalidArgument("the text box " + NameOf(*source) +
+      throw Error::InvalidArgument("the " + KeyedName("text box", source->key_) +
                                    " belongs to another document");
     }
     if (source.get() == this) return;
@@ -385,7 +383,7 @@ void PDFTextBox::RegisterFaces(const Internal&) const {
 }
 
 void PDFTextBox::RenderTextBox(const Internal&, PDFText& content) {
-  const std::string member = "The PDFTextBox " + NameOf(*this);
+  const std::string member = "The " + KeyedName("PDFTextBox", key_);
   InMember(member.c_str(), [&] {
     if (autoSize_) AutoSizeBox();
     const AnsiText ansi(text_);

@@ -137,6 +137,10 @@ TEST_F(PDFHyperLinkTest, ANumberThatPdfCannotHoldNamesTheLink) {
             "below 2^31");
   link_->Destination()->SetZoom(0);
   EXPECT_NE(ObjectText(), "") << "the failures changed nothing";
+  page_->HyperLinks()->Add()->SetLeft(3e9F);
+  EXPECT_EQ(ErrorTextOf([&] { ObjectText(); }),
+            "PDFHyperLink without a key: a value of 3e+09 cannot be written: PDF numbers are below "
+            "2^31");
 }
 
 }  // namespace
