@@ -56,18 +56,55 @@ constexpr auto kEscapes = std::to_array<std::pair<char16_t, std::u16string_view>
     {0xFB02, u"\\224"},                  // fl
 });
 
+// Null for a character without a row.
+const std::u16string_view* EscapeOf(char16_t unit) {
+  const auto* row =
+      std::lower_bound(kEscapes.begin(), kEscapes.end(), unit,
+                       [](const auto& escape, char16_t wanted) { return escape.first < wanted; });
+  return row != kEscapes.end() && row->first == unit ? &row->second : nullptr;
+}
+
+// Whether PDFDocEncoding has the character at the byte that code page 1252 has it at.
+bool IsPlain(char16_t unit) {
+  return unit == u'\t' || unit == u'\n' || (unit >= u' ' && unit <= u'~') ||
+         (unit > 0x00A0 && unit <= 0x00FF && unit != 0x00AD);
+}
+
+// Whether readers would take the title for PDFDocEncoding, and find every character there.
+bool IsInPdfDocEncoding(std::u16string_view text) {
+  // Byte order marks, of UTF-16 and of UTF-8.
+  if (text.starts_with(u"\u00FE\u00FF") || text.starts_with(u"\u00EF\u00BB\u00BF")) return false;
+  return std::all_of(text.begin(), text.end(),
+                     [](char16_t unit) { return IsPlain(unit) || EscapeOf(unit) != nullptr; });
+}
+
+void AppendByte(std::u16string& escaped, unsigned byte) {
+  constexpr std::u16string_view kDigits = u"01234567";
+  escaped += {u'\\', kDigits[byte >> 6], kDigits[byte >> 3 & 7], kDigits[byte & 7]};
+}
+
+// "\376\377\004\026" for the Cyrillic letter U+0416: UTF-16 with its mark, byte by byte.
+std::u16string EscapedUtf16(std::u16string_view text) {
+  std::u16string escaped = u"\\376\\377";
+  for (const char16_t unit : text) {
+    AppendByte(escaped, unit >> 8);
+    AppendByte(escaped, unit & 0xFF);
+  }
+  return escaped;
+}
+
 }  // namespace
 
 Text EscapeTitle(TextView text) {
   const Text plain(text);
+  const std::u16string_view units = plain.Utf16();
+  if (!IsInPdfDocEncoding(units)) return Text::Of(EscapedUtf16(units));
+
   std::u16string escaped;
-  escaped.reserve(plain.Utf16().size());
-  for (const char16_t unit : plain.Utf16()) {
-    const auto* row =
-        std::lower_bound(kEscapes.begin(), kEscapes.end(), unit,
-                         [](const auto& escape, char16_t wanted) { return escape.first < wanted; });
-    if (row != kEscapes.end() && row->first == unit) {
-      escaped += row->second;
+  escaped.reserve(units.size());
+  for (const char16_t unit : units) {
+    if (const std::u16string_view* escape = EscapeOf(unit)) {
+      escaped += *escape;
     } else {
       escaped += unit;
     }

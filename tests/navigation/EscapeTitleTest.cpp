@@ -26,7 +26,18 @@ TEST(EscapeTitle, SaysOtherwiseWhatTitlesHaveAtOtherBytes) {
   EXPECT_EQ(EscapeTitle(u"12\u00A0kg"), "12 kg");
 }
 
-TEST(EscapeTitle, LeavesWhatNothingCanHold) { EXPECT_EQ(EscapeTitle(u"\u0416"), u"\u0416"); }
+TEST(EscapeTitle, SaysInUtf16WhatOneByteCannotHold) {
+  EXPECT_EQ(EscapeTitle(u"\u0416"), "\\376\\377\\004\\026");
+  EXPECT_EQ(EscapeTitle(u"A\u20AC\u0416"), "\\376\\377\\000\\101\\040\\254\\004\\026");
+  EXPECT_EQ(EscapeTitle(u"\U0001F600"), "\\376\\377\\330\\075\\336\\000");
+  EXPECT_EQ(EscapeTitle(u"soft\u00AD").Utf8().substr(0, 8), "\\376\\377");
+}
+
+TEST(EscapeTitle, KeepsTextFromLookingLikeAByteOrderMark) {
+  EXPECT_EQ(EscapeTitle(u"\u00FE\u00FF"), "\\376\\377\\000\\376\\000\\377");
+  EXPECT_EQ(EscapeTitle(u"\u00EF\u00BB\u00BF"), "\\376\\377\\000\\357\\000\\273\\000\\277");
+  EXPECT_EQ(EscapeTitle(u"a\u00FE\u00FF"), u"a\u00FE\u00FF");
+}
 
 TEST(EscapeTitle, TextThatIsNotUtf8Raises5) {
   EXPECT_EQ(ErrorNumberOf([] { EscapeTitle("\xFF"); }), 5);

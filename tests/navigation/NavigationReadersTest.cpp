@@ -139,7 +139,7 @@ class RandomDocument {
   std::string RandomTitle() {
     // Behind the accented letters always stands a hyphen: one of the characters that titles have
     // from 0x80 on would make UTF-8 of them, which MuPDF then reads.
-    static constexpr std::array<std::string_view, 14> kParts = {"(",
+    static constexpr std::array<std::string_view, 15> kParts = {"(",
                                                                 ")",
                                                                 "\\",
                                                                 "Chapter",
@@ -152,7 +152,8 @@ class RandomDocument {
                                                                 "\xE2\x80\x93",
                                                                 "\xE2\x82\xAC",
                                                                 "\xE2\x80\x9C",
-                                                                "\xC5\x81"};
+                                                                "\xC5\x81",
+                                                                "\xD0\x96"};
     std::string title = std::to_string(titleCount_++);
     for (std::size_t i = random_.Below(12); i > 0; --i)
       title += kParts[random_.Below(kParts.size())];
