@@ -54,7 +54,9 @@ file(
 
 #include \"folivar/fonts/StandardFaceFiles.h\"
 
+#include <cstddef>
 #include <iterator>
+#include <span>
 #include <string_view>
 
 namespace folivar {
@@ -62,10 +64,12 @@ namespace {
 
 using namespace std::string_view_literals;
 
-${arrays}}  // namespace
-
-constinit const StandardFaceFile kStandardFaceFiles[${face_count}] = {
+${arrays}constexpr StandardFaceFile kFiles[${face_count}] = {
 ${table}};
+
+}  // namespace
+
+std::span<const StandardFaceFile, kStandardFaceCount> StandardFaceFiles() { return kFiles; }
 
 }  // namespace folivar
 ")

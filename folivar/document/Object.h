@@ -1,8 +1,10 @@
 #pragma once
 
 #include <memory>
+#include <utility>
 
 #include "folivar/document/Api.h"
+#include "folivar/document/HostPeer.h"
 
 namespace folivar {
 
@@ -15,6 +17,11 @@ class FOLIVAR_API Object : public std::enable_shared_from_this<Object> {
   Object(const Object&) = delete;
   Object& operator=(const Object&) = delete;
 
+  // For bindings to other object systems: what one keeps with the object, for as long as the object
+  // lives. Null at first.
+  HostPeer* Peer() const { return peer_.get(); }
+  void SetPeer(std::unique_ptr<HostPeer> peer) { peer_ = std::move(peer); }
+
  protected:
   Object() = default;
 
@@ -23,6 +30,9 @@ class FOLIVAR_API Object : public std::enable_shared_from_this<Object> {
   std::shared_ptr<T> Shared() {
     return std::static_pointer_cast<T>(shared_from_this());
   }
+
+ private:
+  std::unique_ptr<HostPeer> peer_;
 };
 
 }  // namespace folivar

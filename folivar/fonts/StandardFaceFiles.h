@@ -1,13 +1,13 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
+#include <span>
 #include <string_view>
 
 namespace folivar {
 
-// A metrics file built into the library: the build makes these from fonts/afm. The text is in
-// pieces, since some compilers take no long ones; put together they are the file, byte for byte.
+// A metrics file built into the library. The text is in pieces, since some compilers take no long
+// ones; put together they are the file, byte for byte.
 struct StandardFaceFile {
   std::string_view name;  // the face's
   const std::string_view* pieces;
@@ -16,7 +16,8 @@ struct StandardFaceFile {
 
 inline constexpr std::size_t kStandardFaceCount = 14;
 
-// Sorted by name.
-extern const StandardFaceFile kStandardFaceFiles[kStandardFaceCount];
+// The files of fonts/afm, sorted by name; there for the whole run. The build makes the source of
+// this function, except for the automation component, which has the files as resources.
+std::span<const StandardFaceFile, kStandardFaceCount> StandardFaceFiles();
 
 }  // namespace folivar

@@ -30,7 +30,7 @@ AfmMetrics ReadFace(const StandardFaceFile& file) {
 
 }  // namespace
 
-std::string_view StandardFaceName(std::size_t face) { return kStandardFaceFiles[face].name; }
+std::string_view StandardFaceName(std::size_t face) { return StandardFaceFiles()[face].name; }
 
 std::optional<std::size_t> FindStandardFace(TextView name) {
   const std::u16string wanted = FoldCase(name);
@@ -43,7 +43,7 @@ std::optional<std::size_t> FindStandardFace(TextView name) {
 const AfmMetrics& StandardFaceMetrics(std::size_t face) {
   static std::array<Cached, kStandardFaceCount> cache;
   Cached& cached = cache[face];
-  std::call_once(cached.isRead, [&] { cached.metrics = ReadFace(kStandardFaceFiles[face]); });
+  std::call_once(cached.isRead, [&] { cached.metrics = ReadFace(StandardFaceFiles()[face]); });
   return cached.metrics;
 }
 

@@ -1,0 +1,7 @@
+#include "folivar/document/HostPeer.h"
+
+namespace folivar {
+
+HostPeer::~HostPeer() = default;
+
+}  // namespace folivar
