@@ -26,7 +26,7 @@ class MessageBoxWarnings final : public Warnings {
   void Show(const Text& message) override {
     const std::wstring text(message.Utf16().begin(), message.Utf16().end());
     if (HasVisibleDesktop() &&
-        MessageBoxW(nullptr, text.c_str(), nullptr, MB_OK | MB_TASKMODAL) > 0) {
+        MessageBoxW(nullptr, text.c_str(), L"Folivar", MB_OK | MB_TASKMODAL) > 0) {
       return;
     }
     OutputDebugStringW((text + L'\n').c_str());

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <wrl/client.h>
+
+#include <iterator>
+#include <memory>
+#include <vector>
+
+#include "com/ComPrefix.h"
+#include "com/EnumVariant.h"
+#include "com/Peer.h"
+#include "folivar/document/Value.h"
+
+namespace folivar::com {
+
+// The face of a collection; those that can take members out are ShrinkingCollectionPeers, those
+// that can move them OrderedCollectionPeers.
+template <class Core>
+class CollectionPeer : public Peer<Core> {
+ public:
+  using Member = typename decltype(std::declval<Core>().Item(Value()))::element_type;
+  using MemberInterface = typename Automation<Member>::Interface;
+
+  using Peer<Core>::Peer;
+
+  STDMETHODIMP Add(BSTR key, VARIANT before, VARIANT after, MemberInterface** result) override {
+    return this->Get(result, &Core::Add, key, Index{before}, Index{after});
+  }
+  STDMETHODIMP get_Item(VARIANT indexOrKey, MemberInterface** result) override {
+    return this->Get(result, &Core::Item, Index{indexOrKey});
+  }
+  STDMETHODIMP get_count(LONG* result) override { return this->Get(result, &Core::count); }
+  STDMETHODIMP get_NewEnum(IUnknown** result) override {
+    return this->Guard([&] {
+      RequirePointer(result);
+      *result = nullptr;
+      auto members = std::make_shared<std::vector<std::shared_ptr<Member>>>();
+      for (const auto& member : this->TheCore()) members->push_back(member);
+      Microsoft::WRL::ComPtr<IUnknown> walk(
+          new EnumVariant<Member>(std::move(members), this->TheDocument()));
+      *result = walk.Detach();
+    });
+  }
+  STDMETHODIMP KeyExists(VARIANT indexOrKey, VARIANT_BOOL* result) override {
+    return this->Get(result, &Core::template KeyExists<Value>, Index{indexOrKey});
+  }
+};
+
+template <class Core>
+class ShrinkingCollectionPeer : public CollectionPeer<Core> {
+ public:
+  using CollectionPeer<Core>::CollectionPeer;
+
+  STDMETHODIMP Remove(VARIANT indexOrKey) override {
+    return this->Call(&Core::Remove, Index{indexOrKey});
+  }
+};
+
+template <class Core>
+class OrderedCollectionPeer : public ShrinkingCollectionPeer<Core> {
+ public:
+  using ShrinkingCollectionPeer<Core>::ShrinkingCollectionPeer;
+
+  STDMETHODIMP ReOrder(BSTR key, VARIANT before, VARIANT after) override {
+    return this->Call(&Core::template ReOrder<Value, Value>, key, Index{before}, Index{after});
+  }
+};
+
+}  // namespace folivar::com
