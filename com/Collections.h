@@ -1,13 +1,10 @@
 #pragma once
 
-#include <wrl/client.h>
-
-#include <iterator>
-#include <memory>
+#include <utility>
 #include <vector>
 
 #include "com/ComPrefix.h"
-#include "com/EnumVariant.h"
+#include "com/Enumerator.h"
 #include "com/Peer.h"
 #include "folivar/document/Value.h"
 
@@ -34,11 +31,16 @@ class CollectionPeer : public Peer<Core> {
     return this->Guard([&] {
       RequirePointer(result);
       *result = nullptr;
-      auto members = std::make_shared<std::vector<std::shared_ptr<Member>>>();
-      for (const auto& member : this->TheCore()) members->push_back(member);
-      Microsoft::WRL::ComPtr<IUnknown> walk(
-          new EnumVariant<Member>(std::move(members), this->TheDocument()));
-      *result = walk.Detach();
+      std::vector<Shared<Member>> members;
+      for (const Shared<Member>& member : this->TheCore()) members.push_back(member);
+      // The walk keeps the document.
+      const auto give = [document = this->TheDocument()](const Shared<Member>& member,
+                                                         VARIANT& element) {
+        VariantInit(&element);
+        element.pdispVal = HandOut(member, document);
+        element.vt = VT_DISPATCH;
+      };
+      *result = Enumerate<IEnumVARIANT, VARIANT>(std::move(members), give);
     });
   }
   STDMETHODIMP KeyExists(VARIANT indexOrKey, VARIANT_BOOL* result) override {

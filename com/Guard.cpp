@@ -48,9 +48,10 @@ HRESULT Report(const IID& source, std::int32_t number, const char* text) noexcep
 
 }  // namespace
 
-HRESULT ReportException(const IID& source) noexcept {
+HRESULT RunGuarded(const IID& source, void (*action)(void* context), void* context) noexcept {
   try {
-    throw;
+    action(context);
+    return S_OK;
   } catch (const Error& error) {
     return Report(source, error.Number(), error.what());
   } catch (const std::bad_alloc&) {

@@ -1,26 +1,22 @@
 #pragma once
 
-#include <utility>
-
 #include "com/ComPrefix.h"
 
 namespace folivar::com {
 
-// The exception in flight as automation has it: its HRESULT, and an error object with source and
-// text for the thread. An Error's number n becomes 0x800A0000 + n, which scripts see as n; a number
-// that is an HRESULT already stays. Out of memory is 7, anything else 51.
-HRESULT ReportException(const IID& source) noexcept;
+// Runs `action(context)`, which is what a method does. Nothing is thrown across the boundary, since
+// an exception would end the host: it becomes an HRESULT, with an error object for the thread that
+// has source and text. An Error's number n becomes 0x800A0000 + n, which scripts see as n; a number
+// that is an HRESULT already stays. Out of memory is 7, anything else 51. `source` is the interface
+// that the method belongs to.
+HRESULT RunGuarded(const IID& source, void (*action)(void* context), void* context) noexcept;
 
-// Runs what a method does. Nothing is thrown across the boundary: an exception would end the host.
-// `source` is the interface that the method belongs to.
+// The same for anything that can be called.
 template <class Action>
-HRESULT Guarded(const IID& source, Action&& action) noexcept {
-  try {
-    std::forward<Action>(action)();
-    return S_OK;
-  } catch (...) {
-    return ReportException(source);
-  }
+HRESULT Guarded(const IID& source, const Action& action) noexcept {
+  return RunGuarded(
+      source, [](void* context) { (*static_cast<const Action*>(context))(); },
+      const_cast<Action*>(&action));
 }
 
 // Raises E_POINTER for a result that has nowhere to go.

@@ -148,8 +148,8 @@ class Peer : public Automation<Core>::Interface,
   const Shared<PDFDocument>& TheDocument() const { return pinnedDocument_; }
 
   template <class Action>
-  HRESULT Guard(Action&& action) const noexcept {
-    return Guarded(__uuidof(Interface), std::forward<Action>(action));
+  HRESULT Guard(const Action& action) const noexcept {
+    return Guarded(__uuidof(Interface), action);
   }
 
   // Calls a member of the core that has no result.

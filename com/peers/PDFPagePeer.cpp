@@ -1,9 +1,13 @@
+#include <wrl/client.h>
+
+#include "com/Enumerator.h"
+#include "com/PageEvents.h"
 #include "com/Peer.h"
 
 namespace folivar::com {
 namespace {
 
-class PDFPagePeer final : public TaggedPeer<PDFPage> {
+class PDFPagePeer final : public TaggedPeer<PDFPage, IConnectionPointContainer> {
  public:
   using TaggedPeer::TaggedPeer;
 
@@ -68,6 +72,35 @@ class PDFPagePeer final : public TaggedPeer<PDFPage> {
   STDMETHODIMP get_HyperLinks(_PDFHyperLinks** result) override {
     return Get(result, &PDFPage::HyperLinks);
   }
+
+  // IConnectionPointContainer
+  STDMETHODIMP EnumConnectionPoints(IEnumConnectionPoints** result) override {
+    return Guard([&] {
+      RequirePointer(result);
+      *result = nullptr;
+      using Point = Microsoft::WRL::ComPtr<IConnectionPoint>;
+      const auto give = [](const Point& point, IConnectionPoint*& element) {
+        element = point.Get();
+        element->AddRef();
+      };
+      *result = Enumerate<IEnumConnectionPoints, IConnectionPoint*>(
+          std::vector<Point>{Point(&events_)}, give);
+    });
+  }
+  STDMETHODIMP FindConnectionPoint(REFIID iid, IConnectionPoint** result) override {
+    if (result == nullptr) return E_POINTER;
+    *result = nullptr;
+    if (iid != EventsId()) return CONNECT_E_NOCONNECTION;
+    *result = &events_;
+    events_.AddRef();
+    return S_OK;
+  }
+
+ protected:
+  const GUID& EventsId() const override { return __uuidof(__PDFPage); }
+
+ private:
+  PageEvents events_{*this};
 };
 
 }  // namespace

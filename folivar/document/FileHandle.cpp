@@ -7,23 +7,16 @@ namespace folivar {
 namespace {
 
 // Null, with errno set, when the file cannot be opened.
-std::FILE* Open(const std::filesystem::path& path, FileAction action) {
+std::FILE* Open(const Text& name, FileAction action) {
 #ifdef _WIN32
+  const std::wstring path(name.Utf16().begin(), name.Utf16().end());
   return _wfopen(path.c_str(), action == FileAction::kRead ? L"rb" : L"wb");
 #else
-  return std::fopen(path.c_str(), action == FileAction::kRead ? "rb" : "wb");
+  return std::fopen(name.Utf8().c_str(), action == FileAction::kRead ? "rb" : "wb");
 #endif
 }
 
 }  // namespace
-
-std::filesystem::path PathOf(const Text& name) {
-#ifdef _WIN32
-  return name.Utf16();
-#else
-  return name.Utf8();
-#endif
-}
 
 void CheckFileName(const Text& name) {
   if (name.IsEmpty()) throw Error::BadFileName("A file name is wanted: it is empty");
@@ -35,7 +28,7 @@ void CheckFileName(const Text& name) {
 FileHandle OpenFile(const Text& name, FileAction action) {
   CheckFileName(name);
   errno = 0;
-  FileHandle file(Open(PathOf(name), action));
+  FileHandle file(Open(name, action));
   if (!file) throw FileError(action, name.Utf8(), errno);
   std::setvbuf(file.get(), nullptr, _IONBF, 0);
   return file;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdio>
-#include <filesystem>
 #include <memory>
 #include <string>
 
@@ -12,9 +11,6 @@ namespace folivar {
 
 // Raises 52 for an empty name and for one that holds a NUL character.
 void CheckFileName(const Text& name);
-
-// A file name as the system takes it.
-std::filesystem::path PathOf(const Text& name);
 
 struct FileCloser {
   void operator()(std::FILE* file) const { std::fclose(file); }

@@ -2,8 +2,8 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <filesystem>
-#include <system_error>
+
+#include "folivar/platform/FileSystem.h"
 
 namespace folivar {
 namespace {
@@ -24,10 +24,7 @@ std::int64_t PositionIn(std::FILE* file) { return ftello(file); }
 
 FileSource::FileSource(const Text& name) : name_(name.Utf8()) {
   // Some systems open a folder like a file, others refuse it like one that is locked.
-  std::error_code error;
-  if (std::filesystem::is_directory(PathOf(name), error)) {
-    throw FileError(FileAction::kRead, name_, EISDIR);
-  }
+  if (KindOf(name) == FileKind::kFolder) throw FileError(FileAction::kRead, name_, EISDIR);
   file_ = OpenFile(name, FileAction::kRead);
   Seek(0, SEEK_END);
   const std::int64_t end = PositionIn(file_.get());

@@ -3,19 +3,17 @@
 #include <algorithm>
 #include <array>
 #include <cfloat>
-#include <charconv>
 #include <cmath>
 #include <cstddef>
-#include <filesystem>
+#include <cstdlib>
 #include <limits>
-#include <system_error>
 #include <utility>
 
 #include "folivar/document/CaseFold.h"
 #include "folivar/document/Decimal.h"
 #include "folivar/document/Error.h"
-#include "folivar/document/FileHandle.h"
 #include "folivar/document/PDFText.h"
+#include "folivar/platform/FileSystem.h"
 
 namespace folivar {
 namespace {
@@ -128,9 +126,35 @@ std::string FormatReal(double x) {
   return {digits.data(), WriteReal(digits.data(), x)};
 }
 
+// Not the standard library's, whose shortest digits take more room than all of our formatters.
 std::string DigitsOf(double x) {
-  std::array<char, 32> digits{};
-  return {digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), x).ptr};
+  if (std::isnan(x)) return "nan";
+  const std::string sign = std::signbit(x) ? "-" : "";
+  const double magnitude = std::fabs(x);
+  if (std::isinf(x)) return sign + "inf";
+  // Smaller ones than any measure, whose powers of ten are beyond a double.
+  if (magnitude < 1e-300) return sign + "0";
+
+  int exponent = static_cast<int>(std::floor(std::log10(magnitude)));
+  double scaled = std::round(magnitude / std::pow(10, exponent) * 1e5);
+  if (scaled >= 1e6) {
+    scaled /= 10;
+    ++exponent;
+  }
+  std::string digits = std::to_string(static_cast<std::int64_t>(scaled));
+  digits.erase(digits.find_last_not_of('0') + 1);
+  if (exponent >= 0 && exponent < 6) {
+    const auto whole = static_cast<std::size_t>(exponent) + 1;
+    if (digits.size() < whole) digits.append(whole - digits.size(), '0');
+    if (digits.size() > whole) digits.insert(whole, ".");
+    return sign + digits;
+  }
+  if (exponent < 0 && exponent >= -4) {
+    return sign + "0." + std::string(static_cast<std::size_t>(-exponent) - 1, '0') + digits;
+  }
+  if (digits.size() > 1) digits.insert(1, ".");
+  const std::string power = std::to_string(std::abs(exponent));
+  return sign + digits + (exponent < 0 ? "e-" : "e+") + (power.size() < 2 ? "0" : "") + power;
 }
 
 float Finite(float sum) {
@@ -158,8 +182,7 @@ std::int16_t FindLastInRange(TextView s, TextView find, std::int16_t start, std:
 
 bool FileExists(TextView path) noexcept {
   try {
-    std::error_code error;
-    return std::filesystem::exists(PathOf(Text(path)), error);
+    return KindOf(Text(path)) != FileKind::kNone;
   } catch (...) {
     return false;
   }

@@ -27,8 +27,7 @@ char* WriteReal(char* out, double x);
 // The same as a string.
 std::string FormatReal(double x);
 
-// A number for people, in the text of an error: the shortest digits that tell it from its
-// neighbours, "1e+20".
+// A number for people, in the text of an error: to six digits, "1e+20".
 std::string DigitsOf(double x);
 
 // 2^52: adding it leaves no bits for a fraction, and the sum is rounded to even.

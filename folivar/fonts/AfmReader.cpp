@@ -1,7 +1,7 @@
 #include "folivar/fonts/AfmReader.h"
 
-#include <charconv>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 
 #include "folivar/document/Error.h"
@@ -29,15 +29,37 @@ std::string_view Token(std::string_view item, std::size_t index) {
   return TakeUpTo(item, ' ');
 }
 
-// What follows the digits (a carriage return) does not matter.
+bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
+
+// What follows the digits (a carriage return) does not matter, and neither do digits beyond the
+// fifteenth, which metrics do not have; up to there the number is exact before it becomes a single.
 float Number(std::string_view item, std::size_t index) {
-  const std::string_view token = Token(item, index);
-  double value = 0;
-  const auto parsed = std::from_chars(token.data(), token.data() + token.size(), value);
-  if (parsed.ec != std::errc()) {
+  std::string_view token = Token(item, index);
+  const bool isNegative = token.starts_with('-');
+  if (isNegative) token.remove_prefix(1);
+  constexpr std::int64_t kFull = 100'000'000'000'000;
+  std::int64_t digits = 0;
+  double scale = 1;
+  bool isNumber = false;
+  bool isFraction = false;
+  for (const char letter : token) {
+    if (letter == '.' && !isFraction) {
+      isFraction = true;
+    } else if (!IsDigit(letter)) {
+      break;
+    } else {
+      isNumber = true;
+      const bool counts = digits < kFull;
+      if (counts) digits = 10 * digits + (letter - '0');
+      if (counts && isFraction) scale *= 10;
+      if (!counts && !isFraction) scale /= 10;
+    }
+  }
+  if (!isNumber) {
     throw Error::TypeMismatch("Font metrics: a number is wanted in '" + std::string(item) + "'");
   }
-  return static_cast<float>(value);
+  const double value = static_cast<double>(digits) / scale;
+  return static_cast<float>(isNegative ? -value : value);
 }
 
 // The line that begins with `key`; the file's first line when there is none.

@@ -2,19 +2,18 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
 #include <map>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <utility>
 
 #include "folivar/document/Error.h"
-#include "folivar/document/FileHandle.h"
 #include "folivar/document/FileSource.h"
 #include "folivar/fonts/FontPrograms.h"
 #include "folivar/fonts/TrueTypeFontTables.h"
+#include "folivar/platform/FileSystem.h"
 
 namespace folivar {
 namespace {
@@ -43,13 +42,9 @@ class Memory {
 
 // Raises the errors of FileSource.
 std::string IdentityOf(const Text& fileName) {
-  const std::filesystem::path path = PathOf(fileName);
-  std::error_code error;
-  const auto size = std::filesystem::file_size(path, error);
-  if (error) return std::to_string(FileSource(fileName).Size());
-  const auto time = std::filesystem::last_write_time(path, error);
-  return fileName.Utf8() + '\0' + std::to_string(size) + ' ' +
-         std::to_string(time.time_since_epoch().count());
+  const std::optional<FileStamp> stamp = StampOf(fileName);
+  if (!stamp) return std::to_string(FileSource(fileName).Size());
+  return fileName.Utf8() + '\0' + std::to_string(stamp->size) + ' ' + std::to_string(stamp->time);
 }
 
 struct Measures {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <filesystem>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -14,43 +13,44 @@
 #include "folivar/document/FileHandle.h"
 #include "folivar/document/InMember.h"
 #include "folivar/fonts/FontFileFace.h"
+#include "folivar/platform/FileSystem.h"
 
 namespace folivar {
 namespace {
 
-constexpr auto kExtensions = std::to_array<std::u8string_view>({u8".ttf", u8".ttc", u8".otf"});
+constexpr auto kExtensions = std::to_array<std::string_view>({".ttf", ".ttc", ".otf"});
 
-bool IsNamedLikeAFont(const std::filesystem::path& path) {
-  std::u8string extension = path.extension().u8string();
-  for (char8_t& letter : extension) {
-    if (letter >= u8'A' && letter <= u8'Z') letter = static_cast<char8_t>(letter - u8'A' + u8'a');
+// With "/" between folders, as everywhere but on Windows.
+std::string GenericName(const Text& name) {
+  std::string generic = name.Utf8();
+#ifdef _WIN32
+  std::replace(generic.begin(), generic.end(), '\\', '/');
+#endif
+  return generic;
+}
+
+// ".ttf" alone is a name, not an extension.
+bool IsNamedLikeAFont(const Text& path) {
+  std::string name = GenericName(path);
+  name.erase(0, name.rfind('/') + 1);
+  for (char& letter : name) {
+    if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
   }
-  return std::find(kExtensions.begin(), kExtensions.end(), extension) != kExtensions.end();
+  return std::any_of(kExtensions.begin(), kExtensions.end(), [&](std::string_view extension) {
+    return name.size() > extension.size() && name.ends_with(extension);
+  });
 }
 
 // The file or folder, wherever the working folder will be. Raises 52 for what cannot be a name.
-std::filesystem::path PathIn(TextView name) {
+Text NameIn(TextView name) {
   const Text text(name);
   CheckFileName(text);
-  return std::filesystem::absolute(PathOf(text));
+  return AbsoluteName(text);
 }
 
-// A name that is not UTF-8, which some systems allow, is shown as far as it is ASCII; the file then
-// is not found.
-Text NameOf(const std::filesystem::path& path) {
-  std::u8string name = path.u8string();
-  try {
-    return Text(name);
-  } catch (const Error&) {
-    std::replace_if(
-        name.begin(), name.end(), [](char8_t byte) { return byte >= 0x80; }, u8'?');
-    return Text(name);
-  }
-}
-
-Error FolderError(const std::filesystem::path& folder, const std::error_code& error) {
-  const std::string text = "Cannot read folder '" + NameOf(folder).Utf8() +
-                           "': " + error.default_error_condition().message();
+Error FolderError(const Text& folder, const std::error_code& error) {
+  const std::string text =
+      "Cannot read folder '" + folder.Utf8() + "': " + error.default_error_condition().message();
   if (error == std::errc::permission_denied) return Error::PermissionDenied(text);
   if (error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory) {
     return Error::PathNotFound(text);
@@ -59,16 +59,12 @@ Error FolderError(const std::filesystem::path& folder, const std::error_code& er
 }
 
 // Appends the font files and the folders in a folder.
-void ListFolder(const std::filesystem::path& folder, std::vector<std::filesystem::path>& files,
-                std::vector<std::filesystem::path>& folders) {
+void ListFolder(const Text& folder, std::vector<Text>& files, std::vector<Text>& folders) {
   std::error_code error;
-  std::filesystem::directory_iterator entry(folder, error);
-  for (; !error && entry != end(entry); entry.increment(error)) {
-    std::error_code ignored;
-    if (entry->is_directory(ignored)) {
-      if (!entry->is_symlink(ignored)) folders.push_back(entry->path());
-    } else if (entry->is_regular_file(ignored) && IsNamedLikeAFont(entry->path())) {
-      files.push_back(entry->path());
+  for (FolderEntry& entry : EntriesOf(folder, error)) {
+    if (entry.kind == FileKind::kFolder && !entry.isLink) folders.push_back(std::move(entry.name));
+    if (entry.kind == FileKind::kFile && IsNamedLikeAFont(entry.name)) {
+      files.push_back(std::move(entry.name));
     }
   }
   if (error) throw FolderError(folder, error);
@@ -90,30 +86,29 @@ FontFiles::FontFiles() = default;
 FontFiles::~FontFiles() = default;
 
 void FontFiles::AddFile(TextView fileName) {
-  InMember("FontFiles.AddFile", [&] { Add(PathIn(fileName)); });
+  InMember("FontFiles.AddFile", [&] { Add(NameIn(fileName)); });
 }
 
 std::vector<Text> FontFiles::AddFolder(TextView folderName) {
   return InMember("FontFiles.AddFolder", [&] {
     std::vector<Text> leftOut;
-    std::vector<std::filesystem::path> files;
-    std::vector<std::filesystem::path> folders = {PathIn(folderName)};
+    std::vector<Text> files;
+    std::vector<Text> folders = {NameIn(folderName)};
     ListFolder(folders.front(), files, folders);
     // The list grows by the folders that are found.
     for (std::size_t i = 1; i < folders.size(); ++i) {
-      Try(leftOut, [&] { ListFolder(std::filesystem::path(folders[i]), files, folders); });
+      Try(leftOut, [&] { ListFolder(Text(folders[i]), files, folders); });
     }
-    // The system lists them in any order; "/" separates folders everywhere.
-    std::sort(files.begin(), files.end(), [](const auto& left, const auto& right) {
-      return left.generic_u8string() < right.generic_u8string();
+    // The system lists them in any order.
+    std::sort(files.begin(), files.end(), [](const Text& left, const Text& right) {
+      return GenericName(left) < GenericName(right);
     });
-    for (const std::filesystem::path& file : files) Try(leftOut, [&] { Add(file); });
+    for (const Text& file : files) Try(leftOut, [&] { Add(file); });
     return leftOut;
   });
 }
 
-void FontFiles::Add(const std::filesystem::path& path) {
-  const Text name = NameOf(path);
+void FontFiles::Add(const Text& name) {
   std::multimap<std::u16string, FontFileFace> faces;
   for (FontFileFace& face : FacesInFile(name)) {
     faces.emplace(FoldCase(face.family), std::move(face));

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -43,7 +42,7 @@ class FOLIVAR_API FontFiles final : public SystemFonts {
   std::vector<Text> FaceNames() override;
 
  private:
-  void Add(const std::filesystem::path& path);
+  void Add(const Text& name);
 
   std::mutex mutex_;
   // By the family's name, its case folded; the faces added first come first.

@@ -280,6 +280,23 @@ TEST(FindLastInRange, AgreesWithANaiveSearch) {
   }
 }
 
+TEST(DigitsOf, TellsSixDigits) {
+  EXPECT_EQ(DigitsOf(0), "0");
+  EXPECT_EQ(DigitsOf(-0.5), "-0.5");
+  EXPECT_EQ(DigitsOf(0.000123), "0.000123");
+  EXPECT_EQ(DigitsOf(12.25), "12.25");
+  EXPECT_EQ(DigitsOf(120000), "120000");
+  EXPECT_EQ(DigitsOf(999999.7), "1e+06");
+  EXPECT_EQ(DigitsOf(2147483648.0), "2.14748e+09");
+  EXPECT_EQ(DigitsOf(-3e9), "-3e+09");
+  EXPECT_EQ(DigitsOf(1.5e-7), "1.5e-07");
+  EXPECT_EQ(DigitsOf(1e300), "1e+300");
+  EXPECT_EQ(DigitsOf(std::numeric_limits<double>::max()), "1.79769e+308");
+  EXPECT_EQ(DigitsOf(std::numeric_limits<double>::denorm_min()), "0");
+  EXPECT_EQ(DigitsOf(-std::numeric_limits<double>::infinity()), "-inf");
+  EXPECT_EQ(DigitsOf(std::numeric_limits<double>::quiet_NaN()), "nan");
+}
+
 TEST(FileExists, IsTrueForFilesAndFolders) {
   const auto path = OutputPath("na\u00EFve.txt");
   EXPECT_FALSE(FileExists(path.u8string()));

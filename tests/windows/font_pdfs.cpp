@@ -4,11 +4,14 @@
 //   font_pdfs <folder> [<family>...]
 //
 // Into the folder, which must be there, go fonts.txt, the families that are available; for each
-// family named two PDF files with its four styles, embedded and not; and warnings.txt.
+// family named two PDF files with its four styles, embedded and not; warnings.txt; and files.txt,
+// what a folder of files that are no fonts has to be read for.
 
 #include <folivar/folivar.h>
 
+#include <algorithm>
 #include <exception>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <memory>
@@ -68,10 +71,28 @@ void SaveSpecimen(const std::string& family, bool embed, const std::string& file
   document->SavePDFFile(fileName);
 }
 
-std::ofstream Open(const std::string& fileName) {
+std::ofstream Open(const std::filesystem::path& fileName) {
   std::ofstream file(fileName, std::ios::binary);
   file.exceptions(std::ios::badbit | std::ios::failbit);
   return file;
+}
+
+// The files named like fonts, in the order in which they are read. Where they are is each system's
+// own.
+void ListFiles(const std::string& folder) {
+  const std::filesystem::path files = std::filesystem::path(folder) / "files";
+  std::filesystem::create_directories(files / "deep" / "deeper.ttf");
+  for (const char8_t* name : {u8"none.ttf", u8"deep/\u00E4.TTC", u8"deep/deeper.ttf/a.Otf",
+                              u8".otf", u8"letter.txt", u8"ttf"}) {
+    Open(files / std::filesystem::path(name)) << "no font";
+  }
+  std::ofstream list = Open(folder + "/files.txt");
+  for (const folivar::Text& leftOut :
+       folivar::FontFiles().AddFolder(std::u8string_view((files.u8string())))) {
+    std::string sentence = leftOut.Utf8();
+    std::replace(sentence.begin(), sentence.end(), '\\', '/');
+    list << sentence.substr(sentence.find("/files/")) << '\n';
+  }
 }
 
 void WriteAll(const std::string& folder, const std::vector<std::string>& families) {
@@ -88,6 +109,7 @@ void WriteAll(const std::string& folder, const std::vector<std::string>& familie
       fonts << name.Utf8() << '\n';
     }
   }
+  ListFiles(folder);
   for (const std::string& family : families) {
     const std::string fileName = folder + "/" + family;
     SaveSpecimen(family, false, fileName + ".pdf", platform);

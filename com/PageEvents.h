@@ -1,0 +1,49 @@
+#pragma once
+
+#include <wrl/client.h>
+
+#include <vector>
+
+#include "com/ComPrefix.h"
+#include "com/Peers.h"
+#include "folivar/document/Event.h"
+
+namespace folivar::com {
+
+// Who listens to a page: the connection point of the page's face, of which it is a part and whose
+// references it shares. It listens to the page itself while anybody listens to it.
+class PageEvents final : public IConnectionPoint {
+ public:
+  explicit PageEvents(IConnectionPointContainer& face) : face_(face) {}
+  PageEvents(const PageEvents&) = delete;
+  PageEvents& operator=(const PageEvents&) = delete;
+
+  // IUnknown
+  STDMETHODIMP QueryInterface(REFIID iid, void** result) override;
+  STDMETHODIMP_(ULONG) AddRef() override { return face_.AddRef(); }
+  STDMETHODIMP_(ULONG) Release() override { return face_.Release(); }
+
+  // IConnectionPoint
+  STDMETHODIMP GetConnectionInterface(IID* result) override;
+  STDMETHODIMP GetConnectionPointContainer(IConnectionPointContainer** result) override;
+  STDMETHODIMP Advise(IUnknown* listener, DWORD* cookie) override;
+  STDMETHODIMP Unadvise(DWORD cookie) override;
+  STDMETHODIMP EnumConnections(IEnumConnections** result) override;
+
+ private:
+  struct Connection {
+    DWORD cookie;
+    Microsoft::WRL::ComPtr<IDispatch> listener;
+  };
+
+  bool IsConnected(DWORD cookie) const;
+  // Tells all listeners; they may stop listening meanwhile, and then are not told.
+  void RaisePageRemoved();
+
+  IConnectionPointContainer& face_;
+  std::vector<Connection> connections_;
+  DWORD lastCookie_ = 0;
+  Event<PDFPage&>::Subscription pageRemoved_;
+};
+
+}  // namespace folivar::com
