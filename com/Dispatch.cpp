@@ -133,7 +133,8 @@ HRESULT Dispatch::GetIDsOfNames(const IID& interfaceId, const IID& reserved, LPO
 
 HRESULT Dispatch::Invoke(const IID& interfaceId, void* object, DISPID id, const IID& reserved,
                          LCID locale, WORD kinds, DISPPARAMS* arguments, VARIANT* result,
-                         EXCEPINFO* exception, UINT* badArgument) noexcept {
+                         EXCEPINFO* exception,
+                         UINT* badArgument) noexcept {  // NOLINT(readability-non-const-parameter)
   if (reserved != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
   if (arguments == nullptr) return E_POINTER;
   HRESULT answer = S_OK;
@@ -141,12 +142,10 @@ HRESULT Dispatch::Invoke(const IID& interfaceId, void* object, DISPID id, const 
     const InterfaceType& type = TypeLibrary::TypeOf(interfaceId);
     const Call call{type.info, object, id, kinds, result, exception, badArgument};
     const MemberType* member = type.Find(id, kinds);
-    if (member == nullptr) {
-      answer = call.With(arguments);
-    } else if (arguments->cArgs > member->referredTypes.size()) {
+    if (member != nullptr && arguments->cArgs > member->referredTypes.size()) {
       const bool goesOn = member->referredTypes.empty() && member->givesObject;
       answer = goesOn ? InvokeDefault(call, locale, arguments) : DISP_E_BADPARAMCOUNT;
-    } else if (member->kind == INVOKE_FUNC) {
+    } else if (member != nullptr && member->kind == INVOKE_FUNC) {
       References references(*member, *arguments);
       answer = call.With(references.Arguments());
       if (SUCCEEDED(answer)) references.GiveBack();

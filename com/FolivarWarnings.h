@@ -10,6 +10,7 @@ extern "C" {
 
 // Gets the text of a warning and the context given with the callback, on the thread of the call
 // that warns. Must not throw.
+// NOLINTNEXTLINE(modernize-use-using)
 typedef void(CALLBACK* FolivarWarningCallback)(const wchar_t* text, void* context);
 
 // From now on every warning of this process goes to the callback, and nowhere else; null goes back

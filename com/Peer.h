@@ -31,6 +31,7 @@ struct Flag {
   const VARIANT& given;
 };
 struct Single {
+  const char* member;
   const VARIANT& given;
 };
 
@@ -204,7 +205,9 @@ class Peer : public Automation<Core>::Interface,
   static Value Take(const Index& index) { return IndexFrom(index.given); }
   static Value Take(const Number& number) { return NumberFrom(number.given); }
   static Value Take(const Flag& flag) { return FlagFrom(flag.given); }
-  static std::optional<float> Take(const Single& number) { return SingleFrom(number.given); }
+  static std::optional<float> Take(const Single& number) {
+    return SingleFrom(number.member, number.given);
+  }
   static Given Take(IUnknown* face) { return {ObjectBehind(face)}; }
   template <class Enumeration>
   requires std::is_enum_v<Enumeration>

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "folivar/document/Error.h"
+#include "folivar/document/InMember.h"
 
 namespace folivar::com {
 namespace {
@@ -77,12 +78,14 @@ Value NumberFrom(const VARIANT& number) {
   return ConvertedNumber(held);
 }
 
-std::optional<float> SingleFrom(const VARIANT& number) {
-  const Value value = NumberFrom(number);
-  if (value.IsMissing()) return std::nullopt;
-  const auto single = static_cast<float>(DoubleFrom(value));
-  if (!std::isfinite(single)) throw Error::Overflow("A number does not fit into a single");
-  return single;
+std::optional<float> SingleFrom(const char* member, const VARIANT& number) {
+  return InMember(member, [&]() -> std::optional<float> {
+    const Value value = NumberFrom(number);
+    if (value.IsMissing()) return std::nullopt;
+    const auto single = static_cast<float>(DoubleFrom(value));
+    if (!std::isfinite(single)) throw Error::Overflow("A number does not fit into a single");
+    return single;
+  });
 }
 
 Value FlagFrom(const VARIANT& flag) {
@@ -92,14 +95,15 @@ Value FlagFrom(const VARIANT& flag) {
   return Value(held->boolVal != VARIANT_FALSE);
 }
 
-std::optional<Text> TextFrom(const VARIANT& text) {
-  Variant held(text);
-  if (const auto absent = AbsentFrom(*held)) {
-    if (absent->IsNull()) throw Error::InvalidNull("Null stands where a text is wanted");
-    return std::nullopt;
-  }
-  if (!held.ChangeTo(VT_BSTR)) throw Error::TypeMismatch("A text is wanted");
-  return Text(ViewOf(held->bstrVal));
+std::optional<Text> TextFrom(const char* member, const VARIANT& text) {
+  return InMember(member, [&]() -> std::optional<Text> {
+    Variant held(text);
+    const std::optional<Value> absent = AbsentFrom(*held);
+    if (absent && absent->IsNull()) throw Error::InvalidNull("Null stands where a text is wanted");
+    if (absent) return std::nullopt;
+    if (!held.ChangeTo(VT_BSTR)) throw Error::TypeMismatch("A text is wanted");
+    return Text(ViewOf(held->bstrVal));
+  });
 }
 
 VARIANT VariantFrom(const Value& value) {

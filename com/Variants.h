@@ -45,11 +45,12 @@ BSTR BstrFrom(const Text& text);
 // A position or a key: a text is always a key, "1" too.
 Value IndexFrom(const VARIANT& index);
 Value NumberFrom(const VARIANT& number);
-// Nothing for Missing; raises 94 for Null, 13 for what is no number and 6 beyond a single.
-std::optional<float> SingleFrom(const VARIANT& number);
+// Nothing for Missing; raises 94 for Null, 13 for what is no number and 6 beyond a single. `member`
+// stands in the error's text.
+std::optional<float> SingleFrom(const char* member, const VARIANT& number);
 Value FlagFrom(const VARIANT& flag);
 // Nothing for Missing; raises 94 for Null and 13 for what is no text.
-std::optional<Text> TextFrom(const VARIANT& text);
+std::optional<Text> TextFrom(const char* member, const VARIANT& text);
 
 // The answer of a format that may be Null. Takes whole numbers and flags.
 VARIANT VariantFrom(const Value& value);

@@ -24,7 +24,7 @@ class PDFFontPeer final : public Peer<PDFFont> {
   }
   STDMETHODIMP TextHeight(VARIANT text, float* result) override {
     return Get(result, [&](const PDFFont& core) {
-      const std::optional<Text> given = TextFrom(text);
+      const std::optional<Text> given = TextFrom("PDFFont.TextHeight", text);
       return given ? core.TextHeight(*given) : core.TextHeight();
     });
   }

@@ -22,7 +22,9 @@ class PDFTextBoxPeer final : public TaggedPeer<PDFTextBox> {
   STDMETHODIMP get_Width(float* result) override { return Get(result, &PDFTextBox::Width); }
   STDMETHODIMP get_Height(float* result) override { return Get(result, &PDFTextBox::Height); }
   STDMETHODIMP Move(float left, VARIANT top, VARIANT width, VARIANT height) override {
-    return Call(&PDFTextBox::Move, left, Single{top}, Single{width}, Single{height});
+    constexpr const char* kMember = "PDFTextBox.Move";
+    return Call(&PDFTextBox::Move, left, Single{kMember, top}, Single{kMember, width},
+                Single{kMember, height});
   }
   STDMETHODIMP get_WordWrap(VARIANT_BOOL* result) override {
     return Get(result, &PDFTextBox::WordWrap);
