@@ -7,21 +7,22 @@
 namespace folivar::com {
 namespace {
 
-constinit HINSTANCE handle = nullptr;
+constinit HINSTANCE moduleHandle = nullptr;
 constinit std::atomic<long> liveObjects = 0;
 constinit std::atomic<long> madeObjects = 0;
 constinit std::atomic<long> locks = 0;
 
 }  // namespace
 
-void Module::SetHandle(HINSTANCE module) { handle = module; }
+void Module::SetHandle(HINSTANCE module) { moduleHandle = module; }
 
-HINSTANCE Module::Handle() { return handle; }
+HINSTANCE Module::Handle() { return moduleHandle; }
 
 std::wstring Module::Path() {
   std::wstring path(MAX_PATH, L'\0');
   for (;;) {
-    const DWORD length = GetModuleFileNameW(handle, path.data(), static_cast<DWORD>(path.size()));
+    const DWORD length =
+        GetModuleFileNameW(moduleHandle, path.data(), static_cast<DWORD>(path.size()));
     if (length < path.size()) {
       path.resize(length);
       return path;

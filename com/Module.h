@@ -10,7 +10,7 @@ namespace folivar::com {
 // thread.
 class Module {
  public:
-  static void SetHandle(HINSTANCE handle);
+  static void SetHandle(HINSTANCE module);
   static HINSTANCE Handle();
   // Of the file that it was loaded from.
   static std::wstring Path();

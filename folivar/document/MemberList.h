@@ -85,7 +85,7 @@ class MemberList {
   void MoveMember(TextView key, const Before& before, const After& after, Remove remove) noexcept {
     try {
       const Value name(key);
-      const Value beforePlace(before);
+      const Value& beforePlace = before;
       const Value afterPlace = beforePlace.IsMissing() ? Value(after) : Value();
       std::shared_ptr<T> member = members_.Item(name);
       remove(name);
