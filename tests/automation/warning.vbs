@@ -1,0 +1,2 @@
+CreateObject("Folivar.PDFDocument").Fonts.Add "Nonesuch"
+WScript.Echo "DONE"
