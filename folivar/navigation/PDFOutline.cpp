@@ -21,7 +21,7 @@ const std::shared_ptr<PDFBookmarks>& PDFOutline::Bookmarks() {
 // The bookmarks are laid out in a row, so that nothing depends on how deep they lie.
 void PDFOutline::NumberObjects(ObjectNumbers& numbers) {
   struct Waiting {
-    std::shared_ptr<PDFBookmark> bookmark;
+    const PDFBookmark* bookmark;
     std::int32_t parent;
   };
   std::vector<Waiting> waiting;  // the next one last
@@ -29,7 +29,7 @@ void PDFOutline::NumberObjects(ObjectNumbers& numbers) {
     if (!bookmarks) return;
     const std::size_t start = waiting.size();
     bookmarks->ForEach(Internal(), [&](const std::shared_ptr<PDFBookmark>& bookmark) {
-      waiting.push_back({bookmark, parent});
+      waiting.push_back({bookmark.get(), parent});
     });
     std::reverse(waiting.begin() + static_cast<std::ptrdiff_t>(start), waiting.end());
   };
@@ -38,7 +38,7 @@ void PDFOutline::NumberObjects(ObjectNumbers& numbers) {
   numbered_.assign(1, {});
   wait(bookmarks_, objectNumber_);
   while (!waiting.empty()) {
-    const auto [bookmark, parentNumber] = std::move(waiting.back());
+    const auto [bookmark, parentNumber] = waiting.back();
     waiting.pop_back();
     const std::int32_t number = numbers.Take();
     OutlinePlace& parent = At(parentNumber).place;

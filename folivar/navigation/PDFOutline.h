@@ -32,7 +32,7 @@ class PDFOutline final : public ObjectWriter {
 
  private:
   struct Numbered {
-    std::shared_ptr<PDFBookmark> bookmark;  // null for the root
+    const PDFBookmark* bookmark = nullptr;  // null for the root
     OutlinePlace place{};
     bool expanded = false;
   };
@@ -44,7 +44,8 @@ class PDFOutline final : public ObjectWriter {
   std::weak_ptr<PDFPages> pages_;
   std::shared_ptr<PDFBookmarks> bookmarks_;
   std::int32_t objectNumber_ = 0;
-  // Between numbering and writing: the root and all bookmarks, in the order of their numbers.
+  // Between numbering and writing, when no host is called that could change the outline: the root
+  // and all bookmarks, in the order of their numbers.
   std::vector<Numbered> numbered_;
 };
 
