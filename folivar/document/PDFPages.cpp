@@ -25,7 +25,7 @@ PDFPages::PDFPages(const Internal&, std::weak_ptr<PDFDocument> document,
 
 std::shared_ptr<PDFPage> PDFPages::Add(TextView key, const Value& before, const Value& after) {
   auto page =
-      std::make_shared<PDFPage>(Internal(), Shared<PDFPages>(), document_, defaultFont_, Text(key));
+      std::make_shared<PDFPage>(Internal(), Shared<PDFPages>(), document_, defaultFont_, key);
   members_.Add(page, key, before, after);
   return page;
 }

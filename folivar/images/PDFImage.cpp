@@ -82,11 +82,9 @@ class StreamSink final : public ByteSink {
 
 }  // namespace
 
-PDFImage::PDFImage(const Internal&, std::weak_ptr<PDFDocument> document, Text key,
+PDFImage::PDFImage(const Internal&, std::weak_ptr<PDFDocument> document, TextView key,
                    std::string resourceName)
-    : document_(std::move(document)),
-      key_(std::move(key)),
-      resourceName_(std::move(resourceName)) {}
+    : document_(std::move(document)), key_(key), resourceName_(std::move(resourceName)) {}
 
 PDFImage::~PDFImage() = default;
 

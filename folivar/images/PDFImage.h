@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "folivar/document/Api.h"
+#include "folivar/document/MemberKey.h"
 #include "folivar/document/ObjectWriter.h"
 #include "folivar/document/Text.h"
 #include "folivar/document/XObject.h"
@@ -19,7 +20,7 @@ class PDFText;
 // shown as a page's thumbnail: made by PDFImages::Add, and then given a file.
 class FOLIVAR_API PDFImage final : public XObject, public ObjectWriter {
  public:
-  PDFImage(const Internal&, std::weak_ptr<PDFDocument> document, Text key,
+  PDFImage(const Internal&, std::weak_ptr<PDFDocument> document, TextView key,
            std::string resourceName);
   ~PDFImage() override;
 
@@ -28,7 +29,7 @@ class FOLIVAR_API PDFImage final : public XObject, public ObjectWriter {
   void SetInterpolate(bool interpolate) { interpolate_ = interpolate; }
 
   // The key given to PDFImages::Add; empty without one.
-  const Text& Key() const override { return key_; }
+  const Text& Key() const override { return key_.AsText(); }
 
   // The picture's file, empty at first. Its extension tells its format, without regard to case:
   // "jpg" and "jpeg" are JPEG files, "bmp" are uncompressed Windows bitmaps of 1, 4, 8 or 24 bits a
@@ -70,7 +71,7 @@ class FOLIVAR_API PDFImage final : public XObject, public ObjectWriter {
   void AppendDictionary(PDFText& text) const;
 
   std::weak_ptr<PDFDocument> document_;
-  Text key_;
+  MemberKey key_;
   std::string resourceName_;
   Text fileName_;
   std::string_view filter_;              // "/Filter /DCTDecode", or empty

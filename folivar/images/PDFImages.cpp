@@ -17,8 +17,8 @@ PDFImages::PDFImages(const Internal&, std::weak_ptr<PDFDocument> document)
 
 // The first image is "/I1".
 std::shared_ptr<PDFImage> PDFImages::Add(TextView key, const Value& before, const Value& after) {
-  auto image = std::make_shared<PDFImage>(Internal(), document_, Text(key),
-                                          "/I" + std::to_string(count() + 1));
+  auto image =
+      std::make_shared<PDFImage>(Internal(), document_, key, "/I" + std::to_string(count() + 1));
   members_.Add(image, key, before, after);
   return image;
 }

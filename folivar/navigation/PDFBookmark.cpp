@@ -11,8 +11,8 @@
 
 namespace folivar {
 
-PDFBookmark::PDFBookmark(const Internal& internal, Text key)
-    : key_(std::move(key)), destination_(internal) {}
+PDFBookmark::PDFBookmark(const Internal& internal, TextView key)
+    : key_(key), destination_(internal) {}
 
 PDFBookmark::~PDFBookmark() = default;
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "folivar/document/Api.h"
+#include "folivar/document/MemberKey.h"
 #include "folivar/document/Tagged.h"
 #include "folivar/document/Text.h"
 #include "folivar/navigation/PDFLinkDestination.h"
@@ -19,7 +20,7 @@ struct OutlinePlace;
 // One entry of the document's outline, with those below it; made by PDFBookmarks::Add.
 class FOLIVAR_API PDFBookmark final : public Tagged {
  public:
-  PDFBookmark(const Internal&, Text key);
+  PDFBookmark(const Internal&, TextView key);
   ~PDFBookmark() override;
 
   // Empty at first. Deliberate: it is written as it stands, between parentheses, so that hosts may
@@ -39,7 +40,7 @@ class FOLIVAR_API PDFBookmark final : public Tagged {
   std::shared_ptr<PDFLinkDestination> Destination();
 
   // The key given to PDFBookmarks::Add; empty without one.
-  const Text& Key() const { return key_; }
+  const Text& Key() const { return key_.AsText(); }
 
   // Null before first use.
   const std::shared_ptr<PDFBookmarks>& MadeSubBookmarks(const Internal&) const {
@@ -54,7 +55,7 @@ class FOLIVAR_API PDFBookmark final : public Tagged {
                          const std::weak_ptr<PDFPages>& pages) const;
 
  private:
-  Text key_;
+  MemberKey key_;
   Text title_;
   std::shared_ptr<PDFBookmarks> subBookmarks_;
   PDFLinkDestination destination_;

@@ -34,7 +34,7 @@ std::shared_ptr<PDFBookmarks> PDFBookmarks::TakeDoomed(PDFBookmarks& from,
 
 std::shared_ptr<PDFBookmark> PDFBookmarks::Add(TextView key, const Value& before,
                                                const Value& after) {
-  auto bookmark = std::make_shared<PDFBookmark>(Internal(), Text(key));
+  auto bookmark = std::make_shared<PDFBookmark>(Internal(), key);
   members_.Add(bookmark, key, before, after);
   return bookmark;
 }

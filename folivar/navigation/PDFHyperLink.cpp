@@ -9,8 +9,8 @@
 
 namespace folivar {
 
-PDFHyperLink::PDFHyperLink(const Internal& internal, Text key)
-    : key_(std::move(key)), destination_(internal) {}
+PDFHyperLink::PDFHyperLink(const Internal& internal, TextView key)
+    : key_(key), destination_(internal) {}
 
 std::shared_ptr<PDFLinkDestination> PDFHyperLink::Destination() {
   return {Shared<PDFHyperLink>(), &destination_};
@@ -39,7 +39,7 @@ void PDFHyperLink::BuildAnnotationText(const Internal& internal, PDFText& text,
     destination_.AppendDestination(internal, text, pages);
     AppendBorder(text);
   } catch (const Error& error) {
-    throw Error(error.Number(), KeyedName("PDFHyperLink", key_) + ": " + error.what());
+    throw Error(error.Number(), KeyedName("PDFHyperLink", Key()) + ": " + error.what());
   }
   // Deliberate: black is 0, which stands for the reader's own choice, and that is black.
   if (borderColor_ != 0) {

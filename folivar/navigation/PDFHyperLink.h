@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "folivar/document/Api.h"
+#include "folivar/document/MemberKey.h"
 #include "folivar/document/Tagged.h"
 #include "folivar/document/Text.h"
 #include "folivar/navigation/PDFLinkDestination.h"
@@ -21,7 +22,7 @@ class PDFText;
 // the document is saved.
 class FOLIVAR_API PDFHyperLink final : public Tagged, public Region {
  public:
-  PDFHyperLink(const Internal&, Text key);
+  PDFHyperLink(const Internal&, TextView key);
 
   // Where it leads; the same object each time. A link that leads nowhere is still written.
   std::shared_ptr<PDFLinkDestination> Destination();
@@ -43,7 +44,7 @@ class FOLIVAR_API PDFHyperLink final : public Tagged, public Region {
   void SetBorderDashPattern(float dashOn, float dashOff);
 
   // The key given to PDFHyperLinks::Add; empty without one.
-  const Text& Key() const { return key_; }
+  const Text& Key() const { return key_.AsText(); }
 
   // Appends the annotation's dictionary; destinations lead to `pages`.
   void BuildAnnotationText(const Internal&, PDFText& text,
@@ -53,7 +54,7 @@ class FOLIVAR_API PDFHyperLink final : public Tagged, public Region {
   void AppendHighlight(PDFText& text) const;
   void AppendBorder(PDFText& text) const;
 
-  Text key_;
+  MemberKey key_;
   PDFLinkDestination destination_;
   PDFLinkHighlightAction highlight_ = lhaUserDefault;
   std::int32_t borderColor_ = 0;

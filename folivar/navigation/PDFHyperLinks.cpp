@@ -14,7 +14,7 @@ PDFHyperLinks::PDFHyperLinks(const Internal&, std::weak_ptr<PDFPages> pages)
 
 std::shared_ptr<PDFHyperLink> PDFHyperLinks::Add(TextView key, const Value& before,
                                                  const Value& after) {
-  auto link = std::make_shared<PDFHyperLink>(Internal(), Text(key));
+  auto link = std::make_shared<PDFHyperLink>(Internal(), key);
   members_.Add(link, key, before, after);
   return link;
 }

@@ -29,8 +29,8 @@ ObjectWriter& AsWriter(const std::shared_ptr<PDFHyperLinks>& links) { return *li
 }  // namespace
 
 PDFPage::PDFPage(const Internal& internal, std::weak_ptr<PDFPages> parent,
-                 std::weak_ptr<PDFDocument> document, std::shared_ptr<PDFFont> font, Text key)
-    : key_(std::move(key)),
+                 std::weak_ptr<PDFDocument> document, std::shared_ptr<PDFFont> font, TextView key)
+    : key_(key),
       parent_(std::move(parent)),
       surface_(std::make_shared<Surface>(std::move(document))),
       graphicsState_(std::make_shared<PDFGraphicsState>(internal, surface_)) {
@@ -175,8 +175,8 @@ void PDFPage::BuildPageObject(PDFText& text) const {
   try {
     AppendBoxes(text);
   } catch (const Error& error) {
-    throw Error(error.Number(), "The extents or the clip box of the " + KeyedName("PDFPage", key_) +
-                                    ": " + error.what());
+    throw Error(error.Number(), "The extents or the clip box of the " +
+                                    KeyedName("PDFPage", Key()) + ": " + error.what());
   }
   text.Append("/Contents ", Reference{contentNumber_}, "\n/Resources ");
   surface_->ResourceDictionary().BuildResourceText(text);

@@ -7,6 +7,7 @@
 
 #include "folivar/document/Api.h"
 #include "folivar/document/Event.h"
+#include "folivar/document/MemberKey.h"
 #include "folivar/document/ObjectWriter.h"
 #include "folivar/document/Tagged.h"
 #include "folivar/document/Text.h"
@@ -37,10 +38,10 @@ class Surface;
 class FOLIVAR_API PDFPage final : public Tagged, public ObjectWriter {
  public:
   PDFPage(const Internal&, std::weak_ptr<PDFPages> parent, std::weak_ptr<PDFDocument> document,
-          std::shared_ptr<PDFFont> font, Text key);
+          std::shared_ptr<PDFFont> font, TextView key);
 
   // The key given to PDFPages::Add; empty without one.
-  const Text& Key() const { return key_; }
+  const Text& Key() const { return key_.AsText(); }
 
   // The font of the text calls from here on; the document's default font at first. Setting null
   // raises 91, a font of another document 5.
@@ -138,7 +139,7 @@ class FOLIVAR_API PDFPage final : public Tagged, public ObjectWriter {
   void AppendBoxes(PDFText& text) const;
   void WriteContentStream(SaveFile& file, std::string_view textBoxes) const;
 
-  Text key_;
+  MemberKey key_;
   std::weak_ptr<PDFPages> parent_;
   std::shared_ptr<Surface> surface_;
   std::shared_ptr<PDFGraphicsState> graphicsState_;

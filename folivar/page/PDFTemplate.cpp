@@ -18,8 +18,8 @@
 namespace folivar {
 
 PDFTemplate::PDFTemplate(const Internal& internal, const std::weak_ptr<PDFDocument>& document,
-                         std::shared_ptr<PDFFont> font, Text key, std::string resourceName)
-    : key_(std::move(key)),
+                         std::shared_ptr<PDFFont> font, TextView key, std::string resourceName)
+    : key_(key),
       resourceName_(std::move(resourceName)),
       surface_(std::make_shared<Surface>(document)),
       graphicsState_(std::make_shared<PDFGraphicsState>(internal, surface_)) {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "folivar/document/Api.h"
+#include "folivar/document/MemberKey.h"
 #include "folivar/document/ObjectWriter.h"
 #include "folivar/document/Text.h"
 #include "folivar/document/Value.h"
@@ -37,10 +38,10 @@ class Surface;
 class FOLIVAR_API PDFTemplate final : public XObject, public ObjectWriter {
  public:
   PDFTemplate(const Internal&, const std::weak_ptr<PDFDocument>& document,
-              std::shared_ptr<PDFFont> font, Text key, std::string resourceName);
+              std::shared_ptr<PDFFont> font, TextView key, std::string resourceName);
 
   // The key given to PDFTemplates::Add; empty without one.
-  const Text& Key() const override { return key_; }
+  const Text& Key() const override { return key_.AsText(); }
 
   // The font of the text calls from here on; the document's default font at first. Setting null
   // raises 91, a font of another document 5.
@@ -131,7 +132,7 @@ class FOLIVAR_API PDFTemplate final : public XObject, public ObjectWriter {
 
   ClipBox* GrowingClipBox() { return autoSizeClipBox_ ? &clipBox_ : nullptr; }
 
-  Text key_;
+  MemberKey key_;
   std::string resourceName_;
   std::shared_ptr<Surface> surface_;
   std::shared_ptr<PDFGraphicsState> graphicsState_;

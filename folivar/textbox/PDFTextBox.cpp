@@ -63,8 +63,8 @@ Value ValueOf(const std::optional<T>& answer) {
 }  // namespace
 
 PDFTextBox::PDFTextBox(const Internal&, std::weak_ptr<Object> parent,
-                       std::shared_ptr<Surface> parentSurface, folivar::Text key)
-    : key_(std::move(key)), parent_(std::move(parent)), parentSurface_(std::move(parentSurface)) {
+                       std::shared_ptr<Surface> parentSurface, TextView key)
+    : key_(key), parent_(std::move(parent)), parentSurface_(std::move(parentSurface)) {
   RunFont font = RunFont::CloneOf(*parentSurface_->Font());
   geometry_.width = font->TextWidth("W");
   // Deliberate: the height is the descender's depth and the margins, too little for a line.
@@ -77,7 +77,7 @@ PDFTextBox::~PDFTextBox() = default;
 
 std::shared_ptr<Object> PDFTextBox::Parent() const {
   if (auto parent = parent_.lock()) return parent;
-  throw Error::ObjectNotSet("Parent: the owner of the " + KeyedName("PDFTextBox", key_) +
+  throw Error::ObjectNotSet("Parent: the owner of the " + KeyedName("PDFTextBox", Key()) +
                             " is gone");
 }
 
@@ -153,7 +153,7 @@ void PDFTextBox::Copy(const std::shared_ptr<PDFTextBox>& source) {
   InMember("PDFTextBox.Copy", [&] {
     if (!source) throw Error::ObjectNotSet("no text box is given");
     if (!parentSurface_->IsOfSameDocument(*source->parentSurface_)) {
-      throw Error::InvalidArgument("the " + KeyedName("text box", source->key_) +
+      throw Error::InvalidArgument("the " + KeyedName("text box", source->Key()) +
                                    " belongs to another document");
     }
     if (source.get() == this) return;
@@ -383,7 +383,7 @@ void PDFTextBox::RegisterFaces(const Internal&) const {
 }
 
 void PDFTextBox::RenderTextBox(const Internal&, PDFText& content) {
-  const std::string member = "The " + KeyedName("PDFTextBox", key_);
+  const std::string member = "The " + KeyedName("PDFTextBox", Key());
   InMember(member.c_str(), [&] {
     if (autoSize_) AutoSizeBox();
     const AnsiText ansi(text_);

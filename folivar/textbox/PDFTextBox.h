@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "folivar/document/Api.h"
+#include "folivar/document/MemberKey.h"
 #include "folivar/document/Tagged.h"
 #include "folivar/document/Text.h"
 #include "folivar/document/Value.h"
@@ -34,14 +35,14 @@ class TextRuns;
 class FOLIVAR_API PDFTextBox final : public Tagged {
  public:
   PDFTextBox(const Internal&, std::weak_ptr<Object> parent, std::shared_ptr<Surface> parentSurface,
-             folivar::Text key);
+             TextView key);
   ~PDFTextBox() override;
 
   // The PDFPage or PDFTemplate that the box is on. Raises 91 when it is gone.
   std::shared_ptr<Object> Parent() const;
 
   // The key given to PDFTextBoxes::Add; empty without one.
-  const folivar::Text& Key() const { return key_; }
+  const folivar::Text& Key() const { return key_.AsText(); }
 
   // The edges. Left and Top are 0 at first; setting them moves the box. Setting the bottom above
   // the top, or the right edge to the left of the left one, makes it the edge on the other side and
@@ -216,7 +217,7 @@ class FOLIVAR_API PDFTextBox final : public Tagged {
   std::int64_t TextLength() const;
   void AutoSizeBox();
 
-  folivar::Text key_;
+  MemberKey key_;
   std::weak_ptr<Object> parent_;
   std::shared_ptr<Surface> parentSurface_;
   // Both null at first: the graphics state, and what takes its operators.

@@ -18,7 +18,7 @@ PDFTextBoxes::PDFTextBoxes(const Internal&, std::weak_ptr<Object> parent,
 std::shared_ptr<PDFTextBox> PDFTextBoxes::Add(TextView key, const Value& before,
                                               const Value& after) {
   auto box = InMember("PDFTextBoxes.Add", [&] {
-    return std::make_shared<PDFTextBox>(Internal(), parent_, parentSurface_, Text(key));
+    return std::make_shared<PDFTextBox>(Internal(), parent_, parentSurface_, key);
   });
   members_.Add(box, key, before, after);
   return box;
