@@ -180,7 +180,7 @@ class KeyedList {
   }
 
   // Inserts, or changes nothing when memory runs out. `position` counts from 0.
-  void Insert(std::size_t position, T item, std::u16string foldedKey) {
+  void Insert(std::size_t position, T&& item, std::u16string&& foldedKey) {
     const Place place = MakeRoom(position);
     Block& block = *blocks_[place.block];
     auto& entries = block.entries;
