@@ -157,10 +157,7 @@ std::string DigitsOf(double x) {
   return sign + digits + (exponent < 0 ? "e-" : "e+") + (power.size() < 2 ? "0" : "") + power;
 }
 
-float Finite(float sum) {
-  if (!std::isfinite(sum)) throw Error::Overflow("a sum of coordinates is beyond a single");
-  return sum;
-}
+void RaiseBeyondSingle() { throw Error::Overflow("a sum of coordinates is beyond a single"); }
 
 const Text& MaxOf(const Text& a, const Text& b) { return CompareIgnoringCase(a, b) >= 0 ? a : b; }
 const Text& MinOf(const Text& a, const Text& b) { return CompareIgnoringCase(a, b) <= 0 ? a : b; }

@@ -39,8 +39,13 @@ inline double RoundHalfToEven(double x) {
   return x < 0 ? (x - kNoFraction) + kNoFraction : (x + kNoFraction) - kNoFraction;
 }
 
+[[noreturn]] void RaiseBeyondSingle();
+
 // A sum of coordinates as it is; raises 6 when it is beyond a single.
-float Finite(float sum);
+inline float Finite(float sum) {
+  if (!std::isfinite(sum)) RaiseBeyondSingle();
+  return sum;
+}
 
 template <class T>
 concept Arithmetic = std::is_arithmetic_v<T>;
