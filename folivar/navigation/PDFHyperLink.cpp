@@ -1,6 +1,6 @@
 #include "folivar/navigation/PDFHyperLink.h"
 
-#include <utility>
+#include <string_view>
 
 #include "folivar/document/Error.h"
 #include "folivar/document/Internal.h"
@@ -8,6 +8,25 @@
 #include "folivar/document/PDFText.h"
 
 namespace folivar {
+namespace {
+
+// Empty for what is not written.
+std::string_view HighlightLine(PDFLinkHighlightAction action) {
+  switch (action) {
+    case lhaNone:
+      return "/H /N\n";
+    case lhaInvert:
+      return "/H /I\n";
+    case lhaOutline:
+      return "/H /O\n";
+    case lhaPush:
+      return "/H /P\n";
+    default:
+      return "";
+  }
+}
+
+}  // namespace
 
 PDFHyperLink::PDFHyperLink(const Internal& internal, TextView key)
     : key_(key), destination_(internal) {}
@@ -31,11 +50,9 @@ void PDFHyperLink::SetBorderDashPattern(float dashOn, float dashOff) {
 //   >>
 void PDFHyperLink::BuildAnnotationText(const Internal& internal, PDFText& text,
                                        const std::weak_ptr<PDFPages>& pages) const {
-  text.Append("<< /Type /Annot\n/Subtype /Link\n");
-  AppendHighlight(text);
   try {
-    text.Append("/Rect [ ", Real{Left()}, " ", Real{Bottom()}, " ", Real{Right()}, " ", Real{Top()},
-                " ]\n");
+    text.Append("<< /Type /Annot\n/Subtype /Link\n", HighlightLine(highlight_), "/Rect [ ",
+                Real{Left()}, " ", Real{Bottom()}, " ", Real{Right()}, " ", Real{Top()}, " ]\n");
     destination_.AppendDestination(internal, text, pages);
     AppendBorder(text);
   } catch (const Error& error) {
@@ -47,25 +64,6 @@ void PDFHyperLink::BuildAnnotationText(const Internal& internal, PDFText& text,
                 "]\n");
   }
   text.Append(">>\n");
-}
-
-void PDFHyperLink::AppendHighlight(PDFText& text) const {
-  switch (highlight_) {
-    case lhaUserDefault:
-      break;
-    case lhaNone:
-      text.Append("/H /N\n");
-      break;
-    case lhaInvert:
-      text.Append("/H /I\n");
-      break;
-    case lhaOutline:
-      text.Append("/H /O\n");
-      break;
-    case lhaPush:
-      text.Append("/H /P\n");
-      break;
-  }
 }
 
 void PDFHyperLink::AppendBorder(PDFText& text) const {

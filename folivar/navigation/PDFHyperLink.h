@@ -51,7 +51,6 @@ class FOLIVAR_API PDFHyperLink final : public Tagged, public Region {
                            const std::weak_ptr<PDFPages>& pages) const;
 
  private:
-  void AppendHighlight(PDFText& text) const;
   void AppendBorder(PDFText& text) const;
 
   MemberKey key_;
