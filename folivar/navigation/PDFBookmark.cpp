@@ -1,7 +1,6 @@
 #include "folivar/navigation/PDFBookmark.h"
 
 #include <string>
-#include <utility>
 
 #include "folivar/document/Error.h"
 #include "folivar/document/Internal.h"
