@@ -1,8 +1,7 @@
 // A small report: text, a box, a picture, a link, bookmarks.
 //
-//   i686-w64-mingw32-g++ -std=c++20 -municode -I build/windows-x86/com -o report.exe report.cpp
-//       -lole32 -loleaut32 -luuid
-//   report picture.jpg report.pdf
+//   i686-w64-mingw32-g++ -std=c++20 -municode -static -I build/windows-x86/com -o report.exe
+//       report.cpp -lole32 -loleaut32 -luuid && report picture.jpg report.pdf
 //
 // folivar_h.h, the automation interface for C++, is made with the component.
 
