@@ -20,35 +20,46 @@ using TagVariant = std::shared_ptr<const Variant>;
 
 // The system's headers do not say that copying leaves the source alone.
 using CopyFunction = decltype(&VariantCopy);
-void Copy(CopyFunction copy, VARIANT* target, const VARIANT& source) {
+bool Copy(CopyFunction copy, VARIANT* target, const VARIANT& source) {
   const HRESULT result = copy(target, const_cast<VARIANT*>(&source));
   if (result == E_OUTOFMEMORY) throw std::bad_alloc();
-  if (FAILED(result)) throw Error::TypeMismatch("A value cannot be copied");
+  return SUCCEEDED(result);
 }
 
 bool IsMissing(const VARIANT& value) {
   return value.vt == VT_ERROR && value.scode == DISP_E_PARAMNOTFOUND;
 }
 
-// Missing and Null as they are; nothing for all others.
-std::optional<Value> AbsentFrom(const VARIANT& value) {
-  if (IsMissing(value)) return Value();
-  if (value.vt == VT_NULL) return Value::Null();
-  return std::nullopt;
+// Neither number, text nor flag, which the model refuses.
+Value Unfit() { return Value::Host({}); }
+
+// Missing and Null as they are; of anything else what `convert` makes of a copy of it.
+template <class Convert>
+Value ValueFrom(const VARIANT& argument, const Convert& convert) {
+  Variant held;
+  if (!held.CopyFrom(argument)) return Unfit();
+  if (IsMissing(*held)) return {};
+  if (held->vt == VT_NULL) return Value::Null();
+  return convert(held);
 }
 
-Value ConvertedNumber(Variant& number) {
-  const bool isWhole = number->vt == VT_I8 || number->vt == VT_UI8;
-  if (!number.ChangeTo(isWhole ? VT_I8 : VT_R8)) return Value::Host({});
-  return isWhole ? Value(std::int64_t{number->llVal}) : Value(number->dblVal);
+Value AsNumber(Variant& held) { return held.ChangeTo(VT_R8) ? Value(held->dblVal) : Unfit(); }
+
+Value AsFlag(Variant& held) {
+  return held.ChangeTo(VT_BOOL) ? Value(held->boolVal != VARIANT_FALSE) : Unfit();
+}
+
+Value AsText(Variant& held) {
+  return held.ChangeTo(VT_BSTR) ? Value(ViewOf(held->bstrVal)) : Unfit();
 }
 
 }  // namespace
 
-Variant::Variant(const VARIANT& source) {
-  VariantInit(&held_);
-  Copy(&VariantCopyInd, &held_, source);
+Variant::Variant(const VARIANT& source) : Variant() {
+  if (!CopyFrom(source)) throw Error::TypeMismatch("A value cannot be copied");
 }
+
+bool Variant::CopyFrom(const VARIANT& source) { return Copy(&VariantCopyInd, &held_, source); }
 
 std::wstring WideFrom(const Text& text) { return {text.Utf16().begin(), text.Utf16().end()}; }
 
@@ -66,17 +77,11 @@ BSTR BstrFrom(const Text& text) {
 }
 
 Value IndexFrom(const VARIANT& index) {
-  Variant held(index);
-  if (held->vt == VT_BSTR) return Value(ViewOf(held->bstrVal));
-  if (const auto absent = AbsentFrom(*held)) return *absent;
-  return ConvertedNumber(held);
+  return ValueFrom(
+      index, [](Variant& held) { return held->vt == VT_BSTR ? AsText(held) : AsNumber(held); });
 }
 
-Value NumberFrom(const VARIANT& number) {
-  Variant held(number);
-  if (const auto absent = AbsentFrom(*held)) return *absent;
-  return ConvertedNumber(held);
-}
+Value NumberFrom(const VARIANT& number) { return ValueFrom(number, AsNumber); }
 
 std::optional<float> SingleFrom(const char* member, const VARIANT& number) {
   return InMember(member, [&]() -> std::optional<float> {
@@ -88,21 +93,16 @@ std::optional<float> SingleFrom(const char* member, const VARIANT& number) {
   });
 }
 
-Value FlagFrom(const VARIANT& flag) {
-  Variant held(flag);
-  if (const auto absent = AbsentFrom(*held)) return *absent;
-  if (!held.ChangeTo(VT_BOOL)) return Value::Host({});
-  return Value(held->boolVal != VARIANT_FALSE);
-}
+Value FlagFrom(const VARIANT& flag) { return ValueFrom(flag, AsFlag); }
 
 std::optional<Text> TextFrom(const char* member, const VARIANT& text) {
   return InMember(member, [&]() -> std::optional<Text> {
-    Variant held(text);
-    const std::optional<Value> absent = AbsentFrom(*held);
-    if (absent && absent->IsNull()) throw Error::InvalidNull("Null stands where a text is wanted");
-    if (absent) return std::nullopt;
-    if (!held.ChangeTo(VT_BSTR)) throw Error::TypeMismatch("A text is wanted");
-    return Text(ViewOf(held->bstrVal));
+    const Value value = ValueFrom(text, AsText);
+    if (value.IsMissing()) return std::nullopt;
+    if (value.IsNull()) throw Error::InvalidNull("Null stands where a text is wanted");
+    const auto* given = value.As<Text>();
+    if (given == nullptr) throw Error::TypeMismatch("A text is wanted");
+    return *given;
   });
 }
 
@@ -144,7 +144,8 @@ Value ObjectTagFrom(const VARIANT& tag) {
 
 void CopyTag(const Value& tag, VARIANT* result) {
   if (const auto* host = tag.As<std::any>()) {
-    Copy(&VariantCopy, result, ***std::any_cast<TagVariant>(host));
+    const VARIANT& held = ***std::any_cast<TagVariant>(host);
+    if (!Copy(&VariantCopy, result, held)) throw Error::TypeMismatch("A tag cannot be copied");
   }
 }
 

@@ -14,7 +14,7 @@ namespace folivar::com {
 class Variant {
  public:
   Variant() { VariantInit(&held_); }
-  // A copy, of what `source` refers to if it refers to something. Raises what copying fails with.
+  // A copy, as by CopyFrom. Raises 13 when there can be none.
   explicit Variant(const VARIANT& source);
   ~Variant() { VariantClear(&held_); }
   Variant(const Variant&) = delete;
@@ -24,6 +24,9 @@ class Variant {
   const VARIANT& operator*() const { return held_; }
   const VARIANT* operator->() const { return &held_; }
 
+  // Whether it now is a copy of `source`, or of what that refers to. For an empty one. Raises 7
+  // when there is no memory.
+  bool CopyFrom(const VARIANT& source);
   // Whether it now is of this type, converted as the system converts.
   bool ChangeTo(VARTYPE type) { return SUCCEEDED(VariantChangeType(&held_, &held_, 0, type)); }
 
@@ -62,7 +65,7 @@ SAFEARRAY* ArrayFrom(const std::vector<Text>& texts);
 Value TagFrom(const VARIANT& tag);
 // The same of an object or Nothing; raises 424 for anything else.
 Value ObjectTagFrom(const VARIANT& tag);
-// A copy. Raises what copying fails with.
+// A copy. Raises 13 when there can be none.
 void CopyTag(const Value& tag, VARIANT* result);
 
 }  // namespace folivar::com

@@ -86,6 +86,40 @@ void TagsByReference() {
   CHECK((LateCall{document.Get(), L"Tag", DISPATCH_PROPERTYPUTREF}({Variant(5)})) != S_OK);
 }
 
+// Of a type that does not exist, or a reference to a reference: KeyExists and ReOrder never fail.
+void ValuesThatCannotBeCopied() {
+  const auto document = NewDocument();
+  AddPage(document, L"a");
+  const auto pages = PagesOf(document);
+  VARIANT unknown{};
+  unknown.vt = 77;
+  Variant position(1);
+  Variant reference = Variant::To(position);
+  const Variant nested = Variant::To(reference);
+  for (const VARIANT& value : {unknown, static_cast<VARIANT>(nested)}) {
+    ComPtr<_PDFPage> page;
+    CHECK(pages->get_Item(value, &page) == Number(13));
+    VARIANT_BOOL exists = VARIANT_TRUE;
+    CHECK_OK(pages->KeyExists(value, &exists));
+    CHECK(exists == VARIANT_FALSE);
+    CHECK_OK(pages->ReOrder(Bstr(L"none"), value, Variant::Missing()));
+    CHECK(document->put_Tag(value) == Number(13));
+  }
+}
+
+// A whole number is too large whatever its type.
+void LargeNumbers() {
+  const auto pages = PagesOf(NewDocument());
+  VARIANT number{};
+  number.vt = VT_UI8;
+  number.ullVal = ~0ULL;
+  ComPtr<_PDFPage> page;
+  CHECK(pages->get_Item(number, &page) == Number(6));
+  number.vt = VT_I8;
+  number.llVal = 1LL << 32;
+  CHECK(pages->get_Item(number, &page) == Number(6));
+}
+
 }  // namespace
 
 void Test() {
@@ -93,4 +127,6 @@ void Test() {
   LateBound();
   ForeignObjects();
   TagsByReference();
+  ValuesThatCannotBeCopied();
+  LargeNumbers();
 }
