@@ -145,7 +145,7 @@ HRESULT Dispatch::Invoke(const IID& interfaceId, void* object, DISPID id, const 
     if (member != nullptr && arguments->cArgs > member->referredTypes.size()) {
       const bool goesOn = member->referredTypes.empty() && member->givesObject;
       answer = goesOn ? InvokeDefault(call, locale, arguments) : DISP_E_BADPARAMCOUNT;
-    } else if (member != nullptr && member->kind == INVOKE_FUNC) {
+    } else if (member != nullptr && member->HasReferences()) {
       References references(*member, *arguments);
       answer = call.With(references.Arguments());
       if (SUCCEEDED(answer)) references.GiveBack();

@@ -88,6 +88,11 @@ const Entry& EntryOf(const GUID& id) {
 
 }  // namespace
 
+bool MemberType::HasReferences() const {
+  return std::any_of(referredTypes.begin(), referredTypes.end(),
+                     [](VARTYPE type) { return type != VT_EMPTY; });
+}
+
 const MemberType* InterfaceType::Find(DISPID id, WORD kinds) const {
   const auto found = std::find_if(members.begin(), members.end(), [&](const MemberType& member) {
     return member.id == id && (member.kind & kinds) != 0;

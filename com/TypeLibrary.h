@@ -8,9 +8,12 @@ namespace folivar::com {
 
 // What late binding needs to know of one member: a method or one side of a property.
 struct MemberType {
+  // Whether a parameter is a reference to a number.
+  bool HasReferences() const;
+
   DISPID id;
   INVOKEKIND kind;
-  // For each parameter the plain type that it refers to, VT_EMPTY for one passed by value.
+  // For each parameter the type of the number that it refers to, VT_EMPTY for all others.
   std::vector<VARTYPE> referredTypes;
   // Whether its result may have a default member.
   bool givesObject;
