@@ -40,7 +40,7 @@ void Module::CountLock(int change) { locks += change; }
 
 bool Module::IsIdle() { return liveObjects == 0 && locks == 0; }
 
-// Runs while the DLL is being unloaded: calls nothing but kernel32.
+// Runs while the DLL is being unloaded: of the system it calls nothing but kernel32.
 void Module::ReportLeaks(bool isProcessExit) {
   std::array<wchar_t, 1024> path{};
   const DWORD length = GetEnvironmentVariableW(L"FOLIVAR_LEAK_REPORT", path.data(), path.size());

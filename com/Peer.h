@@ -122,6 +122,7 @@ class Peer : public Automation<Core>::Interface,
   STDMETHODIMP GetClassInfo(ITypeInfo** result) override {
     return Guard([&] {
       RequirePointer(result);
+      *result = nullptr;
       *result = TypeLibrary::ClassInfoOf(__uuidof(typename Automation<Core>::Class));
       (*result)->AddRef();
     });

@@ -89,10 +89,9 @@ void Points() {
   DWORD cookie = 0;
   CHECK(point->Advise(nullptr, &cookie) == E_POINTER);
   CHECK(point->Advise(&sink, nullptr) == E_POINTER);
-  ComPtr<IEnumVARIANT> deaf;
-  ComPtr<IUnknown> pagesWalk;
-  CHECK_OK(PagesOf(document)->get_NewEnum(&pagesWalk));
-  CHECK(point->Advise(pagesWalk.Get(), &cookie) == CONNECT_E_CANNOTCONNECT);
+  ComPtr<IUnknown> deaf;
+  CHECK_OK(PagesOf(document)->get_NewEnum(&deaf));
+  CHECK(point->Advise(deaf.Get(), &cookie) == CONNECT_E_CANNOTCONNECT);
   CHECK(point->Unadvise(77) == CONNECT_E_NOCONNECTION);
   CHECK_OK(point->Advise(&sink, &cookie));
   CHECK(cookie != 0);
@@ -198,7 +197,6 @@ void DestinationsLetGo() {
   CHECK_OK(bookmark->get_Destination(&destination));
   CHECK_OK(destination->putref_page(page.Get()));
   ComPtr<_PDFPage> target;
-  // The page is let go of by the time that listeners of the client's hear of it, or right after.
   CHECK_OK(PagesOf(document)->Remove(Variant(1)));
   CHECK_OK(destination->get_page(&target));
   CHECK(!target);
