@@ -35,8 +35,9 @@ void PDFPages::Remove(const Value& indexOrKey) {
 }
 
 std::exception_ptr PDFPages::RemovePage(const Value& indexOrKey) {
-  const auto self = Shared<PDFPages>();  // handlers may let go of it, and of what is given
-  const Value place = indexOrKey;
+  // Handlers may let go of the collection, and of what is given.
+  const auto self = Shared<PDFPages>();
+  const Value place = indexOrKey;  // NOLINT(performance-unnecessary-copy-initialization)
   const std::shared_ptr<PDFPage> page = members_.Item(place);
   std::exception_ptr thrown = page->RaisePageRemoved(Internal());
   // By now it may stand elsewhere, or be removed already.
