@@ -59,7 +59,7 @@ std::mutex mutex;
 // What has been read so far. A pointer, because at the end of the process the system's libraries
 // may be gone before this one, and then nothing may be let go.
 struct Contents {
-  ComPtr<ITypeLib> library;
+  ComPtr<ITypeLib> typeLibrary;
   std::vector<std::unique_ptr<Entry>> entries;
 };
 constinit Contents* contents = nullptr;
@@ -67,7 +67,7 @@ constinit Contents* contents = nullptr;
 Contents& ContentsRead() {
   if (contents == nullptr) {
     auto read = std::make_unique<Contents>();
-    RaiseIfFailed(LoadTypeLibEx(Module::Path().c_str(), REGKIND_NONE, &read->library));
+    RaiseIfFailed(LoadTypeLibEx(Module::Path().c_str(), REGKIND_NONE, &read->typeLibrary));
     contents = read.release();
   }
   return *contents;
@@ -81,7 +81,7 @@ const Entry& EntryOf(const GUID& id) {
   if (found != read.entries.end()) return **found;
   auto entry = std::make_unique<Entry>();
   entry->id = id;
-  RaiseIfFailed(read.library->GetTypeInfoOfGuid(id, &entry->info));
+  RaiseIfFailed(read.typeLibrary->GetTypeInfoOfGuid(id, &entry->info));
   entry->type = {entry->info.Get(), MembersOf(entry->info.Get())};
   return *read.entries.emplace_back(std::move(entry));
 }
@@ -108,7 +108,7 @@ ITypeInfo* TypeLibrary::ClassInfoOf(const CLSID& classId) { return EntryOf(class
 
 ITypeLib* TypeLibrary::Library() {
   const std::lock_guard lock(mutex);
-  return ContentsRead().library.Get();
+  return ContentsRead().typeLibrary.Get();
 }
 
 void TypeLibrary::Release() { delete std::exchange(contents, nullptr); }
