@@ -8,7 +8,7 @@
 #include "com/HostWarnings.h"
 #include "com/Module.h"
 #include "com/Peers.h"
-#include "folivar/document/Error.h"
+#include "folivar/base/Error.h"
 
 namespace folivar::com {
 

@@ -6,7 +6,7 @@
 #include "com/ComPrefix.h"
 #include "com/Enumerator.h"
 #include "com/Peer.h"
-#include "folivar/document/Value.h"
+#include "folivar/base/Value.h"
 
 namespace folivar::com {
 

@@ -7,7 +7,7 @@
 #include "com/Guard.h"
 #include "com/TypeLibrary.h"
 #include "com/Variants.h"
-#include "folivar/document/Error.h"
+#include "folivar/base/Error.h"
 
 namespace folivar::com {
 namespace {

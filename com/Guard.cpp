@@ -8,8 +8,8 @@
 #include <string>
 
 #include "com/Variants.h"
-#include "folivar/document/Error.h"
-#include "folivar/document/Text.h"
+#include "folivar/base/Error.h"
+#include "folivar/base/Text.h"
 
 namespace folivar::com {
 namespace {

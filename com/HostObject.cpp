@@ -2,7 +2,7 @@
 
 #include <wrl/client.h>
 
-#include "folivar/document/Error.h"
+#include "folivar/base/Error.h"
 
 namespace folivar::com {
 

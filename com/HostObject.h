@@ -3,8 +3,8 @@
 #include <memory>
 
 #include "com/ComPrefix.h"
-#include "folivar/document/HostPeer.h"
-#include "folivar/document/Object.h"
+#include "folivar/base/HostPeer.h"
+#include "folivar/base/Object.h"
 
 namespace folivar::com {
 

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "com/FolivarWarnings.h"
-#include "folivar/platform/Warnings.h"
+#include "folivar/base/Warnings.h"
 
 namespace folivar::com {
 

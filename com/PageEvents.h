@@ -6,7 +6,7 @@
 
 #include "com/ComPrefix.h"
 #include "com/Peers.h"
-#include "folivar/document/Event.h"
+#include "folivar/base/Event.h"
 
 namespace folivar::com {
 

@@ -16,7 +16,7 @@
 #include "com/Peers.h"
 #include "com/TypeLibrary.h"
 #include "com/Variants.h"
-#include "folivar/document/Error.h"
+#include "folivar/base/Error.h"
 
 namespace folivar::com {
 

@@ -10,7 +10,7 @@
 
 #include "com/Module.h"
 #include "com/TypeLibrary.h"
-#include "folivar/document/Error.h"
+#include "folivar/base/Error.h"
 
 namespace folivar::com {
 namespace {

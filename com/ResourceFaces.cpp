@@ -10,7 +10,7 @@
 
 #include "com/ComPrefix.h"
 #include "com/Module.h"
-#include "folivar/document/Error.h"
+#include "folivar/base/Error.h"
 #include "folivar/fonts/StandardFaceFiles.h"
 
 namespace folivar::com {

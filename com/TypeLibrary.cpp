@@ -10,7 +10,7 @@
 #include <utility>
 
 #include "com/Module.h"
-#include "folivar/document/Error.h"
+#include "folivar/base/Error.h"
 
 namespace folivar::com {
 namespace {

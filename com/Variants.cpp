@@ -8,8 +8,8 @@
 #include <string>
 #include <utility>
 
-#include "folivar/document/Error.h"
-#include "folivar/document/InMember.h"
+#include "folivar/base/Error.h"
+#include "folivar/base/InMember.h"
 
 namespace folivar::com {
 namespace {

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "com/ComPrefix.h"
-#include "folivar/document/Text.h"
-#include "folivar/document/Value.h"
+#include "folivar/base/Text.h"
+#include "folivar/base/Value.h"
 
 namespace folivar::com {
 

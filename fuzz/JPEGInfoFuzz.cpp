@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "folivar/document/ByteSink.h"
-#include "folivar/document/Error.h"
+#include "folivar/base/Error.h"
+#include "folivar/file/ByteSink.h"
 #include "folivar/images/ImageFile.h"
 #include "folivar/images/JPEGInfo.h"
 #include "tests/support/MemorySource.h"

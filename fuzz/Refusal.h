@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "folivar/document/Error.h"
+#include "folivar/base/Error.h"
 
 namespace folivar::fuzz {
 

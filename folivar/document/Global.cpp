@@ -9,11 +9,11 @@
 #include <limits>
 #include <utility>
 
-#include "folivar/document/CaseFold.h"
-#include "folivar/document/Decimal.h"
-#include "folivar/document/Error.h"
-#include "folivar/document/PDFText.h"
-#include "folivar/platform/FileSystem.h"
+#include "folivar/base/CaseFold.h"
+#include "folivar/base/Decimal.h"
+#include "folivar/base/Error.h"
+#include "folivar/file/FileSystem.h"
+#include "folivar/file/PDFText.h"
 
 namespace folivar {
 namespace {

@@ -8,7 +8,7 @@
 #include <type_traits>
 #include <vector>
 
-#include "folivar/document/Text.h"
+#include "folivar/base/Text.h"
 
 namespace folivar {
 

@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
-#include "folivar/document/KeyedList.h"
-#include "folivar/document/Text.h"
-#include "folivar/document/Value.h"
+#include "folivar/base/KeyedList.h"
+#include "folivar/base/Text.h"
+#include "folivar/base/Value.h"
 
 namespace folivar {
 

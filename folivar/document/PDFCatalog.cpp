@@ -3,11 +3,11 @@
 #include <string_view>
 #include <utility>
 
-#include "folivar/document/Internal.h"
-#include "folivar/document/ObjectNumbers.h"
+#include "folivar/base/Internal.h"
 #include "folivar/document/PDFPages.h"
-#include "folivar/document/PDFText.h"
-#include "folivar/document/SaveFile.h"
+#include "folivar/file/ObjectNumbers.h"
+#include "folivar/file/PDFText.h"
+#include "folivar/file/SaveFile.h"
 #include "folivar/navigation/PDFOutline.h"
 
 namespace folivar {

@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <memory>
 
-#include "folivar/document/Object.h"
-#include "folivar/document/ObjectWriter.h"
+#include "folivar/base/Object.h"
 #include "folivar/document/PDFViewerPreferences.h"
+#include "folivar/file/ObjectWriter.h"
 
 namespace folivar {
 

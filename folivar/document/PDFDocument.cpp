@@ -6,13 +6,13 @@
 #include <cstdint>
 #include <utility>
 
-#include "folivar/document/FileSink.h"
-#include "folivar/document/Internal.h"
-#include "folivar/document/ObjectNumbers.h"
-#include "folivar/document/ObjectWriter.h"
+#include "folivar/base/Internal.h"
 #include "folivar/document/PDFCatalog.h"
 #include "folivar/document/PDFPages.h"
-#include "folivar/document/SaveFile.h"
+#include "folivar/file/FileSink.h"
+#include "folivar/file/ObjectNumbers.h"
+#include "folivar/file/ObjectWriter.h"
+#include "folivar/file/SaveFile.h"
 #include "folivar/fonts/PDFFont.h"
 #include "folivar/fonts/PDFFonts.h"
 #include "folivar/images/PDFImages.h"

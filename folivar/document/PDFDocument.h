@@ -2,10 +2,10 @@
 
 #include <memory>
 
-#include "folivar/document/Api.h"
-#include "folivar/document/Tagged.h"
-#include "folivar/document/Text.h"
-#include "folivar/platform/Platform.h"
+#include "folivar/base/Api.h"
+#include "folivar/base/Tagged.h"
+#include "folivar/base/Text.h"
+#include "folivar/document/Platform.h"
 
 namespace folivar {
 

@@ -2,12 +2,12 @@
 
 #include <utility>
 
-#include "folivar/document/InMember.h"
-#include "folivar/document/Internal.h"
-#include "folivar/document/ObjectNumbers.h"
+#include "folivar/base/InMember.h"
+#include "folivar/base/Internal.h"
 #include "folivar/document/PDFDocument.h"
-#include "folivar/document/PDFText.h"
-#include "folivar/document/SaveFile.h"
+#include "folivar/file/ObjectNumbers.h"
+#include "folivar/file/PDFText.h"
+#include "folivar/file/SaveFile.h"
 #include "folivar/fonts/PDFFont.h"
 
 namespace folivar {

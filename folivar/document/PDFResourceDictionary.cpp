@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "folivar/document/Internal.h"
-#include "folivar/document/Object.h"
-#include "folivar/document/XObject.h"
+#include "folivar/base/Internal.h"
+#include "folivar/base/Object.h"
+#include "folivar/file/XObject.h"
 #include "folivar/fonts/FaceUser.h"
 #include "folivar/fonts/PDFFontInfo.h"
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "folivar/document/KelCollection.h"
-#include "folivar/document/PDFText.h"
+#include "folivar/file/PDFText.h"
 
 namespace folivar {
 

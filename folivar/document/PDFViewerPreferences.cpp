@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "folivar/document/Error.h"
+#include "folivar/base/Error.h"
 #include "folivar/document/PDFCatalog.h"
 
 namespace folivar {

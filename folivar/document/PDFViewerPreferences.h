@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <memory>
 
-#include "folivar/document/Api.h"
-#include "folivar/document/Object.h"
+#include "folivar/base/Api.h"
+#include "folivar/base/Object.h"
 
 namespace folivar {
 

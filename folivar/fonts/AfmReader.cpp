@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "folivar/document/Error.h"
+#include "folivar/base/Error.h"
 
 namespace folivar {
 namespace {

@@ -9,11 +9,11 @@
 #include <string_view>
 #include <utility>
 
-#include "folivar/document/Error.h"
-#include "folivar/document/FileSource.h"
+#include "folivar/base/Error.h"
+#include "folivar/file/FileSource.h"
+#include "folivar/file/FileSystem.h"
 #include "folivar/fonts/FontPrograms.h"
 #include "folivar/fonts/TrueTypeFontTables.h"
-#include "folivar/platform/FileSystem.h"
 
 namespace folivar {
 namespace {

@@ -4,8 +4,8 @@
 #include <memory>
 #include <vector>
 
-#include "folivar/document/Text.h"
-#include "folivar/platform/SystemFonts.h"
+#include "folivar/base/Text.h"
+#include "folivar/fonts/SystemFonts.h"
 
 namespace folivar {
 

@@ -8,12 +8,12 @@
 #include <system_error>
 #include <utility>
 
-#include "folivar/document/CaseFold.h"
-#include "folivar/document/Error.h"
-#include "folivar/document/FileHandle.h"
-#include "folivar/document/InMember.h"
+#include "folivar/base/CaseFold.h"
+#include "folivar/base/Error.h"
+#include "folivar/base/InMember.h"
+#include "folivar/file/FileHandle.h"
+#include "folivar/file/FileSystem.h"
 #include "folivar/fonts/FontFileFace.h"
-#include "folivar/platform/FileSystem.h"
 
 namespace folivar {
 namespace {

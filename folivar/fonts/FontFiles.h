@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "folivar/document/Api.h"
-#include "folivar/document/Text.h"
-#include "folivar/platform/SystemFonts.h"
+#include "folivar/base/Api.h"
+#include "folivar/base/Text.h"
+#include "folivar/fonts/SystemFonts.h"
 
 namespace folivar {
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include "folivar/base/Internal.h"
 #include "folivar/document/Global.h"
-#include "folivar/document/Internal.h"
 #include "folivar/fonts/FaceUser.h"
 
 namespace folivar {

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "folivar/document/Error.h"
+#include "folivar/base/Error.h"
 #include "folivar/fonts/PDFFont.h"
 #include "folivar/fonts/PDFFontInfo.h"
 

@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "folivar/document/AnsiText.h"
-#include "folivar/document/Error.h"
-#include "folivar/document/InMember.h"
-#include "folivar/document/Internal.h"
+#include "folivar/base/AnsiText.h"
+#include "folivar/base/Error.h"
+#include "folivar/base/InMember.h"
+#include "folivar/base/Internal.h"
 #include "folivar/fonts/FontMetrics.h"
 #include "folivar/fonts/PDFFontInfo.h"
 #include "folivar/fonts/PDFFonts.h"

@@ -3,9 +3,9 @@
 #include <memory>
 #include <optional>
 
-#include "folivar/document/Api.h"
-#include "folivar/document/Object.h"
-#include "folivar/document/Text.h"
+#include "folivar/base/Api.h"
+#include "folivar/base/Object.h"
+#include "folivar/base/Text.h"
 #include "folivar/fonts/FaceUser.h"
 #include "folivar/fonts/PDFFontType.h"
 

@@ -3,12 +3,12 @@
 #include <array>
 #include <utility>
 
-#include "folivar/document/AnsiText.h"
-#include "folivar/document/CaseFold.h"
+#include "folivar/base/AnsiText.h"
+#include "folivar/base/BigEndian.h"
+#include "folivar/base/CaseFold.h"
 #include "folivar/document/Global.h"
-#include "folivar/document/ObjectNumbers.h"
-#include "folivar/document/SaveFile.h"
-#include "folivar/fonts/BigEndian.h"
+#include "folivar/file/ObjectNumbers.h"
+#include "folivar/file/SaveFile.h"
 #include "folivar/fonts/StandardFaces.h"
 
 namespace folivar {

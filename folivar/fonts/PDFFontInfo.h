@@ -6,13 +6,13 @@
 #include <string>
 #include <string_view>
 
-#include "folivar/document/Object.h"
-#include "folivar/document/ObjectWriter.h"
-#include "folivar/document/Text.h"
+#include "folivar/base/Object.h"
+#include "folivar/base/Text.h"
+#include "folivar/base/Warnings.h"
+#include "folivar/file/ObjectWriter.h"
 #include "folivar/fonts/CharacterTable.h"
 #include "folivar/fonts/PDFFontType.h"
-#include "folivar/platform/SystemFonts.h"
-#include "folivar/platform/Warnings.h"
+#include "folivar/fonts/SystemFonts.h"
 
 namespace folivar {
 

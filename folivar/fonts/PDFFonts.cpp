@@ -6,11 +6,11 @@
 #include <string_view>
 #include <utility>
 
-#include "folivar/document/CaseFold.h"
-#include "folivar/document/Error.h"
+#include "folivar/base/CaseFold.h"
+#include "folivar/base/Error.h"
+#include "folivar/base/InMember.h"
+#include "folivar/base/Internal.h"
 #include "folivar/document/Global.h"
-#include "folivar/document/InMember.h"
-#include "folivar/document/Internal.h"
 #include "folivar/fonts/PDFFont.h"
 #include "folivar/fonts/PDFFontInfo.h"
 #include "folivar/fonts/StandardFaces.h"

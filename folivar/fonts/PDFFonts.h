@@ -5,14 +5,14 @@
 #include <string>
 #include <vector>
 
-#include "folivar/document/Api.h"
-#include "folivar/document/KeyedList.h"
-#include "folivar/document/Object.h"
-#include "folivar/document/ObjectWriter.h"
-#include "folivar/document/Text.h"
-#include "folivar/document/Value.h"
+#include "folivar/base/Api.h"
+#include "folivar/base/KeyedList.h"
+#include "folivar/base/Object.h"
+#include "folivar/base/Text.h"
+#include "folivar/base/Value.h"
+#include "folivar/document/Platform.h"
+#include "folivar/file/ObjectWriter.h"
 #include "folivar/fonts/PDFFontType.h"
-#include "folivar/platform/Platform.h"
 
 namespace folivar {
 

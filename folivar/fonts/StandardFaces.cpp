@@ -5,7 +5,7 @@
 #include <mutex>
 #include <string>
 
-#include "folivar/document/CaseFold.h"
+#include "folivar/base/CaseFold.h"
 
 namespace folivar {
 namespace {

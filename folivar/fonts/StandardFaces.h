@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-#include "folivar/document/Text.h"
+#include "folivar/base/Text.h"
 #include "folivar/fonts/AfmReader.h"
 #include "folivar/fonts/StandardFaceFiles.h"
 

@@ -6,9 +6,9 @@
 #include <cstdlib>
 #include <utility>
 
-#include "folivar/document/AnsiText.h"
-#include "folivar/document/Error.h"
-#include "folivar/fonts/BigEndian.h"
+#include "folivar/base/AnsiText.h"
+#include "folivar/base/BigEndian.h"
+#include "folivar/base/Error.h"
 
 namespace folivar {
 namespace {

@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
-#include "folivar/document/ByteSource.h"
-#include "folivar/document/Text.h"
-#include "folivar/platform/SystemFonts.h"
+#include "folivar/base/Text.h"
+#include "folivar/file/ByteSource.h"
+#include "folivar/fonts/SystemFonts.h"
 
 namespace folivar {
 

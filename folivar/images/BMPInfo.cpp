@@ -8,9 +8,9 @@
 #include <span>
 #include <utility>
 
-#include "folivar/document/ByteSink.h"
-#include "folivar/document/Error.h"
+#include "folivar/base/Error.h"
 #include "folivar/document/Global.h"
+#include "folivar/file/ByteSink.h"
 #include "folivar/images/ImageFile.h"
 
 namespace folivar {

@@ -1,6 +1,6 @@
 #include "folivar/images/ImageFile.h"
 
-#include "folivar/document/Error.h"
+#include "folivar/base/Error.h"
 
 namespace folivar {
 

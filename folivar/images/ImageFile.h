@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "folivar/document/ByteSource.h"
+#include "folivar/file/ByteSource.h"
 
 namespace folivar {
 

@@ -7,8 +7,8 @@
 #include <memory>
 #include <string>
 
-#include "folivar/document/ByteSink.h"
-#include "folivar/document/Error.h"
+#include "folivar/base/Error.h"
+#include "folivar/file/ByteSink.h"
 #include "folivar/images/ImageFile.h"
 
 namespace folivar {

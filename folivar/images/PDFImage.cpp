@@ -6,15 +6,15 @@
 #include <string_view>
 #include <utility>
 
-#include "folivar/document/ByteSink.h"
-#include "folivar/document/CaseFold.h"
-#include "folivar/document/Error.h"
-#include "folivar/document/FileSource.h"
+#include "folivar/base/CaseFold.h"
+#include "folivar/base/Error.h"
+#include "folivar/base/InMember.h"
 #include "folivar/document/Global.h"
-#include "folivar/document/InMember.h"
-#include "folivar/document/ObjectNumbers.h"
-#include "folivar/document/PDFText.h"
-#include "folivar/document/SaveFile.h"
+#include "folivar/file/ByteSink.h"
+#include "folivar/file/FileSource.h"
+#include "folivar/file/ObjectNumbers.h"
+#include "folivar/file/PDFText.h"
+#include "folivar/file/SaveFile.h"
 #include "folivar/images/BMPInfo.h"
 #include "folivar/images/ImageFile.h"
 #include "folivar/images/ImageReader.h"

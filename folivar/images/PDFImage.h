@@ -5,11 +5,11 @@
 #include <string>
 #include <string_view>
 
-#include "folivar/document/Api.h"
-#include "folivar/document/MemberKey.h"
-#include "folivar/document/ObjectWriter.h"
-#include "folivar/document/Text.h"
-#include "folivar/document/XObject.h"
+#include "folivar/base/Api.h"
+#include "folivar/base/MemberKey.h"
+#include "folivar/base/Text.h"
+#include "folivar/file/ObjectWriter.h"
+#include "folivar/file/XObject.h"
 
 namespace folivar {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <utility>
 
-#include "folivar/document/Internal.h"
+#include "folivar/base/Internal.h"
 
 namespace folivar {
 namespace {

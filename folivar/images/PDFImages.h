@@ -2,12 +2,12 @@
 
 #include <memory>
 
-#include "folivar/document/Api.h"
-#include "folivar/document/MemberList.h"
-#include "folivar/document/Object.h"
-#include "folivar/document/ObjectWriter.h"
-#include "folivar/document/Text.h"
-#include "folivar/document/Value.h"
+#include "folivar/base/Api.h"
+#include "folivar/base/MemberList.h"
+#include "folivar/base/Object.h"
+#include "folivar/base/Text.h"
+#include "folivar/base/Value.h"
+#include "folivar/file/ObjectWriter.h"
 #include "folivar/images/PDFImage.h"
 
 namespace folivar {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "folivar/document/Api.h"
-#include "folivar/document/Text.h"
+#include "folivar/base/Api.h"
+#include "folivar/base/Text.h"
 
 namespace folivar {
 

@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "folivar/document/Error.h"
-#include "folivar/document/Internal.h"
-#include "folivar/document/PDFText.h"
+#include "folivar/base/Error.h"
+#include "folivar/base/Internal.h"
+#include "folivar/file/PDFText.h"
 #include "folivar/navigation/OutlinePlace.h"
 #include "folivar/navigation/PDFBookmarks.h"
 

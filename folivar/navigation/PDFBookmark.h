@@ -3,10 +3,10 @@
 #include <memory>
 #include <utility>
 
-#include "folivar/document/Api.h"
-#include "folivar/document/MemberKey.h"
-#include "folivar/document/Tagged.h"
-#include "folivar/document/Text.h"
+#include "folivar/base/Api.h"
+#include "folivar/base/MemberKey.h"
+#include "folivar/base/Tagged.h"
+#include "folivar/base/Text.h"
 #include "folivar/navigation/PDFLinkDestination.h"
 
 namespace folivar {

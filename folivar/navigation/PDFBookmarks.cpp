@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "folivar/document/Internal.h"
+#include "folivar/base/Internal.h"
 
 namespace folivar {
 

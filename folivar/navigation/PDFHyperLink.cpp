@@ -2,10 +2,10 @@
 
 #include <string_view>
 
-#include "folivar/document/Error.h"
-#include "folivar/document/Internal.h"
-#include "folivar/document/KeyedName.h"
-#include "folivar/document/PDFText.h"
+#include "folivar/base/Error.h"
+#include "folivar/base/Internal.h"
+#include "folivar/base/KeyedName.h"
+#include "folivar/file/PDFText.h"
 
 namespace folivar {
 namespace {

@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "folivar/document/Internal.h"
-#include "folivar/document/ObjectNumbers.h"
-#include "folivar/document/PDFText.h"
-#include "folivar/document/SaveFile.h"
+#include "folivar/base/Internal.h"
+#include "folivar/file/ObjectNumbers.h"
+#include "folivar/file/PDFText.h"
+#include "folivar/file/SaveFile.h"
 
 namespace folivar {
 

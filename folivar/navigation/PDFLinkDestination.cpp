@@ -1,8 +1,8 @@
 #include "folivar/navigation/PDFLinkDestination.h"
 
-#include "folivar/document/InMember.h"
-#include "folivar/document/Internal.h"
-#include "folivar/document/PDFText.h"
+#include "folivar/base/InMember.h"
+#include "folivar/base/Internal.h"
+#include "folivar/file/PDFText.h"
 #include "folivar/page/PDFPage.h"
 
 namespace folivar {

@@ -2,9 +2,9 @@
 
 #include <memory>
 
-#include "folivar/document/Api.h"
-#include "folivar/document/Event.h"
-#include "folivar/document/Object.h"
+#include "folivar/base/Api.h"
+#include "folivar/base/Event.h"
+#include "folivar/base/Object.h"
 #include "folivar/navigation/PDFDestinationStyle.h"
 #include "folivar/navigation/Region.h"
 

@@ -4,10 +4,10 @@
 #include <cstddef>
 #include <utility>
 
-#include "folivar/document/Internal.h"
-#include "folivar/document/ObjectNumbers.h"
-#include "folivar/document/PDFText.h"
-#include "folivar/document/SaveFile.h"
+#include "folivar/base/Internal.h"
+#include "folivar/file/ObjectNumbers.h"
+#include "folivar/file/PDFText.h"
+#include "folivar/file/SaveFile.h"
 #include "folivar/navigation/PDFBookmark.h"
 #include "folivar/navigation/PDFBookmarks.h"
 

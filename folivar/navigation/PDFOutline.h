@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "folivar/document/ObjectWriter.h"
+#include "folivar/file/ObjectWriter.h"
 #include "folivar/navigation/OutlinePlace.h"
 
 namespace folivar {

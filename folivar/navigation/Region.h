@@ -1,6 +1,6 @@
 #pragma once
 
-#include "folivar/document/Api.h"
+#include "folivar/base/Api.h"
 
 namespace folivar {
 

@@ -2,11 +2,11 @@
 
 #include <utility>
 
+#include "folivar/base/InMember.h"
 #include "folivar/document/Global.h"
-#include "folivar/document/InMember.h"
-#include "folivar/document/PDFText.h"
-#include "folivar/page/Angle.h"
-#include "folivar/page/Surface.h"
+#include "folivar/drawing/Angle.h"
+#include "folivar/drawing/Surface.h"
+#include "folivar/file/PDFText.h"
 
 namespace folivar {
 namespace {

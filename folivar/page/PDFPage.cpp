@@ -3,22 +3,22 @@
 #include <string>
 #include <utility>
 
-#include "folivar/document/Error.h"
-#include "folivar/document/InMember.h"
-#include "folivar/document/Internal.h"
-#include "folivar/document/KeyedName.h"
-#include "folivar/document/ObjectNumbers.h"
+#include "folivar/base/Error.h"
+#include "folivar/base/InMember.h"
+#include "folivar/base/Internal.h"
+#include "folivar/base/KeyedName.h"
 #include "folivar/document/PDFDocument.h"
 #include "folivar/document/PDFPages.h"
-#include "folivar/document/PDFText.h"
-#include "folivar/document/SaveFile.h"
+#include "folivar/drawing/Drawing.h"
+#include "folivar/drawing/Surface.h"
+#include "folivar/file/ObjectNumbers.h"
+#include "folivar/file/PDFText.h"
+#include "folivar/file/SaveFile.h"
 #include "folivar/fonts/PDFFont.h"
 #include "folivar/images/PDFImage.h"
 #include "folivar/navigation/PDFHyperLinks.h"
-#include "folivar/page/Drawing.h"
 #include "folivar/page/PDFGraphicsState.h"
 #include "folivar/page/PDFTemplate.h"
-#include "folivar/page/Surface.h"
 #include "folivar/textbox/PDFTextBoxes.h"
 
 namespace folivar {

@@ -5,15 +5,15 @@
 #include <memory>
 #include <string_view>
 
-#include "folivar/document/Api.h"
-#include "folivar/document/Event.h"
-#include "folivar/document/MemberKey.h"
-#include "folivar/document/ObjectWriter.h"
-#include "folivar/document/Tagged.h"
-#include "folivar/document/Text.h"
-#include "folivar/document/Value.h"
-#include "folivar/page/ClipBox.h"
-#include "folivar/page/PDFTextAlignment.h"
+#include "folivar/base/Api.h"
+#include "folivar/base/Event.h"
+#include "folivar/base/MemberKey.h"
+#include "folivar/base/Tagged.h"
+#include "folivar/base/Text.h"
+#include "folivar/base/Value.h"
+#include "folivar/drawing/ClipBox.h"
+#include "folivar/drawing/PDFTextAlignment.h"
+#include "folivar/file/ObjectWriter.h"
 
 namespace folivar {
 

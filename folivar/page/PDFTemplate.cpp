@@ -2,17 +2,17 @@
 
 #include <utility>
 
-#include "folivar/document/Error.h"
+#include "folivar/base/Error.h"
+#include "folivar/base/InMember.h"
+#include "folivar/base/Internal.h"
 #include "folivar/document/Global.h"
-#include "folivar/document/InMember.h"
-#include "folivar/document/Internal.h"
-#include "folivar/document/ObjectNumbers.h"
-#include "folivar/document/PDFText.h"
-#include "folivar/document/SaveFile.h"
+#include "folivar/drawing/Drawing.h"
+#include "folivar/drawing/Surface.h"
+#include "folivar/file/ObjectNumbers.h"
+#include "folivar/file/PDFText.h"
+#include "folivar/file/SaveFile.h"
 #include "folivar/fonts/PDFFont.h"
-#include "folivar/page/Drawing.h"
 #include "folivar/page/PDFGraphicsState.h"
-#include "folivar/page/Surface.h"
 #include "folivar/textbox/PDFTextBoxes.h"
 
 namespace folivar {

@@ -3,7 +3,7 @@
 #include <string>
 #include <utility>
 
-#include "folivar/document/Internal.h"
+#include "folivar/base/Internal.h"
 #include "folivar/fonts/PDFFont.h"
 
 namespace folivar {

@@ -11,10 +11,10 @@
 #include <utility>
 #include <vector>
 
-#include "folivar/document/CaseFold.h"
-#include "folivar/document/Error.h"
+#include "folivar/base/CaseFold.h"
+#include "folivar/base/Error.h"
 #include "folivar/fonts/FontFileFace.h"
-#include "folivar/platform/SystemFonts.h"
+#include "folivar/fonts/SystemFonts.h"
 
 namespace folivar {
 namespace {

@@ -15,13 +15,13 @@
 #include <utility>
 #include <vector>
 
-#include "folivar/document/AnsiText.h"
-#include "folivar/document/ByteSource.h"
-#include "folivar/document/CaseFold.h"
+#include "folivar/base/AnsiText.h"
+#include "folivar/base/CaseFold.h"
+#include "folivar/file/ByteSource.h"
 #include "folivar/fonts/FontPrograms.h"
+#include "folivar/fonts/SystemFonts.h"
 #include "folivar/fonts/TrueTypeFontTables.h"
 #include "folivar/platform/DummyForm.h"
-#include "folivar/platform/SystemFonts.h"
 
 namespace folivar {
 namespace {

@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-#include "folivar/platform/Warnings.h"
+#include "folivar/base/Warnings.h"
 
 namespace folivar {
 namespace {

@@ -4,11 +4,11 @@
 #include <memory>
 #include <optional>
 
-#include "folivar/document/Api.h"
-#include "folivar/document/MemberKey.h"
-#include "folivar/document/Tagged.h"
-#include "folivar/document/Text.h"
-#include "folivar/document/Value.h"
+#include "folivar/base/Api.h"
+#include "folivar/base/MemberKey.h"
+#include "folivar/base/Tagged.h"
+#include "folivar/base/Text.h"
+#include "folivar/base/Value.h"
 #include "folivar/textbox/PDFBackGroundStyle.h"
 #include "folivar/textbox/PDFParaAlignment.h"
 #include "folivar/textbox/TextBoxFrame.h"

@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "folivar/document/InMember.h"
-#include "folivar/document/Internal.h"
-#include "folivar/page/ClipBox.h"
-#include "folivar/page/Surface.h"
+#include "folivar/base/InMember.h"
+#include "folivar/base/Internal.h"
+#include "folivar/drawing/ClipBox.h"
+#include "folivar/drawing/Surface.h"
 
 namespace folivar {
 

@@ -2,10 +2,10 @@
 
 #include <cstdint>
 
-#include "folivar/document/AnsiText.h"
-#include "folivar/document/ByteTraits.h"
+#include "folivar/base/AnsiText.h"
+#include "folivar/base/ByteTraits.h"
 #include "folivar/document/Global.h"
-#include "folivar/document/PDFText.h"
+#include "folivar/file/PDFText.h"
 #include "folivar/fonts/FontMetrics.h"
 #include "folivar/textbox/TextLayout.h"
 

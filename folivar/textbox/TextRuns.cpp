@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "folivar/document/Error.h"
+#include "folivar/base/Error.h"
 
 namespace folivar {
 namespace {

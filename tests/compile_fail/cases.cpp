@@ -1,10 +1,10 @@
 // What must not compile; one case at a time, chosen by the build.
 
 #if defined(CASE_IncludeInternalHeader)
-#include <folivar/document/SaveFile.h>
+#include <folivar/file/SaveFile.h>
 #elif defined(CASE_AppendNothingWrong) || defined(CASE_AppendFloat) || defined(CASE_AppendBool) || \
     defined(CASE_AppendCharacter)
-#include <folivar/document/PDFText.h>
+#include <folivar/file/PDFText.h>
 #endif
 #include <folivar/folivar.h>
 

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "folivar/document/PDFResourceDictionary.h"
-#include "folivar/document/XObject.h"
+#include "folivar/file/XObject.h"
 #include "folivar/folivar.h"
 #include "tests/support/SavedDocument.h"
 

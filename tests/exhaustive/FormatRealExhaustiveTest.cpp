@@ -7,7 +7,7 @@
 #include <limits>
 #include <string>
 
-#include "folivar/document/Error.h"
+#include "folivar/base/Error.h"
 #include "folivar/document/Global.h"
 #include "tests/support/ExactReal.h"
 #include "tests/support/Random.h"

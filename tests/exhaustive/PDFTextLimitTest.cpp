@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <string>
 
-#include "folivar/document/PDFText.h"
+#include "folivar/file/PDFText.h"
 #include "tests/support/Content.h"
 
 namespace folivar::test {

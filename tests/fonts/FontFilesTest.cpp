@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "folivar/document/Internal.h"
+#include "folivar/base/Internal.h"
 #include "folivar/folivar.h"
 #include "folivar/fonts/PDFFontInfo.h"
 #include "tests/support/Content.h"

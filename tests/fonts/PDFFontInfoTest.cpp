@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "folivar/document/ObjectNumbers.h"
-#include "folivar/document/SaveFile.h"
+#include "folivar/file/ObjectNumbers.h"
+#include "folivar/file/SaveFile.h"
 #include "folivar/fonts/PDFFontInfo.h"
 #include "folivar/fonts/StandardFaces.h"
 #include "tests/support/AfmFile.h"

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "folivar/document/Internal.h"
+#include "folivar/base/Internal.h"
 #include "folivar/folivar.h"
 #include "folivar/fonts/PDFFontInfo.h"
 #include "folivar/fonts/PDFFonts.h"

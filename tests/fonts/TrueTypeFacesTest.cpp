@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "folivar/document/Internal.h"
+#include "folivar/base/Internal.h"
 #include "folivar/folivar.h"
 #include "folivar/fonts/FontMetrics.h"
 #include "folivar/fonts/PDFFontInfo.h"

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "folivar/document/ObjectNumbers.h"
-#include "folivar/document/SaveFile.h"
+#include "folivar/file/ObjectNumbers.h"
+#include "folivar/file/SaveFile.h"
 #include "folivar/folivar.h"
 #include "folivar/navigation/PDFOutline.h"
 #include "tests/support/Golden.h"

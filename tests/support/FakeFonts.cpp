@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "folivar/document/CaseFold.h"
+#include "folivar/base/CaseFold.h"
 
 namespace folivar::test {
 namespace {

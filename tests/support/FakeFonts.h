@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "folivar/platform/SystemFonts.h"
+#include "folivar/fonts/SystemFonts.h"
 
 namespace folivar::test {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "folivar/document/Value.h"
+#include "folivar/base/Value.h"
 #include "tests/support/Random.h"
 
 namespace folivar::test {

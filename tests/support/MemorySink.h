@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "folivar/document/ByteSink.h"
+#include "folivar/file/ByteSink.h"
 
 namespace folivar::test {
 

@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-#include "folivar/document/ByteSource.h"
+#include "folivar/file/ByteSource.h"
 
 namespace folivar::test {
 

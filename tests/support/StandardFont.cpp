@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "folivar/document/Internal.h"
+#include "folivar/base/Internal.h"
 #include "folivar/fonts/PDFFontInfo.h"
 #include "folivar/fonts/StandardFaces.h"
 

@@ -5,8 +5,8 @@
 #include <memory>
 #include <string>
 
-#include "folivar/document/AnsiText.h"
-#include "folivar/document/PDFText.h"
+#include "folivar/base/AnsiText.h"
+#include "folivar/file/PDFText.h"
 #include "folivar/fonts/PDFFont.h"
 #include "folivar/textbox/TextBoxRenderer.h"
 #include "folivar/textbox/TextRuns.h"

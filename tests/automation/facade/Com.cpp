@@ -2,7 +2,7 @@
 
 #include <new>
 
-#include "folivar/document/Error.h"
+#include "folivar/base/Error.h"
 
 namespace com {
 namespace {

@@ -8,8 +8,8 @@
 
 #include "Automation.h"
 #include "Script.h"
-#include "folivar/document/Text.h"
-#include "folivar/document/Value.h"
+#include "folivar/base/Text.h"
+#include "folivar/base/Value.h"
 
 // What a call on the automation interface is made of.
 namespace com {

@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <string>
 
-#include "folivar/document/Text.h"
-#include "folivar/document/Value.h"
+#include "folivar/base/Text.h"
+#include "folivar/base/Value.h"
 
 // Writes down, in VBScript, what a program does with the component, into the file that the
 // environment variable FOLIVAR_RECORD names; without it, nowhere.

@@ -10,9 +10,9 @@
 #include <vector>
 
 #include "Com.h"
-#include "folivar/document/Error.h"
-#include "folivar/document/Text.h"
-#include "folivar/document/Value.h"
+#include "folivar/base/Error.h"
+#include "folivar/base/Text.h"
+#include "folivar/base/Value.h"
 
 namespace folivar {
 

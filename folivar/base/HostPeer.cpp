@@ -1,0 +1,7 @@
+#include "folivar/base/HostPeer.h"
+
+namespace folivar {
+
+HostPeer::~HostPeer() = default;
+
+}  // namespace folivar

@@ -1,0 +1,7 @@
+#include "folivar/base/Object.h"
+
+namespace folivar {
+
+Object::~Object() = default;
+
+}  // namespace folivar

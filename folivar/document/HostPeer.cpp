@@ -1,7 +1,0 @@
-#include "folivar/document/HostPeer.h"
-
-namespace folivar {
-
-HostPeer::~HostPeer() = default;
-
-}  // namespace folivar

@@ -1,7 +1,0 @@
-#include "folivar/document/Object.h"
-
-namespace folivar {
-
-Object::~Object() = default;
-
-}  // namespace folivar

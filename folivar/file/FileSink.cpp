@@ -1,0 +1,28 @@
+#include "folivar/file/FileSink.h"
+
+#include <cerrno>
+#include <cstdio>
+
+#include "folivar/base/InMember.h"
+
+namespace folivar {
+
+FileSink::FileSink(TextView fileName) {
+  const Text name = InMember("SavePDFFile", [&] { return Text(fileName); });
+  name_ = name.Utf8();
+  file_ = OpenFile(name, FileAction::kWrite);
+}
+
+void FileSink::Write(std::string_view bytes) {
+  errno = 0;
+  if (std::fwrite(bytes.data(), 1, bytes.size(), file_.get()) != bytes.size()) {
+    throw FileError(FileAction::kWrite, name_, errno);
+  }
+}
+
+void FileSink::Close() {
+  errno = 0;
+  if (std::fclose(file_.release()) != 0) throw FileError(FileAction::kWrite, name_, errno);
+}
+
+}  // namespace folivar

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <system_error>
+#include <vector>
+
+#include "folivar/base/Text.h"
+
+namespace folivar {
+
+// What is asked of the system's files besides reading and writing them. Windows answers itself: its
+// standard library's file system would make a DLL twice as large.
+
+enum class FileKind { kNone, kFile, kFolder, kOther };
+
+// Links count as what they lead to. kNone also where the system does not tell.
+FileKind KindOf(const Text& name);
+
+// What changes when a file does.
+struct FileStamp {
+  std::uint64_t size;
+  std::int64_t time;  // of the last change, in the system's units
+};
+// Nothing where the system does not tell.
+std::optional<FileStamp> StampOf(const Text& name);
+
+// The name taken from the working folder, as long as that is the same. Raises 52 for what cannot be
+// a name.
+Text AbsoluteName(const Text& name);
+
+struct FolderEntry {
+  Text name;  // with the folder's
+  FileKind kind;
+  bool isLink;
+};
+// In any order, and as far as the system tells them; `error` says why not further. A name that is
+// not UTF-8, which some systems allow, is shown as far as it is ASCII, and then is not found.
+std::vector<FolderEntry> EntriesOf(const Text& folder, std::error_code& error);
+
+}  // namespace folivar

@@ -1,0 +1,16 @@
+#include "folivar/file/ObjectNumbers.h"
+
+#include <limits>
+
+#include "folivar/base/Error.h"
+
+namespace folivar {
+
+std::int32_t ObjectNumbers::Take() {
+  if (next_ == std::numeric_limits<std::int32_t>::max()) {
+    throw Error::Overflow("The document has more objects than 32 bits can number");
+  }
+  return next_++;
+}
+
+}  // namespace folivar

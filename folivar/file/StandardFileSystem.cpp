@@ -1,0 +1,69 @@
+// The file system as the standard library has it.
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+
+#include "folivar/base/Error.h"
+#include "folivar/file/FileSystem.h"
+
+namespace folivar {
+namespace {
+
+namespace fs = std::filesystem;
+
+FileKind KindOf(fs::file_status status) {
+  switch (status.type()) {
+    case fs::file_type::regular:
+      return FileKind::kFile;
+    case fs::file_type::directory:
+      return FileKind::kFolder;
+    case fs::file_type::none:
+    case fs::file_type::not_found:
+      return FileKind::kNone;
+    default:
+      return FileKind::kOther;
+  }
+}
+
+Text NameOf(const fs::path& path) {
+  std::u8string name = path.u8string();
+  try {
+    return Text(name);
+  } catch (const Error&) {
+    std::replace_if(
+        name.begin(), name.end(), [](char8_t byte) { return byte >= 0x80; }, u8'?');
+    return Text(name);
+  }
+}
+
+}  // namespace
+
+FileKind KindOf(const Text& name) {
+  std::error_code ignored;
+  return KindOf(fs::status(name.Utf8(), ignored));
+}
+
+std::optional<FileStamp> StampOf(const Text& name) {
+  const fs::path path = name.Utf8();
+  std::error_code error;
+  const std::uint64_t size = fs::file_size(path, error);
+  if (error) return std::nullopt;
+  const auto time = fs::last_write_time(path, error);
+  return FileStamp{size, time.time_since_epoch().count()};
+}
+
+Text AbsoluteName(const Text& name) { return NameOf(fs::absolute(name.Utf8())); }
+
+std::vector<FolderEntry> EntriesOf(const Text& folder, std::error_code& error) {
+  std::vector<FolderEntry> entries;
+  fs::directory_iterator entry(folder.Utf8(), error);
+  for (; !error && entry != end(entry); entry.increment(error)) {
+    std::error_code ignored;
+    const FileKind kind = KindOf(entry->status(ignored));
+    entries.push_back({NameOf(entry->path()), kind, entry->is_symlink(ignored)});
+  }
+  return entries;
+}
+
+}  // namespace folivar

@@ -1,8 +1,0 @@
-#include "folivar/platform/SystemFonts.h"
-
-namespace folivar {
-
-SystemFace::~SystemFace() = default;
-SystemFonts::~SystemFonts() = default;
-
-}  // namespace folivar

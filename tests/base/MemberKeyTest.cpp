@@ -1,0 +1,26 @@
+#include <gtest/gtest.h>
+
+#include "folivar/base/MemberKey.h"
+#include "tests/support/Content.h"
+
+namespace folivar::test {
+namespace {
+
+TEST(MemberKeyTest, IsEmptyWithoutAKey) {
+  EXPECT_EQ(MemberKey(TextView()).AsText(), "");
+  EXPECT_EQ(MemberKey(u"").AsText(), "");
+}
+
+TEST(MemberKeyTest, KeepsTheKeyAsItIs) {
+  EXPECT_EQ(MemberKey("Seite \u00C4").AsText(), u"Seite \u00C4");
+  EXPECT_EQ(MemberKey(u"1").AsText(), "1");
+}
+
+TEST(MemberKeyTest, IsUtf8) {
+  EXPECT_EQ(ErrorNumberOf([] { const MemberKey key("\xFF"); }), 5);
+}
+
+TEST(MemberKeyTest, TakesNoMoreThanAPointer) { EXPECT_EQ(sizeof(MemberKey), sizeof(void*)); }
+
+}  // namespace
+}  // namespace folivar::test

@@ -1,0 +1,79 @@
+#include <gtest/gtest.h>
+
+#include <array>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "folivar/file/FileSource.h"
+#include "tests/support/Content.h"
+#include "tests/support/TestFiles.h"
+
+namespace folivar::test {
+namespace {
+
+Text NameOf(const std::filesystem::path& path) { return Text(path.u8string()); }
+
+std::string ReadFrom(ByteSource& source, std::uint64_t offset, std::size_t size) {
+  std::string bytes(size, '\0');
+  bytes.resize(source.Read(offset, bytes));
+  return bytes;
+}
+
+TEST(FileSource, ReadsFromAnyPlace) {
+  const auto path = OutputPath("bytes");
+  WriteBytes(path, std::string_view("0123456789\0\r\n\x1A\xFF", 15));
+  FileSource source(NameOf(path));
+  EXPECT_EQ(source.Size(), 15U);
+  EXPECT_EQ(ReadFrom(source, 4, 3), "456");
+  EXPECT_EQ(ReadFrom(source, 7, 2), "78");
+  EXPECT_EQ(ReadFrom(source, 0, 1), "0");
+  EXPECT_EQ(ReadFrom(source, 9, 6), std::string_view("9\0\r\n\x1A\xFF", 6));
+}
+
+TEST(FileSource, ReadsFewerBytesOnlyAtTheEnd) {
+  const auto path = OutputPath("bytes");
+  WriteBytes(path, "0123456789");
+  FileSource source(NameOf(path));
+  EXPECT_EQ(ReadFrom(source, 8, 100), "89");
+  EXPECT_EQ(ReadFrom(source, 10, 1), "");
+  EXPECT_EQ(ReadFrom(source, ~std::uint64_t{0}, 1), "");
+  EXPECT_EQ(ReadFrom(source, 0, 2), "01");
+}
+
+TEST(FileSource, GivesLessWhenTheFileBecameShorter) {
+  const auto path = OutputPath("bytes");
+  WriteBytes(path, "0123456789");
+  FileSource source(NameOf(path));
+  std::filesystem::resize_file(path, 4);
+  EXPECT_EQ(source.Size(), 10U);
+  EXPECT_EQ(ReadFrom(source, 2, 8), "23");
+  EXPECT_EQ(ReadFrom(source, 6, 2), "");
+}
+
+TEST(FileSource, ReadsAnEmptyFile) {
+  const auto path = OutputPath("bytes");
+  WriteBytes(path, "");
+  FileSource source(NameOf(path));
+  EXPECT_EQ(source.Size(), 0U);
+  EXPECT_EQ(ReadFrom(source, 0, 1), "");
+}
+
+TEST(FileSource, TellsWhyAFileCannotBeRead) {
+  const auto path = OutputPath("bytes");
+  WriteBytes(path, "");
+  const auto numberFor = [](const std::filesystem::path& name) {
+    return ErrorNumberOf([&] { FileSource source(NameOf(name)); });
+  };
+  EXPECT_EQ(numberFor(path.parent_path() / "missing"), 53);
+  EXPECT_EQ(numberFor(path / "below a file"), 76);
+  EXPECT_EQ(numberFor(path.parent_path()), 75);
+  EXPECT_EQ(numberFor(""), 52);
+  EXPECT_EQ(numberFor(std::string("a\0b", 3)), 52);
+  EXPECT_EQ(numberFor(path.parent_path() / std::string(300, 'x')), 52);
+  EXPECT_EQ(ErrorTextOf([&] { FileSource source(Text("no/such.file")); }),
+            "Cannot read file 'no/such.file': No such file or directory");
+}
+
+}  // namespace
+}  // namespace folivar::test
