@@ -3,7 +3,7 @@
 #include <limits>
 
 #include "folivar/base/Error.h"
-#include "folivar/document/Global.h"
+#include "folivar/base/Numbers.h"
 
 namespace folivar {
 namespace {

@@ -1,25 +1,20 @@
 #include "folivar/document/Global.h"
 
 #include <algorithm>
-#include <array>
-#include <cfloat>
 #include <cmath>
 #include <cstddef>
-#include <cstdlib>
 #include <limits>
+#include <string>
 #include <utility>
 
 #include "folivar/base/CaseFold.h"
 #include "folivar/base/Decimal.h"
 #include "folivar/base/Error.h"
+#include "folivar/base/Numbers.h"
 #include "folivar/file/FileSystem.h"
-#include "folivar/file/PDFText.h"
 
 namespace folivar {
 namespace {
-
-// Every stored float and every operation is rounded to its own type: no extended precision.
-static_assert(FLT_EVAL_METHOD == 0);
 
 constexpr double kScale = 10000;  // four decimals
 constexpr std::int64_t kScaledLimit = (std::int64_t{1} << 31) * 10000;
@@ -106,7 +101,7 @@ void SortRange(std::vector<std::u16string>& folded, std::vector<Text>& strings, 
 
 }  // namespace
 
-char* WriteReal(char* out, double x) {
+char* FormatReal(char* out, double x) {
   const double product = std::fabs(x) * kScale;
   // Coordinates, nearly always: they fit into 32 bits and are no ties.
   const double rounded = (product + kNoFraction) - kNoFraction;
@@ -120,47 +115,6 @@ char* WriteReal(char* out, double x) {
   out = WriteDecimal(out, static_cast<std::uint32_t>(scaled / 10000));
   return WriteFraction(out, static_cast<std::uint32_t>(scaled % 10000));
 }
-
-std::string FormatReal(double x) {
-  std::array<char, kLongestReal> digits;
-  return {digits.data(), WriteReal(digits.data(), x)};
-}
-
-// Not the standard library's, whose shortest digits take more room than all of our formatters.
-std::string DigitsOf(double x) {
-  if (std::isnan(x)) return "nan";
-  const std::string sign = std::signbit(x) ? "-" : "";
-  const double magnitude = std::fabs(x);
-  if (std::isinf(x)) return sign + "inf";
-  // Smaller ones than any measure, whose powers of ten are beyond a double.
-  if (magnitude < 1e-300) return sign + "0";
-
-  int exponent = static_cast<int>(std::floor(std::log10(magnitude)));
-  double scaled = std::round(magnitude / std::pow(10, exponent) * 1e5);
-  if (scaled >= 1e6) {
-    scaled /= 10;
-    ++exponent;
-  }
-  std::string digits = std::to_string(static_cast<std::int64_t>(scaled));
-  digits.erase(digits.find_last_not_of('0') + 1);
-  if (exponent >= 0 && exponent < 6) {
-    const auto whole = static_cast<std::size_t>(exponent) + 1;
-    if (digits.size() < whole) digits.append(whole - digits.size(), '0');
-    if (digits.size() > whole) digits.insert(whole, ".");
-    return sign + digits;
-  }
-  if (exponent < 0 && exponent >= -4) {
-    return sign + "0." + std::string(static_cast<std::size_t>(-exponent) - 1, '0') + digits;
-  }
-  if (digits.size() > 1) digits.insert(1, ".");
-  const std::string power = std::to_string(std::abs(exponent));
-  return sign + digits + (exponent < 0 ? "e-" : "e+") + (power.size() < 2 ? "0" : "") + power;
-}
-
-void RaiseBeyondSingle() { throw Error::Overflow("a sum of coordinates is beyond a single"); }
-
-const Text& MaxOf(const Text& a, const Text& b) { return CompareIgnoringCase(a, b) >= 0 ? a : b; }
-const Text& MinOf(const Text& a, const Text& b) { return CompareIgnoringCase(a, b) <= 0 ? a : b; }
 
 std::int16_t FindLastInRange(TextView s, TextView find, std::int16_t start, std::int16_t stop) {
   const std::u16string text = FoldCase(s);
@@ -191,37 +145,6 @@ std::int64_t CeilDiv(std::int64_t a, std::int64_t b) {
     throw Error::Overflow("CeilDiv: the quotient does not fit into 64 bits");
   }
   return a / b + (a % b != 0 ? 1 : 0);
-}
-
-std::string StrokeColorOp(std::int32_t color) {
-  PDFText text;
-  text.Append(RedShare(color), GreenShare(color), BlueShare(color), "RG\n");
-  return std::string(text.Bytes());
-}
-
-std::string FillColorOp(std::int32_t color) {
-  PDFText text;
-  text.Append(RedShare(color), GreenShare(color), BlueShare(color), "rg\n");
-  return std::string(text.Bytes());
-}
-
-std::string_view PdfBool(bool flag) { return flag ? "true" : "false"; }
-
-std::string PdfName(std::string_view bytes) {
-  constexpr std::string_view kHexDigits = "0123456789ABCDEF";
-  constexpr std::string_view kDelimiters = "#%()/<>[]{}";
-  std::string name;
-  for (const char byte : bytes) {
-    const auto value = static_cast<unsigned char>(byte);
-    if (value > ' ' && kDelimiters.find(byte) == std::string_view::npos) {
-      name += byte;
-    } else {
-      name += '#';
-      name += kHexDigits[value >> 4];
-      name += kHexDigits[value & 0xF];
-    }
-  }
-  return name;
 }
 
 void SortStrings(std::vector<Text>& strings, std::int32_t lo, std::int32_t hi) {

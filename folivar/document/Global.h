@@ -1,9 +1,7 @@
 #pragma once
 
-#include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <string>
 #include <string_view>
 #include <type_traits>
 #include <vector>
@@ -12,7 +10,7 @@
 
 namespace folivar {
 
-// The procedures that all classes share. The formatter's output is part of the file format.
+// The procedures that all classes share. What the formatters write is part of the file format.
 
 // The longest real, its blank included: "-2147483647.9999 ".
 inline constexpr std::size_t kLongestReal = 17;
@@ -22,35 +20,12 @@ inline constexpr std::size_t kLongestReal = 17;
 // "0.5 ", "-3.25 ". Writers rely on the blank as the separator, so a blank of their own after it
 // gives two in the file. Raises 6 for what is not a number and from 2^31 on (rounded), and writes
 // nothing then. `out` has room for kLongestReal bytes.
-char* WriteReal(char* out, double x);
-
-// The same as a string.
-std::string FormatReal(double x);
-
-// A number for people, in the text of an error: to six digits, "1e+20".
-std::string DigitsOf(double x);
-
-// 2^52: adding it leaves no bits for a fraction, and the sum is rounded to even.
-inline constexpr double kNoFraction = 4503599627370496.0;
-
-// To a whole number, halves to the even one; what is not finite stays as it is.
-inline double RoundHalfToEven(double x) {
-  if (!(std::fabs(x) < kNoFraction)) return x;
-  return x < 0 ? (x - kNoFraction) + kNoFraction : (x + kNoFraction) - kNoFraction;
-}
-
-[[noreturn]] void RaiseBeyondSingle();
-
-// A sum of coordinates as it is; raises 6 when it is beyond a single.
-inline float Finite(float sum) {
-  if (!std::isfinite(sum)) RaiseBeyondSingle();
-  return sum;
-}
+char* FormatReal(char* out, double x);
 
 template <class T>
 concept Arithmetic = std::is_arithmetic_v<T>;
 
-// On a tie the first argument. Texts compare without regard to case.
+// On a tie the first argument.
 template <Arithmetic Number>
 constexpr Number MaxOf(Number a, Number b) {
   return a >= b ? a : b;
@@ -59,8 +34,6 @@ template <Arithmetic Number>
 constexpr Number MinOf(Number a, Number b) {
   return a <= b ? a : b;
 }
-const Text& MaxOf(const Text& a, const Text& b);
-const Text& MinOf(const Text& a, const Text& b);
 
 // The position (from 1) of the last `find` in `s` between positions `start` and `stop`, compared
 // without regard to case; a stop of 0, or beyond the end, is the end, a start below 1 is 1.
@@ -76,17 +49,17 @@ bool FileExists(TextView path) noexcept;
 // rounded up. Raises 11 for a b of 0, and 6 when the quotient does not fit.
 std::int64_t CeilDiv(std::int64_t a, std::int64_t b);
 
-// "1 0 0 RG\n" and "1 0 0 rg\n" for pure red: the operators that set the stroke and the fill
-// colour.
-std::string StrokeColorOp(std::int32_t color);
-std::string FillColorOp(std::int32_t color);
+// The operators that set the stroke and the fill colour, for PDFText to append: "1 0 0 RG\n" and
+// "1 0 0 rg\n" for pure red. Colours are 0x00BBGGRR; the top byte means nothing.
+struct ColorOp {
+  std::int32_t color;
+  std::string_view op;
+};
+constexpr ColorOp StrokeColorOp(std::int32_t color) { return {color, "RG\n"}; }
+constexpr ColorOp FillColorOp(std::int32_t color) { return {color, "rg\n"}; }
 
 // "true" or "false".
-std::string_view PdfBool(bool flag);
-
-// The bytes as a PDF name, without its slash: what would end the name, and "#", as "#" and two hex
-// digits. "Times(W1)" is "Times#28W1#29".
-std::string PdfName(std::string_view bytes);
+constexpr std::string_view PdfBool(bool flag) { return flag ? "true" : "false"; }
 
 // Sorts strings[lo] to strings[hi] (from 0) upwards without regard to case; a lo of -1 is the whole
 // vector. Does nothing for a hi of 0 or below. Texts that differ only in case end in no particular,

@@ -9,6 +9,7 @@
 #include "folivar/base/AnsiText.h"
 #include "folivar/base/Error.h"
 #include "folivar/base/Internal.h"
+#include "folivar/base/Numbers.h"
 #include "folivar/base/Value.h"
 #include "folivar/document/Global.h"
 #include "folivar/drawing/Surface.h"

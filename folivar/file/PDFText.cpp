@@ -7,6 +7,7 @@
 
 #include "folivar/base/AnsiText.h"
 #include "folivar/base/Error.h"
+#include "folivar/base/HexDigits.h"
 
 namespace folivar {
 namespace {
@@ -90,12 +91,31 @@ char* PDFText::PutEscaped(char* out, std::string_view bytes) {
   return out;
 }
 
+char* PDFText::Put(char* out, Name name) {
+  constexpr std::string_view kDelimiters = "#%()/<>[]{}";
+  for (const char byte : name.bytes) {
+    const auto value = static_cast<unsigned char>(byte);
+    if (value > ' ' && kDelimiters.find(byte) == std::string_view::npos) {
+      *out++ = byte;
+    } else {
+      *out++ = '#';
+      *out++ = kHexDigits[value >> 4];
+      *out++ = kHexDigits[value & 0xF];
+    }
+  }
+  return out;
+}
+
 char* PDFText::Put(char* out, Ansi text) { return PutAnsi(out, text.units); }
 
-char* PDFText::Put(char* out, ColorShare share) {
-  const ShareText& text = kColorShares[share.byte];
-  std::memcpy(out, &text, sizeof text);
-  return out + text.size;
+char* PDFText::Put(char* out, Rgb rgb) {
+  const auto color = static_cast<std::uint32_t>(rgb.color);
+  for (const int shift : {0, 8, 16}) {
+    const ShareText& text = kColorShares[color >> shift & 0xFF];
+    std::memcpy(out, &text, sizeof text);
+    out += text.size;
+  }
+  return out;
 }
 
 }  // namespace folivar

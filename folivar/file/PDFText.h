@@ -26,21 +26,10 @@ struct Reference {
   std::int32_t objectNumber;
 };
 
-// One byte of a colour as a share of 255: ColorShare{128} is "0.502 ".
-struct ColorShare {
-  std::uint8_t byte;
+// The shares of red, green and blue of a colour 0x00BBGGRR: Rgb{0x8000FF} is "1 0 0.502 ".
+struct Rgb {
+  std::int32_t color;
 };
-
-// Of a colour 0x00BBGGRR.
-constexpr ColorShare RedShare(std::int32_t color) {
-  return {static_cast<std::uint8_t>(static_cast<std::uint32_t>(color))};
-}
-constexpr ColorShare GreenShare(std::int32_t color) {
-  return {static_cast<std::uint8_t>(static_cast<std::uint32_t>(color) >> 8)};
-}
-constexpr ColorShare BlueShare(std::int32_t color) {
-  return {static_cast<std::uint8_t>(static_cast<std::uint32_t>(color) >> 16)};
-}
 
 // Exactly ten digits with leading zeros, below 10^10: TenDigits{15} is "0000000015".
 struct TenDigits {
@@ -51,6 +40,12 @@ struct TenDigits {
 struct Escaped {
   std::string_view bytes;
   bool isPlain = false;  // known to hold none of them
+};
+
+// Bytes as a name, without its slash: what would end the name, and "#", as "#" and two hex digits:
+// Name{"Times(W1)"} is "Times#28W1#29".
+struct Name {
+  std::string_view bytes;
 };
 
 // A text as the bytes that go into the file, as AnsiText makes them.
@@ -96,12 +91,16 @@ class PDFText {
   }
   static std::size_t SizeBound(std::string_view bytes) { return bytes.size(); }
   static std::size_t SizeBound(Real) { return kLongestReal; }
-  static std::size_t SizeBound(ColorShare) { return kLongestColorShare; }
+  static std::size_t SizeBound(Rgb) { return 3 * kLongestColorShare; }
+  static std::size_t SizeBound(const ColorOp& set) {
+    return SizeBound(Rgb{set.color}) + set.op.size();
+  }
   static std::size_t SizeBound(Reference) { return kLongestInteger + 4; }
   static std::size_t SizeBound(TenDigits) { return 10; }
   static std::size_t SizeBound(const Escaped& text) {
     return text.isPlain ? text.bytes.size() : BoundOfEscaped(text.bytes);
   }
+  static std::size_t SizeBound(Name name) { return 3 * name.bytes.size(); }
   static std::size_t SizeBound(Ansi text) { return text.units.size(); }
   template <std::integral Integer>
   static std::size_t SizeBound(Integer) {
@@ -119,8 +118,9 @@ class PDFText {
     if (!bytes.empty()) std::memcpy(out, bytes.data(), bytes.size());
     return out + bytes.size();
   }
-  static char* Put(char* out, Real real) { return WriteReal(out, real.value); }
-  static char* Put(char* out, ColorShare share);
+  static char* Put(char* out, Real real) { return FormatReal(out, real.value); }
+  static char* Put(char* out, Rgb rgb);
+  static char* Put(char* out, const ColorOp& set) { return Put(Put(out, Rgb{set.color}), set.op); }
   static char* Put(char* out, Reference reference) {
     return Put(Put(out, reference.objectNumber), " 0 R");
   }
@@ -128,6 +128,7 @@ class PDFText {
   static char* Put(char* out, const Escaped& text) {
     return text.isPlain ? Put(out, text.bytes) : PutEscaped(out, text.bytes);
   }
+  static char* Put(char* out, Name name);
   static char* Put(char* out, Ansi text);
   template <std::integral Integer>
   static char* Put(char* out, Integer number) {

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "folivar/base/Internal.h"
-#include "folivar/document/Global.h"
+#include "folivar/base/Numbers.h"
 #include "folivar/fonts/FaceUser.h"
 
 namespace folivar {
@@ -18,7 +18,7 @@ const PDFFontInfo& FaceOf(const PDFFont& font) {
 FontMetrics::FontMetrics(const PDFFont& font) : font_(font), face_(FaceOf(font)) {}
 
 void FontMetrics::RaiseBeyondASingle(float size) {
-  throw Error::Overflow("a measure of the font at size " + DigitsOf(size) + " is beyond a single");
+  RaiseBeyondSingle("a measure of the font at size " + DigitsOf(size));
 }
 
 float FontMetrics::EffectiveSize(float size) const {

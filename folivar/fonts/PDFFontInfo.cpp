@@ -199,10 +199,10 @@ void PDFFontInfo::WriteStandardFace(SaveFile& file) const {
 //   >>
 //   endobj
 void PDFFontInfo::WriteTrueTypeFace(SaveFile& file) const {
-  const std::string name = PdfName(AnsiText(BaseFontName()).Bytes());
+  const Text name = BaseFontName();
   PDFText& text = file.BeginObject(objectNumber_);
   text.Append("<< /Type /Font\n/Subtype /TrueType\n/Name ", std::string_view(m_PDFName),
-              "\n/BaseFont /", std::string_view(name), "\n/FirstChar ", firstCharacter_,
+              "\n/BaseFont /", Name{AnsiText(name).Bytes()}, "\n/FirstChar ", firstCharacter_,
               "\n/LastChar ", lastCharacter_, "\n/Widths [ ");
   for (std::uint32_t code = firstCharacter_; code <= lastCharacter_; ++code) {
     text.Append(Real{(*characters_)[code].width});
@@ -233,11 +233,11 @@ void PDFFontInfo::WriteFontDescriptor(SaveFile& file) const {
   constexpr int kItalicFlag = 64;
   const int flags =
       (m_IsSymbolic ? kSymbolicFlag : kNonsymbolicFlag) + (m_IsItalic ? kItalicFlag : 0);
-  const std::string name = PdfName(AnsiText(BaseFontName()).Bytes());
+  const Text name = BaseFontName();
   PDFText& text = file.BeginObject(objectNumber_ + 1);
-  text.Append("<<\n/Type /FontDescriptor\n/FontName /", std::string_view(name), "\n/FontBBox [ ",
-              Real{boxLeft_}, Real{boxBottom_}, Real{boxRight_}, Real{boxTop_}, " ]\n/Ascent ",
-              Real{m_Ascender}, "\n/Descent ", Real{m_Descender}, "\n/CapHeight ",
+  text.Append("<<\n/Type /FontDescriptor\n/FontName /", Name{AnsiText(name).Bytes()},
+              "\n/FontBBox [ ", Real{boxLeft_}, Real{boxBottom_}, Real{boxRight_}, Real{boxTop_},
+              " ]\n/Ascent ", Real{m_Ascender}, "\n/Descent ", Real{m_Descender}, "\n/CapHeight ",
               Real{m_CapHeight}, "\n/ItalicAngle ", Real{m_ItalicAngle}, "\n/Flags ", flags,
               "\n/StemV 70\n");
   if (program_) text.Append("/FontFile2 ", Reference{objectNumber_ + 2}, "\n");

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "folivar/base/Error.h"
+#include "folivar/base/HexDigits.h"
 #include "folivar/document/Global.h"
 #include "folivar/file/ByteSink.h"
 #include "folivar/images/ImageFile.h"
@@ -97,15 +98,14 @@ bool IsGreyRamp(std::span<const char> palette) {
 //   [/Indexed /DeviceRGB 1
 //   <000000FFFFFF> ]
 std::string IndexedColorSpace(std::span<const char> palette) {
-  constexpr std::string_view kDigits = "0123456789ABCDEF";
   std::string text =
       "[/Indexed /DeviceRGB " + std::to_string(palette.size() / kPaletteEntry - 1) + "\n<";
   text.reserve(text.size() + palette.size() / kPaletteEntry * 6 + 3);
   for (std::size_t entry = 0; entry < palette.size(); entry += kPaletteEntry) {
     for (const std::size_t component : {2U, 1U, 0U}) {
       const std::uint8_t byte = Byte(palette[entry + component]);
-      text += kDigits[byte / 16];
-      text += kDigits[byte % 16];
+      text += kHexDigits[byte >> 4];
+      text += kHexDigits[byte & 0xF];
     }
   }
   return text + "> ]";

@@ -60,8 +60,7 @@ void PDFHyperLink::BuildAnnotationText(const Internal& internal, PDFText& text,
   }
   // Deliberate: black is 0, which stands for the reader's own choice, and that is black.
   if (borderColor_ != 0) {
-    text.Append("/C [", RedShare(borderColor_), GreenShare(borderColor_), BlueShare(borderColor_),
-                "]\n");
+    text.Append("/C [", Rgb{borderColor_}, "]\n");
   }
   text.Append(">>\n");
 }

@@ -1,7 +1,7 @@
 #include "folivar/navigation/Region.h"
 
 #include "folivar/base/InMember.h"
-#include "folivar/document/Global.h"
+#include "folivar/base/Numbers.h"
 
 namespace folivar {
 namespace {

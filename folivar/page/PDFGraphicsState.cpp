@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "folivar/base/InMember.h"
+#include "folivar/base/Numbers.h"
 #include "folivar/document/Global.h"
 #include "folivar/drawing/Angle.h"
 #include "folivar/drawing/Surface.h"
@@ -34,14 +35,12 @@ PDFGraphicsState::PDFGraphicsState(const Internal&, std::shared_ptr<Surface> sur
 }
 
 void PDFGraphicsState::SetFillColor(std::int32_t color) {
-  EmitToOwner(*surface_, "PDFGraphicsState.FillColor", RedShare(color), GreenShare(color),
-              BlueShare(color), "rg\n");
+  EmitToOwner(*surface_, "PDFGraphicsState.FillColor", FillColorOp(color));
   current_.FillColor = color;
 }
 
 void PDFGraphicsState::SetStrokeColor(std::int32_t color) {
-  EmitToOwner(*surface_, "PDFGraphicsState.StrokeColor", RedShare(color), GreenShare(color),
-              BlueShare(color), "RG\n");
+  EmitToOwner(*surface_, "PDFGraphicsState.StrokeColor", StrokeColorOp(color));
   current_.StrokeColor = color;
 }
 

@@ -5,7 +5,7 @@
 #include "folivar/base/Error.h"
 #include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
-#include "folivar/document/Global.h"
+#include "folivar/base/Numbers.h"
 #include "folivar/drawing/Drawing.h"
 #include "folivar/drawing/Surface.h"
 #include "folivar/file/ObjectNumbers.h"

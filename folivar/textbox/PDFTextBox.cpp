@@ -13,7 +13,7 @@
 #include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
 #include "folivar/base/KeyedName.h"
-#include "folivar/document/Global.h"
+#include "folivar/base/Numbers.h"
 #include "folivar/drawing/Surface.h"
 #include "folivar/file/PDFText.h"
 #include "folivar/fonts/FontMetrics.h"

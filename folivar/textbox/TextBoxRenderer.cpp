@@ -4,6 +4,7 @@
 
 #include "folivar/base/AnsiText.h"
 #include "folivar/base/ByteTraits.h"
+#include "folivar/base/Numbers.h"
 #include "folivar/document/Global.h"
 #include "folivar/file/PDFText.h"
 #include "folivar/fonts/FontMetrics.h"
@@ -17,11 +18,9 @@ namespace {
 //   -1  Ts
 std::string BeginningOf(const LaidFormat& format) {
   const FontMetrics metrics = format.Metrics();
-  const std::int32_t color = format.Color();
   PDFText text;
-  text.Append(RedShare(color), GreenShare(color), BlueShare(color), "rg\n",
-              std::string_view(metrics.Face().m_PDFName), " ", Real{metrics.EffectiveSize()},
-              " Tf\n");
+  text.Append(FillColorOp(format.Color()), std::string_view(metrics.Face().m_PDFName), " ",
+              Real{metrics.EffectiveSize()}, " Tf\n");
   if (metrics.IsRaisedOrLowered()) text.Append(Real{metrics.Rise()}, " Ts\n");
   return std::string(text.Bytes());
 }
@@ -81,14 +80,10 @@ void TextBoxRenderer::Render(std::string_view ownContent, const AnsiText& text,
 void TextBoxRenderer::AppendFrame() {
   const bool isOpaque = frame_.backStyle == bsOpaque;
   if (frame_.HasBorder()) {
-    const std::int32_t color = frame_.borderColor;
-    content_.Append(RedShare(color), GreenShare(color), BlueShare(color), "RG\n[",
-                    Real{frame_.dashOn}, Real{frame_.dashOff}, "] 0 d\n");
+    content_.Append(StrokeColorOp(frame_.borderColor), "[", Real{frame_.dashOn},
+                    Real{frame_.dashOff}, "] 0 d\n");
   }
-  if (isOpaque) {
-    const std::int32_t color = frame_.backColor;
-    content_.Append(RedShare(color), GreenShare(color), BlueShare(color), "rg\n");
-  }
+  if (isOpaque) content_.Append(FillColorOp(frame_.backColor));
   AppendPath();
   // Deliberate: a border is stroked here too, beneath the background.
   content_.Append("W\n", frame_.HasBorder() ? "s\n" : "n\n");

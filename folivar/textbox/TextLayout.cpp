@@ -1,5 +1,6 @@
 #include "folivar/textbox/TextLayout.h"
 
+#include "folivar/base/Numbers.h"
 #include "folivar/document/Global.h"
 #include "folivar/fonts/PDFFont.h"
 

@@ -13,9 +13,11 @@
 #include <vector>
 
 #include "folivar/document/Global.h"
+#include "folivar/file/PDFText.h"
 #include "tests/support/Content.h"
 #include "tests/support/ExactReal.h"
 #include "tests/support/Random.h"
+#include "tests/support/Reals.h"
 #include "tests/support/TestFiles.h"
 
 namespace folivar::test {
@@ -147,46 +149,19 @@ TEST(FormatReal, AgreesWithAnExactModel) {
   }
 }
 
-TEST(WriteReal, LongestRealFillsItsRoomExactly) {
+TEST(FormatReal, LongestRealFillsItsRoomExactly) {
   std::array<char, kLongestReal> out{};
-  EXPECT_EQ(WriteReal(out.data(), -2147483647.9999), out.data() + out.size());
+  EXPECT_EQ(folivar::FormatReal(out.data(), -2147483647.9999), out.data() + out.size());
   EXPECT_EQ(std::string(out.data(), out.size()), "-2147483647.9999 ");
 }
 
-TEST(WriteReal, WritesNothingWhenItRaises) {
+TEST(FormatReal, WritesNothingWhenItRaises) {
   std::array<char, kLongestReal> out;
   out.fill('x');
   for (const double x : {-2147483648.0, kNotANumber, kInfinity}) {
-    EXPECT_EQ(ErrorNumberOf([&] { WriteReal(out.data(), x); }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { folivar::FormatReal(out.data(), x); }), 6);
   }
   EXPECT_EQ(std::string(out.data(), out.size()), std::string(kLongestReal, 'x'));
-}
-
-TEST(RoundHalfToEven, RoundsHalvesToTheEvenNumber) {
-  EXPECT_EQ(RoundHalfToEven(0.5), 0);
-  EXPECT_EQ(RoundHalfToEven(1.5), 2);
-  EXPECT_EQ(RoundHalfToEven(2.5), 2);
-  EXPECT_EQ(RoundHalfToEven(-0.5), 0);
-  EXPECT_EQ(RoundHalfToEven(-1.5), -2);
-  EXPECT_EQ(RoundHalfToEven(-2.5), -2);
-  EXPECT_EQ(RoundHalfToEven(std::nextafter(0.5, 1)), 1);
-  EXPECT_EQ(RoundHalfToEven(std::nextafter(0.5, 0)), 0);
-  EXPECT_EQ(RoundHalfToEven(4503599627370495.5), 4503599627370496);
-  EXPECT_EQ(RoundHalfToEven(4503599627370497.0), 4503599627370497);
-}
-
-TEST(RoundHalfToEven, LeavesWhatIsNotFinite) {
-  EXPECT_EQ(RoundHalfToEven(kInfinity), kInfinity);
-  EXPECT_EQ(RoundHalfToEven(-kInfinity), -kInfinity);
-  EXPECT_TRUE(std::isnan(RoundHalfToEven(kNotANumber)));
-}
-
-TEST(Finite, GivesASumAsItIsOrRaises6) {
-  constexpr float kLargest = std::numeric_limits<float>::max();
-  EXPECT_EQ(Finite(-1.5F), -1.5F);
-  EXPECT_EQ(Finite(kLargest), kLargest);
-  EXPECT_EQ(ErrorNumberOf([] { Finite(kLargest + kLargest); }), 6);
-  EXPECT_EQ(ErrorNumberOf([] { Finite(std::numeric_limits<float>::quiet_NaN()); }), 6);
 }
 
 TEST(MaxOfMinOf, CompareNumbers) {
@@ -203,25 +178,6 @@ TEST(MaxOfMinOf, ATieOfNumbersGivesTheFirst) {
   EXPECT_FALSE(std::signbit(MaxOf(0.0, -0.0)));
   EXPECT_TRUE(std::signbit(MinOf(-0.0, 0.0)));
   EXPECT_FALSE(std::signbit(MinOf(0.0, -0.0)));
-}
-
-TEST(MaxOfMinOf, CompareTextsWithoutRegardToCase) {
-  const Text apple("apple");
-  const Text bear("BEAR");
-  const Text cat("cat");
-  EXPECT_EQ(MaxOf(apple, bear), "BEAR");
-  EXPECT_EQ(MaxOf(cat, bear), "cat");
-  EXPECT_EQ(MinOf(bear, apple), "apple");
-  EXPECT_EQ(MinOf(bear, cat), "BEAR");
-}
-
-TEST(MaxOfMinOf, ATieOfTextsGivesTheFirst) {
-  const Text small("\u00E9t\u00E9");
-  const Text large("\u00C9T\u00C9");
-  EXPECT_EQ(&MaxOf(small, large), &small);
-  EXPECT_EQ(&MaxOf(large, small), &large);
-  EXPECT_EQ(&MinOf(small, large), &small);
-  EXPECT_EQ(&MinOf(large, small), &large);
 }
 
 TEST(FindLastInRange, FindsTheLastOccurrence) {
@@ -280,23 +236,6 @@ TEST(FindLastInRange, AgreesWithANaiveSearch) {
   }
 }
 
-TEST(DigitsOf, TellsSixDigits) {
-  EXPECT_EQ(DigitsOf(0), "0");
-  EXPECT_EQ(DigitsOf(-0.5), "-0.5");
-  EXPECT_EQ(DigitsOf(0.000123), "0.000123");
-  EXPECT_EQ(DigitsOf(12.25), "12.25");
-  EXPECT_EQ(DigitsOf(120000), "120000");
-  EXPECT_EQ(DigitsOf(999999.7), "1e+06");
-  EXPECT_EQ(DigitsOf(2147483648.0), "2.14748e+09");
-  EXPECT_EQ(DigitsOf(-3e9), "-3e+09");
-  EXPECT_EQ(DigitsOf(1.5e-7), "1.5e-07");
-  EXPECT_EQ(DigitsOf(1e300), "1e+300");
-  EXPECT_EQ(DigitsOf(std::numeric_limits<double>::max()), "1.79769e+308");
-  EXPECT_EQ(DigitsOf(std::numeric_limits<double>::denorm_min()), "0");
-  EXPECT_EQ(DigitsOf(-std::numeric_limits<double>::infinity()), "-inf");
-  EXPECT_EQ(DigitsOf(std::numeric_limits<double>::quiet_NaN()), "nan");
-}
-
 TEST(FileExists, IsTrueForFilesAndFolders) {
   const auto path = OutputPath("na\u00EFve.txt");
   EXPECT_FALSE(FileExists(path.u8string()));
@@ -339,28 +278,34 @@ TEST(CeilDiv, Raises11ForADivisorOf0) {
   EXPECT_EQ(ErrorNumberOf([] { CeilDiv(0, 0); }), 11);
 }
 
+std::string Written(const ColorOp& set) {
+  PDFText text;
+  text.Append(set);
+  return std::string(text.Bytes());
+}
+
 TEST(ColorOps, WriteSharesOfRedGreenAndBlue) {
-  EXPECT_EQ(StrokeColorOp(0), "0 0 0 RG\n");
-  EXPECT_EQ(StrokeColorOp(0x0000FF), "1 0 0 RG\n");
-  EXPECT_EQ(StrokeColorOp(0x00FF00), "0 1 0 RG\n");
-  EXPECT_EQ(StrokeColorOp(0xFF0000), "0 0 1 RG\n");
-  EXPECT_EQ(FillColorOp(0x0000FF), "1 0 0 rg\n");
-  EXPECT_EQ(FillColorOp(0x808080), "0.502 0.502 0.502 rg\n");
-  EXPECT_EQ(FillColorOp(0x030201), "0.0039 0.0078 0.0118 rg\n");
+  EXPECT_EQ(Written(StrokeColorOp(0)), "0 0 0 RG\n");
+  EXPECT_EQ(Written(StrokeColorOp(0x0000FF)), "1 0 0 RG\n");
+  EXPECT_EQ(Written(StrokeColorOp(0x00FF00)), "0 1 0 RG\n");
+  EXPECT_EQ(Written(StrokeColorOp(0xFF0000)), "0 0 1 RG\n");
+  EXPECT_EQ(Written(FillColorOp(0x0000FF)), "1 0 0 rg\n");
+  EXPECT_EQ(Written(FillColorOp(0x808080)), "0.502 0.502 0.502 rg\n");
+  EXPECT_EQ(Written(FillColorOp(0x030201)), "0.0039 0.0078 0.0118 rg\n");
 }
 
 TEST(ColorOps, IgnoreTheTopByte) {
-  EXPECT_EQ(StrokeColorOp(0x7F0000FF), "1 0 0 RG\n");
-  EXPECT_EQ(StrokeColorOp(-1), "1 1 1 RG\n");
-  EXPECT_EQ(FillColorOp(std::numeric_limits<std::int32_t>::min()), "0 0 0 rg\n");
+  EXPECT_EQ(Written(StrokeColorOp(0x7F0000FF)), "1 0 0 RG\n");
+  EXPECT_EQ(Written(StrokeColorOp(-1)), "1 1 1 RG\n");
+  EXPECT_EQ(Written(FillColorOp(std::numeric_limits<std::int32_t>::min())), "0 0 0 rg\n");
 }
 
 TEST(ColorOps, DivideEveryByteBy255) {
   for (int byte = 0; byte < 256; ++byte) {
     const std::string share = ExactReal(byte / 255.0);
-    EXPECT_EQ(StrokeColorOp(byte), share + "0 0 RG\n");
-    EXPECT_EQ(FillColorOp(byte << 8), "0 " + share + "0 rg\n");
-    EXPECT_EQ(FillColorOp(byte << 16), "0 0 " + share + "rg\n");
+    EXPECT_EQ(Written(StrokeColorOp(byte)), share + "0 0 RG\n");
+    EXPECT_EQ(Written(FillColorOp(byte << 8)), "0 " + share + "0 rg\n");
+    EXPECT_EQ(Written(FillColorOp(byte << 16)), "0 0 " + share + "rg\n");
   }
 }
 
@@ -416,15 +361,6 @@ void NaiveSort(std::vector<std::string>& strings, int lo, int hi) {
   }
   if (lo < j) NaiveSort(strings, lo, j);
   if (i < hi) NaiveSort(strings, i, hi);
-}
-
-TEST(PdfName, WritesWhatWouldEndTheNameInHex) {
-  EXPECT_EQ(PdfName("LiberationSans,Bold"), "LiberationSans,Bold");
-  EXPECT_EQ(PdfName("CGTimes(W1)"), "CGTimes#28W1#29");
-  EXPECT_EQ(PdfName("#%()/<>[]{}"), "#23#25#28#29#2F#3C#3E#5B#5D#7B#7D");
-  EXPECT_EQ(PdfName(std::string_view("a\0\t\n b", 6)), "a#00#09#0A#20b");
-  EXPECT_EQ(PdfName("M\xFCller"), "M\xFCller");
-  EXPECT_EQ(PdfName(""), "");
 }
 
 TEST(SortStrings, SortsWithoutRegardToCase) {

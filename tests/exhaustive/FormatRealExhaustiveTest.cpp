@@ -8,9 +8,9 @@
 #include <string>
 
 #include "folivar/base/Error.h"
-#include "folivar/document/Global.h"
 #include "tests/support/ExactReal.h"
 #include "tests/support/Random.h"
+#include "tests/support/Reals.h"
 
 namespace folivar::test {
 namespace {

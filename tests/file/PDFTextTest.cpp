@@ -76,6 +76,15 @@ TEST(PDFText, EscapesBackslashesAndParentheses) {
   EXPECT_EQ(Appended(Escaped{""}), "");
 }
 
+TEST(PDFText, WritesWhatWouldEndANameInHex) {
+  EXPECT_EQ(Appended(Name{"LiberationSans,Bold"}), "LiberationSans,Bold");
+  EXPECT_EQ(Appended(Name{"CGTimes(W1)"}), "CGTimes#28W1#29");
+  EXPECT_EQ(Appended(Name{"#%()/<>[]{}"}), "#23#25#28#29#2F#3C#3E#5B#5D#7B#7D");
+  EXPECT_EQ(Appended(Name{std::string_view("a\0\t\n b", 6)}), "a#00#09#0A#20b");
+  EXPECT_EQ(Appended(Name{"M\xFCller"}), "M\xFCller");
+  EXPECT_EQ(Appended(Name{""}), "");
+}
+
 TEST(PDFText, WritesATextAsBytesOfTheCodePage) {
   EXPECT_EQ(Appended(Ansi{u"plain \u00E9"}), "plain \xE9");
   EXPECT_EQ(Appended(Ansi{u"\u20AC(\u0416"}), "\x80(?");
