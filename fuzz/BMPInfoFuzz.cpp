@@ -75,7 +75,7 @@ void ReadFile(std::string_view bytes) {
   ImageFile file(source, "fuzz.bmp");
   BMPInfo reader;
   const std::int32_t error = ErrorOf(file, [&] { Require(reader.LoadImageInfo(file)); });
-  Require(error == 0 || error == -2147220504);
+  Require(error == 0 || error == Error::kUnknownImageType);
   if (error != 0) return;
 
   Require(reader.Width() > 0 && reader.Height() > 0);
@@ -91,7 +91,8 @@ void ReadFile(std::string_view bytes) {
   // One byte less, and the stream could not be what was promised.
   test::MemorySource shorter(bytes.substr(0, static_cast<std::size_t>(plain.end - 1)));
   ImageFile shorterFile(shorter, "fuzz.bmp");
-  Require(ErrorOf(shorterFile, [&] { reader.WriteImageStream(shorterFile, stream); }) == 62);
+  Require(ErrorOf(shorterFile, [&] { reader.WriteImageStream(shorterFile, stream); }) ==
+          Error::kInputPastEnd);
 }
 
 }  // namespace

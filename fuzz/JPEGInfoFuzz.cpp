@@ -54,7 +54,7 @@ Outcome PlainOutcome(std::string_view bytes) {
     const auto width1 = take();
     const auto width2 = take();
     if (!width2) return {};
-    if (*height1 > 127 || *width1 > 127) return {.error = 6};
+    if (*height1 > 127 || *width1 > 127) return {.error = Error::kOverflow};
     return {.width = *width1 * 256 + *width2, .height = *height1 * 256 + *height2, .isJpeg = true};
   }
 }

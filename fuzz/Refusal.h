@@ -11,13 +11,12 @@ namespace folivar::fuzz {
 // the file; any other is a finding.
 template <typename Read>
 bool IsRefused(std::string_view fileName, const Read& read) {
-  constexpr int kInvalidFileFormat = 321;
   try {
     read();
     return false;
   } catch (const Error& error) {
     const bool namesFile = std::string_view(error.what()).find(fileName) != std::string_view::npos;
-    if (error.Number() != kInvalidFileFormat || !namesFile) std::abort();
+    if (error.Number() != Error::kInvalidFileFormat || !namesFile) std::abort();
     return true;
   }
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 
@@ -8,24 +9,30 @@
 namespace folivar::test {
 namespace {
 
-TEST(Error, MakersGiveTheNumbersOfAutomation) {
-  EXPECT_EQ(Error::InvalidArgument("").Number(), 5);
-  EXPECT_EQ(Error::Overflow("").Number(), 6);
-  EXPECT_EQ(Error::SubscriptOutOfRange("").Number(), 9);
-  EXPECT_EQ(Error::DivisionByZero("").Number(), 11);
-  EXPECT_EQ(Error::TypeMismatch("").Number(), 13);
-  EXPECT_EQ(Error::BadFileName("").Number(), 52);
-  EXPECT_EQ(Error::FileNotFound("").Number(), 53);
-  EXPECT_EQ(Error::DiskFull("").Number(), 61);
-  EXPECT_EQ(Error::InputPastEnd("").Number(), 62);
-  EXPECT_EQ(Error::PermissionDenied("").Number(), 70);
-  EXPECT_EQ(Error::PathFileAccess("").Number(), 75);
-  EXPECT_EQ(Error::PathNotFound("").Number(), 76);
-  EXPECT_EQ(Error::ObjectNotSet("").Number(), 91);
-  EXPECT_EQ(Error::InvalidNull("").Number(), 94);
-  EXPECT_EQ(Error::ActionNotSupported("").Number(), 445);
-  EXPECT_EQ(Error::KeyInUse("").Number(), 457);
-  EXPECT_EQ(Error::UnknownImageType("").Number(), -2147220504);
+void ExpectNumber(const Error& error, std::int32_t name, std::int32_t number) {
+  EXPECT_EQ(error.Number(), number);
+  EXPECT_EQ(name, number);
+}
+
+TEST(Error, MakersAndNamesGiveTheNumbersOfAutomation) {
+  ExpectNumber(Error::UnknownImageType(""), Error::kUnknownImageType, -2147220504);
+  ExpectNumber(Error::InvalidArgument(""), Error::kInvalidArgument, 5);
+  ExpectNumber(Error::Overflow(""), Error::kOverflow, 6);
+  ExpectNumber(Error::SubscriptOutOfRange(""), Error::kSubscriptOutOfRange, 9);
+  ExpectNumber(Error::DivisionByZero(""), Error::kDivisionByZero, 11);
+  ExpectNumber(Error::TypeMismatch(""), Error::kTypeMismatch, 13);
+  ExpectNumber(Error::BadFileName(""), Error::kBadFileName, 52);
+  ExpectNumber(Error::FileNotFound(""), Error::kFileNotFound, 53);
+  ExpectNumber(Error::DiskFull(""), Error::kDiskFull, 61);
+  ExpectNumber(Error::InputPastEnd(""), Error::kInputPastEnd, 62);
+  ExpectNumber(Error::PermissionDenied(""), Error::kPermissionDenied, 70);
+  ExpectNumber(Error::PathFileAccess(""), Error::kPathFileAccess, 75);
+  ExpectNumber(Error::PathNotFound(""), Error::kPathNotFound, 76);
+  ExpectNumber(Error::ObjectNotSet(""), Error::kObjectNotSet, 91);
+  ExpectNumber(Error::InvalidNull(""), Error::kInvalidNull, 94);
+  ExpectNumber(Error::InvalidFileFormat(""), Error::kInvalidFileFormat, 321);
+  ExpectNumber(Error::ActionNotSupported(""), Error::kActionNotSupported, 445);
+  ExpectNumber(Error::KeyInUse(""), Error::kKeyInUse, 457);
 }
 
 TEST(Error, CarriesItsText) {
@@ -45,7 +52,7 @@ TEST(Error, IsCaughtAsAStandardException) {
 TEST(Error, ACopyKeepsNumberAndText) {
   const Error original = Error::KeyInUse("text");
   const Error copy = original;
-  EXPECT_EQ(copy.Number(), 457);
+  EXPECT_EQ(copy.Number(), Error::kKeyInUse);
   EXPECT_STREQ(copy.what(), "text");
 }
 

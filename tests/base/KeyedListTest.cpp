@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "folivar/base/Error.h"
 #include "folivar/base/KeyedList.h"
 #include "tests/support/Content.h"
 #include "tests/support/KeyedModel.h"
@@ -60,11 +61,11 @@ TEST_F(KeyedListOfThree, FindsByKeyWithoutRegardToCase) {
 TEST_F(KeyedListOfThree, KeysBeyondAsciiCompareWithoutRegardToCase) {
   Add(list_, 4, "\u00C9T\u00C9");
   EXPECT_EQ(*list_.Item("\u00E9t\u00E9"), 4);
-  EXPECT_EQ(AddError("\u00E9T\u00E9", {}, {}), 457);
+  EXPECT_EQ(AddError("\u00E9T\u00E9", {}, {}), Error::kKeyInUse);
 }
 
 TEST_F(KeyedListOfThree, ATextIsAKeyAndNeverAPosition) {
-  EXPECT_EQ(ErrorNumberOf([&] { list_.Item("1"); }), 5);
+  EXPECT_EQ(ErrorNumberOf([&] { list_.Item("1"); }), Error::kInvalidArgument);
   Add(list_, 4, "1");
   EXPECT_EQ(*list_.Item("1"), 4);
   EXPECT_EQ(*list_.Item(1), 1);
@@ -85,34 +86,34 @@ TEST_F(KeyedListOfThree, ManyMayBeWithoutAKeyAndNoneIsFoundByTheEmptyOne) {
   Add(list_, 4, "");
   EXPECT_EQ(list_.Count(), 4U);
   EXPECT_FALSE(list_.KeyExists(""));
-  EXPECT_EQ(ErrorNumberOf([&] { list_.Item(""); }), 5);
+  EXPECT_EQ(ErrorNumberOf([&] { list_.Item(""); }), Error::kInvalidArgument);
 }
 
 TEST_F(KeyedListOfThree, AddRaises5WhenBothPlacesAreGivenWhateverElseIsWrong) {
-  EXPECT_EQ(AddError("", 1, 2), 5);
-  EXPECT_EQ(AddError("a", 1, 2), 5);
-  EXPECT_EQ(AddError("a", 99, Value::Null()), 5);
-  EXPECT_EQ(AddError("", Value::Null(), true), 5);
+  EXPECT_EQ(AddError("", 1, 2), Error::kInvalidArgument);
+  EXPECT_EQ(AddError("a", 1, 2), Error::kInvalidArgument);
+  EXPECT_EQ(AddError("a", 99, Value::Null()), Error::kInvalidArgument);
+  EXPECT_EQ(AddError("", Value::Null(), true), Error::kInvalidArgument);
 }
 
 TEST_F(KeyedListOfThree, AddRaises457ForAKeyInUseBeforeItLooksAtThePlace) {
-  EXPECT_EQ(AddError("A", {}, {}), 457);
-  EXPECT_EQ(AddError("A", 99, {}), 457);
-  EXPECT_EQ(AddError("A", {}, "no such key"), 457);
-  EXPECT_EQ(AddError("A", Value::Null(), {}), 457);
+  EXPECT_EQ(AddError("A", {}, {}), Error::kKeyInUse);
+  EXPECT_EQ(AddError("A", 99, {}), Error::kKeyInUse);
+  EXPECT_EQ(AddError("A", {}, "no such key"), Error::kKeyInUse);
+  EXPECT_EQ(AddError("A", Value::Null(), {}), Error::kKeyInUse);
 }
 
 TEST_F(KeyedListOfThree, AddRaisesForAPlaceThatNamesNoEntry) {
-  EXPECT_EQ(AddError("", "no such key", {}), 5);
-  EXPECT_EQ(AddError("", {}, ""), 5);
-  EXPECT_EQ(AddError("", 0, {}), 9);
-  EXPECT_EQ(AddError("", 4, {}), 9);
-  EXPECT_EQ(AddError("", {}, -1), 9);
-  EXPECT_EQ(AddError("", {}, 3.5), 9);
-  EXPECT_EQ(AddError("", 1e10, {}), 6);
-  EXPECT_EQ(AddError("", true, {}), 13);
-  EXPECT_EQ(AddError("", {}, Value::Empty()), 13);
-  EXPECT_EQ(AddError("", {}, Value::Null()), 94);
+  EXPECT_EQ(AddError("", "no such key", {}), Error::kInvalidArgument);
+  EXPECT_EQ(AddError("", {}, ""), Error::kInvalidArgument);
+  EXPECT_EQ(AddError("", 0, {}), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(AddError("", 4, {}), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(AddError("", {}, -1), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(AddError("", {}, 3.5), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(AddError("", 1e10, {}), Error::kOverflow);
+  EXPECT_EQ(AddError("", true, {}), Error::kTypeMismatch);
+  EXPECT_EQ(AddError("", {}, Value::Empty()), Error::kTypeMismatch);
+  EXPECT_EQ(AddError("", {}, Value::Null()), Error::kInvalidNull);
 }
 
 TEST_F(KeyedListOfThree, AnAddThatRaisesLeavesTheListAsItWas) {
@@ -164,17 +165,17 @@ TEST_F(KeyedListOfThree, ItemAndRemoveRaise) {
     EXPECT_EQ(ErrorNumberOf([&] { list_.Remove(index); }), number);
     EXPECT_FALSE(list_.KeyExists(index));
   };
-  expectError("b", 5);
-  expectError(0, 9);
-  expectError(4, 9);
-  expectError(-1, 9);
-  expectError(0.5, 9);
-  expectError(1e10, 6);
-  expectError(false, 13);
-  expectError(Value(), 13);
-  expectError(Value::Empty(), 13);
-  expectError(Value::Host(1), 13);
-  expectError(Value::Null(), 94);
+  expectError("b", Error::kInvalidArgument);
+  expectError(0, Error::kSubscriptOutOfRange);
+  expectError(4, Error::kSubscriptOutOfRange);
+  expectError(-1, Error::kSubscriptOutOfRange);
+  expectError(0.5, Error::kSubscriptOutOfRange);
+  expectError(1e10, Error::kOverflow);
+  expectError(false, Error::kTypeMismatch);
+  expectError(Value(), Error::kTypeMismatch);
+  expectError(Value::Empty(), Error::kTypeMismatch);
+  expectError(Value::Host(1), Error::kTypeMismatch);
+  expectError(Value::Null(), Error::kInvalidNull);
   EXPECT_EQ(list_.Count(), 3U);
 }
 
@@ -219,8 +220,8 @@ TEST_F(KeyedListOfThree, ErrorTextsNameWhatAndWhere) {
 TEST(KeyedList, AnEmptyListHasNothing) {
   const List list("PDFThings");
   EXPECT_EQ(list.Count(), 0U);
-  EXPECT_EQ(ErrorNumberOf([&] { list.Item(1); }), 9);
-  EXPECT_EQ(ErrorNumberOf([&] { list.Item("a"); }), 5);
+  EXPECT_EQ(ErrorNumberOf([&] { list.Item(1); }), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(ErrorNumberOf([&] { list.Item("a"); }), Error::kInvalidArgument);
   EXPECT_FALSE(list.KeyExists(1));
 }
 

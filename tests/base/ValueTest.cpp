@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "folivar/base/Error.h"
 #include "folivar/base/Value.h"
 #include "folivar/folivar.h"
 #include "tests/support/Content.h"
@@ -93,7 +94,7 @@ TEST(Value, ACopyIsAValueOfItsOwn) {
 }
 
 TEST(Value, Raises5ForATextThatIsNotUtf8) {
-  EXPECT_EQ(ErrorNumberOf([] { Value value("\xFF"); }), 5);
+  EXPECT_EQ(ErrorNumberOf([] { Value value("\xFF"); }), Error::kInvalidArgument);
 }
 
 TEST(Int32From, TakesWholeNumbersOf32Bits) {
@@ -117,24 +118,24 @@ TEST(Int32From, RoundsHalvesToTheEvenNumber) {
 }
 
 TEST(Int32From, Raises6Beyond32Bits) {
-  EXPECT_EQ(NumberOfInt32Error(Value(std::int64_t{2147483648})), 6);
-  EXPECT_EQ(NumberOfInt32Error(Value(std::int64_t{-2147483649})), 6);
-  EXPECT_EQ(NumberOfInt32Error(Value(std::uint64_t{1} << 63)), 6);
-  EXPECT_EQ(NumberOfInt32Error(Value(2147483647.5)), 6);
-  EXPECT_EQ(NumberOfInt32Error(Value(-2147483648.6)), 6);
-  EXPECT_EQ(NumberOfInt32Error(Value(1e300)), 6);
-  EXPECT_EQ(NumberOfInt32Error(Value(std::numeric_limits<double>::infinity())), 6);
-  EXPECT_EQ(NumberOfInt32Error(Value(std::numeric_limits<double>::quiet_NaN())), 6);
+  EXPECT_EQ(NumberOfInt32Error(Value(std::int64_t{2147483648})), Error::kOverflow);
+  EXPECT_EQ(NumberOfInt32Error(Value(std::int64_t{-2147483649})), Error::kOverflow);
+  EXPECT_EQ(NumberOfInt32Error(Value(std::uint64_t{1} << 63)), Error::kOverflow);
+  EXPECT_EQ(NumberOfInt32Error(Value(2147483647.5)), Error::kOverflow);
+  EXPECT_EQ(NumberOfInt32Error(Value(-2147483648.6)), Error::kOverflow);
+  EXPECT_EQ(NumberOfInt32Error(Value(1e300)), Error::kOverflow);
+  EXPECT_EQ(NumberOfInt32Error(Value(std::numeric_limits<double>::infinity())), Error::kOverflow);
+  EXPECT_EQ(NumberOfInt32Error(Value(std::numeric_limits<double>::quiet_NaN())), Error::kOverflow);
 }
 
 TEST(Int32From, Raises94ForNullAnd13ForWhatIsNoNumber) {
-  EXPECT_EQ(NumberOfInt32Error(Value::Null()), 94);
-  EXPECT_EQ(NumberOfInt32Error(Value()), 13);
-  EXPECT_EQ(NumberOfInt32Error(Value::Empty()), 13);
-  EXPECT_EQ(NumberOfInt32Error(Value("1")), 13);
-  EXPECT_EQ(NumberOfInt32Error(Value(true)), 13);
-  EXPECT_EQ(NumberOfInt32Error(Value(PDFDocument::Create())), 13);
-  EXPECT_EQ(NumberOfInt32Error(Value::Host(1)), 13);
+  EXPECT_EQ(NumberOfInt32Error(Value::Null()), Error::kInvalidNull);
+  EXPECT_EQ(NumberOfInt32Error(Value()), Error::kTypeMismatch);
+  EXPECT_EQ(NumberOfInt32Error(Value::Empty()), Error::kTypeMismatch);
+  EXPECT_EQ(NumberOfInt32Error(Value("1")), Error::kTypeMismatch);
+  EXPECT_EQ(NumberOfInt32Error(Value(true)), Error::kTypeMismatch);
+  EXPECT_EQ(NumberOfInt32Error(Value(PDFDocument::Create())), Error::kTypeMismatch);
+  EXPECT_EQ(NumberOfInt32Error(Value::Host(1)), Error::kTypeMismatch);
 }
 
 TEST(DoubleFrom, TakesRealsUnroundedAndWholeNumbers) {
@@ -147,11 +148,11 @@ TEST(DoubleFrom, TakesRealsUnroundedAndWholeNumbers) {
 }
 
 TEST(DoubleFrom, Raises94ForNullAnd13ForWhatIsNoNumber) {
-  EXPECT_EQ(ErrorNumberOf([] { DoubleFrom(Value::Null()); }), 94);
-  EXPECT_EQ(ErrorNumberOf([] { DoubleFrom(Value()); }), 13);
-  EXPECT_EQ(ErrorNumberOf([] { DoubleFrom(Value::Empty()); }), 13);
-  EXPECT_EQ(ErrorNumberOf([] { DoubleFrom(Value("1")); }), 13);
-  EXPECT_EQ(ErrorNumberOf([] { DoubleFrom(Value(true)); }), 13);
+  EXPECT_EQ(ErrorNumberOf([] { DoubleFrom(Value::Null()); }), Error::kInvalidNull);
+  EXPECT_EQ(ErrorNumberOf([] { DoubleFrom(Value()); }), Error::kTypeMismatch);
+  EXPECT_EQ(ErrorNumberOf([] { DoubleFrom(Value::Empty()); }), Error::kTypeMismatch);
+  EXPECT_EQ(ErrorNumberOf([] { DoubleFrom(Value("1")); }), Error::kTypeMismatch);
+  EXPECT_EQ(ErrorNumberOf([] { DoubleFrom(Value(true)); }), Error::kTypeMismatch);
 }
 
 TEST(Value, FlagsAndNumbersMakeFlags) {
@@ -164,10 +165,10 @@ TEST(Value, FlagsAndNumbersMakeFlags) {
 }
 
 TEST(Value, WhatIsNoFlagRaises) {
-  EXPECT_EQ(ErrorNumberOf([] { BoolFrom("true"); }), 13);
-  EXPECT_EQ(ErrorNumberOf([] { BoolFrom(Value()); }), 13);
-  EXPECT_EQ(ErrorNumberOf([] { BoolFrom(Value::Empty()); }), 13);
-  EXPECT_EQ(ErrorNumberOf([] { BoolFrom(Value::Null()); }), 94);
+  EXPECT_EQ(ErrorNumberOf([] { BoolFrom("true"); }), Error::kTypeMismatch);
+  EXPECT_EQ(ErrorNumberOf([] { BoolFrom(Value()); }), Error::kTypeMismatch);
+  EXPECT_EQ(ErrorNumberOf([] { BoolFrom(Value::Empty()); }), Error::kTypeMismatch);
+  EXPECT_EQ(ErrorNumberOf([] { BoolFrom(Value::Null()); }), Error::kInvalidNull);
 }
 
 }  // namespace

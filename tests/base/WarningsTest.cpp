@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "folivar/base/Error.h"
 #include "folivar/base/Warnings.h"
 #include "folivar/folivar.h"
 #include "tests/support/Content.h"
@@ -38,7 +39,7 @@ class StandardErrorToFile {
 };
 
 TEST(Warnings, Raises91ForAFunctionThatIsNone) {
-  EXPECT_EQ(ErrorNumberOf([] { Warnings::To({}); }), 91);
+  EXPECT_EQ(ErrorNumberOf([] { Warnings::To({}); }), Error::kObjectNotSet);
 }
 
 TEST(Warnings, GoToTheHostsFunction) {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "folivar/base/Error.h"
 #include "folivar/document/KelCollection.h"
 #include "folivar/folivar.h"
 #include "tests/support/Content.h"
@@ -57,13 +58,13 @@ TEST(KelCollection, AddsBeforeAndAfter) {
 TEST(KelCollection, RaisesTheErrorsOfCollections) {
   KelCollection collection;
   collection.Add(1, "a");
-  EXPECT_EQ(ErrorNumberOf([&] { collection.Add(2, "A"); }), 457);
-  EXPECT_EQ(ErrorNumberOf([&] { collection.Add(2, "", 1, 1); }), 5);
-  EXPECT_EQ(ErrorNumberOf([&] { collection.Add(2, "", 2); }), 9);
-  EXPECT_EQ(ErrorNumberOf([&] { collection.Item("b"); }), 5);
-  EXPECT_EQ(ErrorNumberOf([&] { collection.Item(2); }), 9);
-  EXPECT_EQ(ErrorNumberOf([&] { collection.Remove("b"); }), 5);
-  EXPECT_EQ(ErrorNumberOf([&] { collection.Remove(0); }), 9);
+  EXPECT_EQ(ErrorNumberOf([&] { collection.Add(2, "A"); }), Error::kKeyInUse);
+  EXPECT_EQ(ErrorNumberOf([&] { collection.Add(2, "", 1, 1); }), Error::kInvalidArgument);
+  EXPECT_EQ(ErrorNumberOf([&] { collection.Add(2, "", 2); }), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(ErrorNumberOf([&] { collection.Item("b"); }), Error::kInvalidArgument);
+  EXPECT_EQ(ErrorNumberOf([&] { collection.Item(2); }), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(ErrorNumberOf([&] { collection.Remove("b"); }), Error::kInvalidArgument);
+  EXPECT_EQ(ErrorNumberOf([&] { collection.Remove(0); }), Error::kSubscriptOutOfRange);
   EXPECT_EQ(collection.Count(), 1);
 }
 

@@ -7,6 +7,7 @@
 #include <numeric>
 #include <tuple>
 
+#include "folivar/base/Error.h"
 #include "folivar/folivar.h"
 #include "tests/support/BmpFile.h"
 #include "tests/support/Content.h"
@@ -16,6 +17,9 @@
 
 namespace folivar::test {
 namespace {
+
+// Of an owner that is asked for.
+constexpr int kGone = Error::kObjectNotSet;
 
 // Everything that a host can hold of a document. Its parts are let go of one at a time; after each
 // release what is left is used.
@@ -47,12 +51,12 @@ class Held {
     }
     if (preferences_) {
       preferences_->SetHideToolbar(true);
-      EXPECT_EQ(ErrorNumberOf([&] { preferences_->PageMode(); }), document_ ? 0 : 91);
+      EXPECT_EQ(ErrorNumberOf([&] { preferences_->PageMode(); }), document_ ? 0 : kGone);
     }
     if (page_) {
       page_->DrawText("text", 1, 2);
       page_->SetFont(page_->Font()->Clone());
-      EXPECT_EQ(ErrorNumberOf([&] { page_->ParentDocument(); }), document_ ? 0 : 91);
+      EXPECT_EQ(ErrorNumberOf([&] { page_->ParentDocument(); }), document_ ? 0 : kGone);
     }
     if (font_) {
       EXPECT_FLOAT_EQ(font_->TextWidth("mm"), 12);
@@ -101,7 +105,7 @@ class HeldWithTemplate {
     if (page_) {
       page_->DrawText("text", 1, 2);
       const auto other = PDFDocument::Create()->Templates()->Add();
-      EXPECT_EQ(ErrorNumberOf([&] { page_->DrawTemplate(other); }), 5);
+      EXPECT_EQ(ErrorNumberOf([&] { page_->DrawTemplate(other); }), Error::kInvalidArgument);
     }
     if (drawn_) {
       drawn_->DrawText("text", 1, 2);
@@ -155,7 +159,7 @@ class HeldWithTextBox {
       box_->SetSelStart(2);
       box_->SetSelText("more");
       box_->SetSelFont(box_->SelFont()->Clone());
-      EXPECT_EQ(ErrorNumberOf([&] { box_->Parent(); }), document_ || page_ ? 0 : 91);
+      EXPECT_EQ(ErrorNumberOf([&] { box_->Parent(); }), document_ || page_ ? 0 : kGone);
     }
     if (page_) page_->TextBoxes()->Item("box")->SetSelUnderline(true);
     if (font_) font_->SetSize(20);

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <string>
 
+#include "folivar/base/Error.h"
 #include "folivar/document/PDFDocument.h"
 #include "folivar/folivar.h"
 #include "tests/support/Content.h"
@@ -254,7 +255,7 @@ TEST(PDFDocument, FileNameMayHoldAnyCharacter) {
 TEST(PDFDocument, FullDiskRaises61AndNamesTheFile) {
   const auto document = PDFDocument::Create();
   document->Pages()->Add();
-  EXPECT_EQ(ErrorNumberOf([&] { document->SavePDFFile("/dev/full"); }), 61);
+  EXPECT_EQ(ErrorNumberOf([&] { document->SavePDFFile("/dev/full"); }), Error::kDiskFull);
   EXPECT_NE(ErrorTextOf([&] { document->SavePDFFile("/dev/full"); }).find("'/dev/full'"),
             std::string::npos);
 }
@@ -262,7 +263,8 @@ TEST(PDFDocument, FullDiskRaises61AndNamesTheFile) {
 TEST(PDFDocument, FailedSaveLeavesTheDocumentUsable) {
   const auto document = PDFDocument::Create();
   document->Pages()->Add()->DrawText("kept", 72, 700);
-  EXPECT_EQ(ErrorNumberOf([&] { document->SavePDFFile("/no/such/folder/x.pdf"); }), 76);
+  EXPECT_EQ(ErrorNumberOf([&] { document->SavePDFFile("/no/such/folder/x.pdf"); }),
+            Error::kPathNotFound);
   EXPECT_EQ(TextOf(Save(*document, "kept.pdf").path), "kept\n\f");
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "folivar/base/Error.h"
 #include "folivar/document/PDFPages.h"
 #include "folivar/folivar.h"
 #include "tests/support/Content.h"
@@ -61,13 +62,13 @@ TEST_F(PDFPagesOfThree, AddTakesPlacesByPositionAndByKey) {
 }
 
 TEST_F(PDFPagesOfThree, AddChecksBothPlacesThenTheKeyThenThePlace) {
-  EXPECT_EQ(AddError("A", 99, 1), 5);
-  EXPECT_EQ(AddError("A", 99, {}), 457);
-  EXPECT_EQ(AddError("new", 99, {}), 9);
-  EXPECT_EQ(AddError("new", {}, "x"), 5);
-  EXPECT_EQ(AddError("new", true, {}), 13);
-  EXPECT_EQ(AddError("new", {}, Value::Null()), 94);
-  EXPECT_EQ(AddError("new", 3e9, {}), 6);
+  EXPECT_EQ(AddError("A", 99, 1), Error::kInvalidArgument);
+  EXPECT_EQ(AddError("A", 99, {}), Error::kKeyInUse);
+  EXPECT_EQ(AddError("new", 99, {}), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(AddError("new", {}, "x"), Error::kInvalidArgument);
+  EXPECT_EQ(AddError("new", true, {}), Error::kTypeMismatch);
+  EXPECT_EQ(AddError("new", {}, Value::Null()), Error::kInvalidNull);
+  EXPECT_EQ(AddError("new", 3e9, {}), Error::kOverflow);
   EXPECT_EQ(KeysOf(*pages_), "abc");
   EXPECT_FALSE(pages_->KeyExists("new"));
 }
@@ -79,9 +80,9 @@ TEST_F(PDFPagesOfThree, AKeyInUseIsNamedWithItsCollection) {
 TEST_F(PDFPagesOfThree, ItemTakesAPositionOrAKeyInAnyCase) {
   EXPECT_EQ(pages_->Item(2), pages_->Item("B"));
   EXPECT_EQ(pages_->Item(2)->Key(), "b");
-  EXPECT_EQ(ErrorNumberOf([&] { pages_->Item("2"); }), 5);
-  EXPECT_EQ(ErrorNumberOf([&] { pages_->Item(0); }), 9);
-  EXPECT_EQ(ErrorNumberOf([&] { pages_->Item(4); }), 9);
+  EXPECT_EQ(ErrorNumberOf([&] { pages_->Item("2"); }), Error::kInvalidArgument);
+  EXPECT_EQ(ErrorNumberOf([&] { pages_->Item(0); }), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(ErrorNumberOf([&] { pages_->Item(4); }), Error::kSubscriptOutOfRange);
 }
 
 TEST_F(PDFPagesOfThree, RemoveTakesTheLastPageToo) {
@@ -90,7 +91,7 @@ TEST_F(PDFPagesOfThree, RemoveTakesTheLastPageToo) {
   pages_->Remove(2);
   pages_->Remove(1);
   EXPECT_EQ(pages_->count(), 0);
-  EXPECT_EQ(ErrorNumberOf([&] { pages_->Remove(1); }), 9);
+  EXPECT_EQ(ErrorNumberOf([&] { pages_->Remove(1); }), Error::kSubscriptOutOfRange);
   const SavedDocument saved = Save(*document_, "empty.pdf");
   EXPECT_EQ(saved.pdf.Object(3), "<< /Type /Pages\n/Kids []\n/Count 0\n>>\n");
 }
@@ -196,8 +197,8 @@ TEST_F(PDFPagesOfThree, ARemoveThatFailsRaisesNoEvent) {
   bool isHeard = false;
   const Subscription subscription =
       pages_->Item("b")->PageRemoved().Subscribe([&](PDFPage&) { isHeard = true; });
-  EXPECT_EQ(ErrorNumberOf([&] { pages_->Remove(4); }), 9);
-  EXPECT_EQ(ErrorNumberOf([&] { pages_->Remove("x"); }), 5);
+  EXPECT_EQ(ErrorNumberOf([&] { pages_->Remove(4); }), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(ErrorNumberOf([&] { pages_->Remove("x"); }), Error::kInvalidArgument);
   pages_->ReOrder("x");
   EXPECT_FALSE(isHeard);
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "folivar/base/Error.h"
 #include "folivar/document/PDFViewerPreferences.h"
 #include "folivar/folivar.h"
 #include "tests/support/Content.h"
@@ -49,8 +50,8 @@ TEST(PDFViewerPreferences, LayoutAndModeNeedTheDocument) {
   auto document = PDFDocument::Create();
   const auto preferences = document->ViewerPreferences();
   document.reset();
-  EXPECT_EQ(ErrorNumberOf([&] { preferences->PageLayout(); }), 91);
-  EXPECT_EQ(ErrorNumberOf([&] { preferences->SetPageMode(pmsUseNone); }), 91);
+  EXPECT_EQ(ErrorNumberOf([&] { preferences->PageLayout(); }), Error::kObjectNotSet);
+  EXPECT_EQ(ErrorNumberOf([&] { preferences->SetPageMode(pmsUseNone); }), Error::kObjectNotSet);
   preferences->SetFitWindow(true);
   EXPECT_TRUE(preferences->FitWindow());
 }

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "folivar/base/Error.h"
 #include "folivar/folivar.h"
 #include "tests/support/BmpFile.h"
 #include "tests/support/Content.h"
@@ -149,31 +150,32 @@ TEST(DrawText, DecorationsLeaveThePenAtTheirEnd) {
 }
 
 TEST(DrawText, FailedDecorationLeavesNothingBehind) {
-  EXPECT_EQ(
-      ContentAfter([](PDFPage& page) {
-        Decorated(page)->SetUnderline(true);
-        page.SetCurPos(3, 4);
-        // The text itself can be written here, the end of its line not.
-        EXPECT_EQ(
-            ErrorNumberOf([&] { page.DrawText("AAAAAAAAAAAAAAAAAAAAAAA", 2147483520.0F, 0); }), 6);
-        float x = 0;
-        float y = 0;
-        page.GetCurPos(x, y);
-        EXPECT_EQ(x, 3);
-        EXPECT_EQ(y, 4);
-        EXPECT_EQ(page.GraphicsState()->LineWidth(), 1);
-      }),
-      "");
+  EXPECT_EQ(ContentAfter([](PDFPage& page) {
+              Decorated(page)->SetUnderline(true);
+              page.SetCurPos(3, 4);
+              // The text itself can be written here, the end of its line not.
+              EXPECT_EQ(ErrorNumberOf(
+                            [&] { page.DrawText("AAAAAAAAAAAAAAAAAAAAAAA", 2147483520.0F, 0); }),
+                        Error::kOverflow);
+              float x = 0;
+              float y = 0;
+              page.GetCurPos(x, y);
+              EXPECT_EQ(x, 3);
+              EXPECT_EQ(y, 4);
+              EXPECT_EQ(page.GraphicsState()->LineWidth(), 1);
+            }),
+            "");
 }
 
 TEST(DrawText, WhatCannotBeWrittenAppendsNothing) {
-  EXPECT_EQ(ContentAfter([](PDFPage& page) {
-              EXPECT_EQ(ErrorNumberOf([&] { page.DrawText("a", kNotANumber, 0); }), 6);
-              EXPECT_EQ(ErrorNumberOf([&] { page.DrawText("a", 0, kInfinity); }), 6);
-              EXPECT_EQ(ErrorNumberOf([&] { page.DrawText("a", 0, -2147483648.0F); }), 6);
-              EXPECT_EQ(ErrorNumberOf([&] { page.DrawText("\xFF", 0, 0); }), 5);
-            }),
-            "");
+  EXPECT_EQ(
+      ContentAfter([](PDFPage& page) {
+        EXPECT_EQ(ErrorNumberOf([&] { page.DrawText("a", kNotANumber, 0); }), Error::kOverflow);
+        EXPECT_EQ(ErrorNumberOf([&] { page.DrawText("a", 0, kInfinity); }), Error::kOverflow);
+        EXPECT_EQ(ErrorNumberOf([&] { page.DrawText("a", 0, -2147483648.0F); }), Error::kOverflow);
+        EXPECT_EQ(ErrorNumberOf([&] { page.DrawText("\xFF", 0, 0); }), Error::kInvalidArgument);
+      }),
+      "");
 }
 
 TEST(DrawText, ErrorNamesTheMemberAndTheValue) {
@@ -259,10 +261,11 @@ TEST(DrawTextAligned, DrawsNoDecorations) {
 
 TEST(DrawTextAligned, WhatOverflowsAppendsNothing) {
   EXPECT_EQ(ContentAfter([](PDFPage& page) {
-              EXPECT_EQ(ErrorNumberOf([&] { page.DrawTextAligned("A", 3e38F, 0, 3e38F, 0); }), 6);
+              EXPECT_EQ(ErrorNumberOf([&] { page.DrawTextAligned("A", 3e38F, 0, 3e38F, 0); }),
+                        Error::kOverflow);
               EXPECT_EQ(
                   ErrorNumberOf([&] { page.DrawTextAligned("A\nB", 0, 0, 3e9F, 10, htaRight); }),
-                  6);
+                  Error::kOverflow);
             }),
             "");
 }
@@ -315,12 +318,13 @@ TEST(DrawTemplate, WhatCannotBePlacedAppendsAndListsNothing) {
   const auto document = PDFDocument::Create();
   const auto page = document->Pages()->Add();
   const auto drawn = document->Templates()->Add();
-  EXPECT_EQ(ErrorNumberOf([&] { page->DrawTemplate(nullptr, 1, 2); }), 91);
-  EXPECT_EQ(ErrorNumberOf([&] { page->DrawTemplate(nullptr); }), 91);
-  EXPECT_EQ(ErrorNumberOf([&] { page->DrawTemplate(drawn, 1, 3e9); }), 6);
-  EXPECT_EQ(ErrorNumberOf([&] { page->DrawTemplate(drawn, kNotANumber, 1); }), 6);
-  EXPECT_EQ(ErrorNumberOf([&] { page->DrawTemplate(drawn, "1", 1); }), 13);
-  EXPECT_EQ(ErrorNumberOf([&] { page->DrawTemplate(drawn, 1, Value::Null()); }), 94);
+  EXPECT_EQ(ErrorNumberOf([&] { page->DrawTemplate(nullptr, 1, 2); }), Error::kObjectNotSet);
+  EXPECT_EQ(ErrorNumberOf([&] { page->DrawTemplate(nullptr); }), Error::kObjectNotSet);
+  EXPECT_EQ(ErrorNumberOf([&] { page->DrawTemplate(drawn, 1, 3e9); }), Error::kOverflow);
+  EXPECT_EQ(ErrorNumberOf([&] { page->DrawTemplate(drawn, kNotANumber, 1); }), Error::kOverflow);
+  EXPECT_EQ(ErrorNumberOf([&] { page->DrawTemplate(drawn, "1", 1); }), Error::kTypeMismatch);
+  EXPECT_EQ(ErrorNumberOf([&] { page->DrawTemplate(drawn, 1, Value::Null()); }),
+            Error::kInvalidNull);
   const SavedDocument saved = Save(*document, "nothing.pdf");
   EXPECT_EQ(saved.pdf.Stream(5), "q\nQ\n");
   EXPECT_EQ(saved.pdf.Object(4).find("/XObject"), std::string_view::npos);
@@ -331,7 +335,8 @@ TEST(DrawTemplate, TemplateOfAnotherDocumentIsRefusedByName) {
   const auto named = other->Templates()->Add("logo");
   const auto unnamed = other->Templates()->Add();
   EXPECT_EQ(ContentAfter([&](PDFPage& page) {
-              EXPECT_EQ(ErrorNumberOf([&] { page.DrawTemplate(named, 1, 2); }), 5);
+              EXPECT_EQ(ErrorNumberOf([&] { page.DrawTemplate(named, 1, 2); }),
+                        Error::kInvalidArgument);
               EXPECT_EQ(ErrorTextOf([&] { page.DrawTemplate(named, 1, 2); }),
                         "PDFPage.DrawTemplate: the template 'logo' belongs to another document");
               EXPECT_EQ(ErrorTextOf([&] { page.DrawTemplate(unnamed); }),
@@ -372,8 +377,9 @@ TEST(DrawLineTo, StartsAtTheOriginOfANewPage) {
 TEST(DrawLine, FailureDoesNotMoveThePen) {
   EXPECT_EQ(ContentAfter([](PDFPage& page) {
               page.SetCurPos(1, 2);
-              EXPECT_EQ(ErrorNumberOf([&] { page.DrawLine(0, 0, kInfinity, 0); }), 6);
-              EXPECT_EQ(ErrorNumberOf([&] { page.DrawLineTo(0, kNotANumber); }), 6);
+              EXPECT_EQ(ErrorNumberOf([&] { page.DrawLine(0, 0, kInfinity, 0); }),
+                        Error::kOverflow);
+              EXPECT_EQ(ErrorNumberOf([&] { page.DrawLineTo(0, kNotANumber); }), Error::kOverflow);
               page.DrawLineTo(3, 4);
             }),
             "1  2  m\n3  4  l\nS\n");
@@ -419,11 +425,12 @@ TEST(DrawRect, MovesThePenToTheOppositeCorner) {
 }
 
 TEST(DrawRect, SumThatOverflowsDrawsNothing) {
-  EXPECT_EQ(ContentAfter([](PDFPage& page) {
-              EXPECT_EQ(ErrorNumberOf([&] { page.DrawRect(3e38F, 0, 3e38F, 1); }), 6);
-              EXPECT_EQ(ErrorNumberOf([&] { page.DrawRect(0, 0, 1, kNotANumber); }), 6);
-            }),
-            "");
+  EXPECT_EQ(
+      ContentAfter([](PDFPage& page) {
+        EXPECT_EQ(ErrorNumberOf([&] { page.DrawRect(3e38F, 0, 3e38F, 1); }), Error::kOverflow);
+        EXPECT_EQ(ErrorNumberOf([&] { page.DrawRect(0, 0, 1, kNotANumber); }), Error::kOverflow);
+      }),
+      "");
 }
 
 // An image of 400 by 100 pixels in the page's document.
@@ -533,17 +540,17 @@ TEST(DrawImage, WhatCannotBeDrawnIsNeitherWrittenNorListed) {
   const auto number = [&](const Value& width, const Value& height, float x = 0) {
     return ErrorNumberOf([&] { page->DrawImage(image, x, 0, width, height); });
   };
-  EXPECT_EQ(number({}, {}, kInfinity), 6);
-  EXPECT_EQ(number(3e9, 3e9), 6);
-  EXPECT_EQ(number(kNotANumber, 1), 6);
-  EXPECT_EQ(number(1, kNotANumber), 6);
-  EXPECT_EQ(number(kInfinity, 1), 6);
-  EXPECT_EQ(number(1, -kInfinity), 6);
-  EXPECT_EQ(number("100", {}), 13);
-  EXPECT_EQ(number(true, {}), 13);
-  EXPECT_EQ(number(Value::Empty(), {}), 13);
-  EXPECT_EQ(number({}, Value::Null()), 94);
-  EXPECT_EQ(ErrorNumberOf([&] { page->DrawImage(nullptr, 0, 0); }), 91);
+  EXPECT_EQ(number({}, {}, kInfinity), Error::kOverflow);
+  EXPECT_EQ(number(3e9, 3e9), Error::kOverflow);
+  EXPECT_EQ(number(kNotANumber, 1), Error::kOverflow);
+  EXPECT_EQ(number(1, kNotANumber), Error::kOverflow);
+  EXPECT_EQ(number(kInfinity, 1), Error::kOverflow);
+  EXPECT_EQ(number(1, -kInfinity), Error::kOverflow);
+  EXPECT_EQ(number("100", {}), Error::kTypeMismatch);
+  EXPECT_EQ(number(true, {}), Error::kTypeMismatch);
+  EXPECT_EQ(number(Value::Empty(), {}), Error::kTypeMismatch);
+  EXPECT_EQ(number({}, Value::Null()), Error::kInvalidNull);
+  EXPECT_EQ(ErrorNumberOf([&] { page->DrawImage(nullptr, 0, 0); }), Error::kObjectNotSet);
   EXPECT_EQ(ErrorTextOf([&] { page->DrawImage(nullptr, 0, 0); }),
             "PDFPage.DrawImage: no image is given");
   EXPECT_EQ(ContentOf(*page), "");
@@ -557,7 +564,8 @@ TEST(DrawImage, ImageOfAnotherDocumentIsRefused) {
   const auto image = WideImage(*page);
   const auto keyed = other->Images()->Add("logo");
   EXPECT_EQ(ContentAfter([&](PDFPage& mine) {
-              EXPECT_EQ(ErrorNumberOf([&] { mine.DrawImage(image, 0, 0); }), 5);
+              EXPECT_EQ(ErrorNumberOf([&] { mine.DrawImage(image, 0, 0); }),
+                        Error::kInvalidArgument);
               EXPECT_EQ(ErrorTextOf([&] { mine.DrawImage(image, 0, 0); }),
                         "PDFPage.DrawImage: the image /I1 belongs to another document");
               EXPECT_EQ(ErrorTextOf([&] { mine.DrawImage(keyed, 0, 0); }),
@@ -570,8 +578,10 @@ TEST(DrawImage, ImageOfAnotherDocumentIsRefused) {
 TEST(DrawImage, ImageWithoutAFileHasNoRatio) {
   EXPECT_EQ(ContentAfter([](PDFPage& page) {
               const auto image = page.ParentDocument()->Images()->Add();
-              EXPECT_EQ(ErrorNumberOf([&] { page.DrawImage(image, 0, 0); }), 11);
-              EXPECT_EQ(ErrorNumberOf([&] { page.DrawImage(image, 0, 0, 10, 10); }), 11);
+              EXPECT_EQ(ErrorNumberOf([&] { page.DrawImage(image, 0, 0); }),
+                        Error::kDivisionByZero);
+              EXPECT_EQ(ErrorNumberOf([&] { page.DrawImage(image, 0, 0, 10, 10); }),
+                        Error::kDivisionByZero);
               page.DrawImage(image, 0, 0, 10, 20, false);
               image->SetFileName(WriteBlankBmp("late.bmp", 1, 1).u8string());
             }),

@@ -21,7 +21,7 @@ std::string RealOrNothing(double x) {
   try {
     return FormatReal(x);
   } catch (const Error& error) {
-    return error.Number() == 6 ? "" : "error " + std::to_string(error.Number());
+    return error.Number() == Error::kOverflow ? "" : "error " + std::to_string(error.Number());
   }
 }
 

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 
+#include "folivar/base/Error.h"
 #include "folivar/file/PDFText.h"
 #include "tests/support/Content.h"
 
@@ -15,10 +16,10 @@ TEST(PDFTextLimit, GrowsInStepsUpToTheLimitAndNoFurther) {
   const std::string piece(std::size_t{1} << 20, 'x');
   PDFText text;
   while (text.Size() + piece.size() <= kLimit) text.Append(piece);
-  EXPECT_EQ(ErrorNumberOf([&] { text.Append(piece); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { text.Append(piece); }), Error::kOverflow);
   text.Append(piece.substr(0, kLimit - text.Size()));
   EXPECT_EQ(text.Size(), kLimit);
-  EXPECT_EQ(ErrorNumberOf([&] { text.Append("x"); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { text.Append("x"); }), Error::kOverflow);
   EXPECT_EQ(text.Size(), kLimit);
 }
 

@@ -11,6 +11,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "folivar/base/Error.h"
 #include "folivar/file/FileSink.h"
 #include "folivar/folivar.h"
 #include "tests/support/Content.h"
@@ -84,48 +85,48 @@ TEST(FileSink, TakesANameRelativeToTheWorkingFolder) {
   EXPECT_EQ(ReadBytes(path), "bytes");
 }
 
-TEST(FileSink, AFullDiskIs61) { ExpectFileError("/dev/full", 61, ENOSPC); }
+TEST(FileSink, AFullDiskIs61) { ExpectFileError("/dev/full", Error::kDiskFull, ENOSPC); }
 
 TEST(FileSink, AMissingFolderIs76) {
-  ExpectFileError((OutputPath("missing") / "file.pdf").string(), 76, ENOENT);
+  ExpectFileError((OutputPath("missing") / "file.pdf").string(), Error::kPathNotFound, ENOENT);
 }
 
 TEST(FileSink, AFileInThePlaceOfAFolderIs76) {
   const auto path = OutputPath("file");
   WriteBytes(path, "");
-  ExpectFileError((path / "file.pdf").string(), 76, ENOTDIR);
+  ExpectFileError((path / "file.pdf").string(), Error::kPathNotFound, ENOTDIR);
 }
 
 TEST(FileSink, AFolderInThePlaceOfTheFileIs75) {
   const auto path = OutputPath("folder");
   std::filesystem::create_directory(path);
-  ExpectFileError(path.string(), 75, EISDIR);
+  ExpectFileError(path.string(), Error::kPathFileAccess, EISDIR);
 }
 
 TEST(FileSink, AnEmptyNameIs52) {
   for (const auto& write : {WriteThroughSink, SaveDocument}) {
-    EXPECT_EQ(ErrorNumberOf([&] { write(""); }), 52);
+    EXPECT_EQ(ErrorNumberOf([&] { write(""); }), Error::kBadFileName);
     EXPECT_NE(ErrorTextOf([&] { write(""); }), "");
   }
 }
 
 TEST(FileSink, ANameTooLongIs52) {
-  ExpectFileError(OutputPath(std::string(4, 'a')).string() + std::string(300, 'a'), 52,
-                  ENAMETOOLONG);
+  ExpectFileError(OutputPath(std::string(4, 'a')).string() + std::string(300, 'a'),
+                  Error::kBadFileName, ENAMETOOLONG);
 }
 
 TEST(FileSink, ANulInTheNameIs52AndNothingIsWritten) {
   const auto path = OutputPath("name");
   const std::string name = path.string() + std::string("\0.pdf", 5);
   for (const auto& write : {WriteThroughSink, SaveDocument}) {
-    EXPECT_EQ(ErrorNumberOf([&] { write(name); }), 52);
+    EXPECT_EQ(ErrorNumberOf([&] { write(name); }), Error::kBadFileName);
   }
   EXPECT_FALSE(std::filesystem::exists(path)) << "the name ended at the NUL";
 }
 
 TEST(FileSink, ANameThatIsNotUtf8Is5) {
   for (const auto& write : {WriteThroughSink, SaveDocument}) {
-    EXPECT_EQ(ErrorNumberOf([&] { write("caf\xE9.pdf"); }), 5);
+    EXPECT_EQ(ErrorNumberOf([&] { write("caf\xE9.pdf"); }), Error::kInvalidArgument);
   }
 }
 
@@ -135,7 +136,7 @@ TEST(FileSink, AFolderWithoutWritePermissionIs70) {
   using std::filesystem::perms;
   std::filesystem::permissions(folder, perms::owner_read | perms::owner_exec);
   const WithoutPrivileges unprivileged;
-  ExpectFileError((folder / "file.pdf").string(), 70, EACCES);
+  ExpectFileError((folder / "file.pdf").string(), Error::kPermissionDenied, EACCES);
 }
 
 // A file in memory that is sealed against writing refuses root too: with EPERM, and not before
@@ -144,7 +145,7 @@ TEST(FileSink, AFileThatRefusesBytesIs70) {
   const int file = memfd_create("sealed", MFD_ALLOW_SEALING);
   ASSERT_NE(file, -1);
   ASSERT_EQ(fcntl(file, F_ADD_SEALS, F_SEAL_WRITE), 0);
-  ExpectFileError("/proc/self/fd/" + std::to_string(file), 70, EPERM);
+  ExpectFileError("/proc/self/fd/" + std::to_string(file), Error::kPermissionDenied, EPERM);
   close(file);
 }
 
@@ -153,9 +154,10 @@ TEST(FileSink, AFailureLeavesNoFileOpen) {
   std::filesystem::create_directory(folder);
   const std::size_t before = OpenFiles();
   for (const auto& write : {WriteThroughSink, SaveDocument}) {
-    EXPECT_EQ(ErrorNumberOf([&] { write("/dev/full"); }), 61);
-    EXPECT_EQ(ErrorNumberOf([&] { write(folder.string()); }), 75);
-    EXPECT_EQ(ErrorNumberOf([&] { write((folder / "missing" / "file").string()); }), 76);
+    EXPECT_EQ(ErrorNumberOf([&] { write("/dev/full"); }), Error::kDiskFull);
+    EXPECT_EQ(ErrorNumberOf([&] { write(folder.string()); }), Error::kPathFileAccess);
+    EXPECT_EQ(ErrorNumberOf([&] { write((folder / "missing" / "file").string()); }),
+              Error::kPathNotFound);
   }
   EXPECT_EQ(OpenFiles(), before);
 }
@@ -165,7 +167,7 @@ TEST(FileSink, ANumberThatCannotBeWrittenEndsTheSaveAndClosesTheFile) {
   document->Pages()->Add()->SetWidth(3e9F);
   const auto path = OutputPath("file.bin");
   const std::size_t before = OpenFiles();
-  EXPECT_EQ(ErrorNumberOf([&] { document->SavePDFFile(path.u8string()); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { document->SavePDFFile(path.u8string()); }), Error::kOverflow);
   EXPECT_EQ(OpenFiles(), before);
   document->Pages()->Item(1)->SetWidth(612);
   document->SavePDFFile(path.u8string());

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "folivar/base/Error.h"
 #include "folivar/file/FileSource.h"
 #include "tests/support/Content.h"
 #include "tests/support/TestFiles.h"
@@ -65,12 +66,12 @@ TEST(FileSource, TellsWhyAFileCannotBeRead) {
   const auto numberFor = [](const std::filesystem::path& name) {
     return ErrorNumberOf([&] { FileSource source(NameOf(name)); });
   };
-  EXPECT_EQ(numberFor(path.parent_path() / "missing"), 53);
-  EXPECT_EQ(numberFor(path / "below a file"), 76);
-  EXPECT_EQ(numberFor(path.parent_path()), 75);
-  EXPECT_EQ(numberFor(""), 52);
-  EXPECT_EQ(numberFor(std::string("a\0b", 3)), 52);
-  EXPECT_EQ(numberFor(path.parent_path() / std::string(300, 'x')), 52);
+  EXPECT_EQ(numberFor(path.parent_path() / "missing"), Error::kFileNotFound);
+  EXPECT_EQ(numberFor(path / "below a file"), Error::kPathNotFound);
+  EXPECT_EQ(numberFor(path.parent_path()), Error::kPathFileAccess);
+  EXPECT_EQ(numberFor(""), Error::kBadFileName);
+  EXPECT_EQ(numberFor(std::string("a\0b", 3)), Error::kBadFileName);
+  EXPECT_EQ(numberFor(path.parent_path() / std::string(300, 'x')), Error::kBadFileName);
   EXPECT_EQ(ErrorTextOf([&] { FileSource source(Text("no/such.file")); }),
             "Cannot read file 'no/such.file': No such file or directory");
 }

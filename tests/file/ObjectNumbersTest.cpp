@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <limits>
 
+#include "folivar/base/Error.h"
 #include "folivar/file/ObjectNumbers.h"
 #include "tests/support/Content.h"
 
@@ -28,8 +29,8 @@ TEST(ObjectNumbers, CountsFromAnyNumber) {
 TEST(ObjectNumbers, Raises6WhenTheNextNumberWouldNotFit) {
   ObjectNumbers numbers(kLargest - 1);
   EXPECT_EQ(numbers.Take(), kLargest - 1);
-  EXPECT_EQ(ErrorNumberOf([&] { numbers.Take(); }), 6);
-  EXPECT_EQ(ErrorNumberOf([&] { numbers.Take(); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { numbers.Take(); }), Error::kOverflow);
+  EXPECT_EQ(ErrorNumberOf([&] { numbers.Take(); }), Error::kOverflow);
   EXPECT_EQ(numbers.NextObjectNumber(), kLargest);
 }
 

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "folivar/base/Error.h"
 #include "folivar/file/SaveFile.h"
 #include "tests/support/Content.h"
 #include "tests/support/ManyBytes.h"
@@ -129,7 +130,7 @@ TEST(SaveFile, Raises6ForAnObjectLongerThan32BitsCanSay) {
   SaveFile file(sink);
   file.BeginObject(1);
   file.AppendBytes(many.View());
-  EXPECT_EQ(ErrorNumberOf([&] { file.EndObject(); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { file.EndObject(); }), Error::kOverflow);
 }
 
 TEST(SaveFile, TakesAnObjectOfTheLargestLength) {
@@ -158,7 +159,7 @@ TEST(SaveFile, KeepsOffsetsBeyond4GigabytesAndRaises6BeyondTenDigits) {
               file.AppendBytes(many.View());
               file.EndObject();
             }),
-            6);
+            Error::kOverflow);
 }
 
 TEST(SaveFile, WritesOffsetsBeyond4Gigabytes) {

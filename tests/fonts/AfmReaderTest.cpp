@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "folivar/base/Error.h"
 #include "folivar/fonts/AfmReader.h"
 #include "tests/support/AfmFile.h"
 #include "tests/support/Content.h"
@@ -102,17 +103,21 @@ TEST(AfmReader, TakesTheCodes0And255) {
 }
 
 TEST(AfmReader, Raises9ForACodeOutside0To255) {
-  EXPECT_EQ(ErrorNumberOf([] { ReadAfm(With("C 32 ", "C 256 ")); }), 9);
-  EXPECT_EQ(ErrorNumberOf([] { ReadAfm(With("C 32 ", "C -2 ")); }), 9);
-  EXPECT_EQ(ErrorNumberOf([] { ReadAfm(With("C 32 ", "C 99999999999 ")); }), 9);
+  EXPECT_EQ(ErrorNumberOf([] { ReadAfm(With("C 32 ", "C 256 ")); }), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(ErrorNumberOf([] { ReadAfm(With("C 32 ", "C -2 ")); }), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(ErrorNumberOf([] { ReadAfm(With("C 32 ", "C 99999999999 ")); }),
+            Error::kSubscriptOutOfRange);
 }
 
 TEST(AfmReader, Raises13ForANumberThatIsNone) {
-  EXPECT_EQ(ErrorNumberOf([] { ReadAfm(With("CapHeight 718", "CapHeight high")); }), 13);
-  EXPECT_EQ(ErrorNumberOf([] { ReadAfm(With("WX 278", "WX")); }), 13);
-  EXPECT_EQ(ErrorNumberOf([] { ReadAfm(With("B 14 -1 654 718", "B 14 -1 654")); }), 13);
-  EXPECT_EQ(ErrorNumberOf([] { ReadAfm(With(" -166 -225 1000 931 ", " -166")); }), 13);
-  EXPECT_EQ(ErrorNumberOf([] { ReadAfm(""); }), 13);
+  EXPECT_EQ(ErrorNumberOf([] { ReadAfm(With("CapHeight 718", "CapHeight high")); }),
+            Error::kTypeMismatch);
+  EXPECT_EQ(ErrorNumberOf([] { ReadAfm(With("WX 278", "WX")); }), Error::kTypeMismatch);
+  EXPECT_EQ(ErrorNumberOf([] { ReadAfm(With("B 14 -1 654 718", "B 14 -1 654")); }),
+            Error::kTypeMismatch);
+  EXPECT_EQ(ErrorNumberOf([] { ReadAfm(With(" -166 -225 1000 931 ", " -166")); }),
+            Error::kTypeMismatch);
+  EXPECT_EQ(ErrorNumberOf([] { ReadAfm(""); }), Error::kTypeMismatch);
 }
 
 TEST(AfmReader, AFileWithoutCharactersHasNone) {

@@ -9,6 +9,7 @@
 #include <tuple>
 #include <vector>
 
+#include "folivar/base/Error.h"
 #include "folivar/fonts/FontFileFace.h"
 #include "folivar/fonts/PDFFontInfo.h"
 #include "tests/support/Content.h"
@@ -152,14 +153,14 @@ TEST(FontFileFace, TheNearestStyleCountsItalicBeforeBold) {
 }
 
 TEST(FontFileFace, AFileThatIsNotThereRaises53) {
-  EXPECT_EQ(ErrorNumberOf([] { FacesIn("no/such.ttf"); }), 53);
+  EXPECT_EQ(ErrorNumberOf([] { FacesIn("no/such.ttf"); }), Error::kFileNotFound);
 }
 
 TEST(FontFileFace, ADamagedFileIsNamedWithItsTable) {
   FontBuilder font;
   font.tables.erase("hmtx");
   const path file = Written("damaged.ttf", font.Build());
-  EXPECT_EQ(ErrorNumberOf([&] { FacesIn(file); }), 321);
+  EXPECT_EQ(ErrorNumberOf([&] { FacesIn(file); }), Error::kInvalidFileFormat);
   EXPECT_EQ(ErrorTextOf([&] { FacesIn(file); }),
             "Font file '" + file.string() + "' is damaged: it has no table 'hmtx'");
 }
@@ -168,7 +169,7 @@ TEST(FontFileFace, AFileThatIsDamagedSinceItWasListedIsNamed) {
   const path file = Written("font.ttf", FontBuilder().Build());
   const FontFileFace face = FacesIn(file).at(0);
   WriteBytes(file, FontBuilder().Build().substr(0, 200));
-  EXPECT_EQ(ErrorNumberOf([&] { OpenFace(face, false); }), 321);
+  EXPECT_EQ(ErrorNumberOf([&] { OpenFace(face, false); }), Error::kInvalidFileFormat);
   EXPECT_NE(ErrorTextOf([&] { OpenFace(face, false); }).find(file.string()), std::string::npos);
 }
 
@@ -192,7 +193,7 @@ TEST(FontFileFace, ACollectionOfOneFontManyTimesIsRefusedAtOnce) {
     }
     const path written = Written("many.ttc", file + one.substr(16));
     const auto start = std::chrono::steady_clock::now();
-    EXPECT_EQ(ErrorNumberOf([&] { FacesIn(written); }), 321);
+    EXPECT_EQ(ErrorNumberOf([&] { FacesIn(written); }), Error::kInvalidFileFormat);
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
     EXPECT_EQ(ErrorTextOf([&] { FacesIn(written); }),
               "Font file '" + written.string() + "' is damaged: its fonts overlap");

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "folivar/base/Error.h"
 #include "folivar/base/Internal.h"
 #include "folivar/folivar.h"
 #include "folivar/fonts/PDFFontInfo.h"
@@ -158,7 +159,7 @@ TEST_F(PDFFontsOfADocument, WhatAWarningThrowsReachesTheCallerAndNothingIsAdded)
 }
 
 TEST_F(PDFFontsOfADocument, ANameThatIsNotUtf8Raises5AndAddsNothing) {
-  EXPECT_EQ(ErrorNumberOf([&] { fonts_->Add("Helvetica\xFF"); }), 5);
+  EXPECT_EQ(ErrorNumberOf([&] { fonts_->Add("Helvetica\xFF"); }), Error::kInvalidArgument);
   EXPECT_EQ(fonts_->count(fontType1), 1);
   EXPECT_TRUE(warnings_.empty());
 }
@@ -178,16 +179,16 @@ TEST_F(PDFFontsOfADocument, ItemRaisesTheErrorsOfCollections) {
   const auto errorOf = [&](const Value& index, PDFFontType type) {
     return ErrorNumberOf([&] { fonts_->Item(index, type); });
   };
-  EXPECT_EQ(errorOf("Courier", fontType1), 5);
-  EXPECT_EQ(errorOf("1", fontType1), 5);
-  EXPECT_EQ(errorOf(0, fontType1), 9);
-  EXPECT_EQ(errorOf(2, fontType1), 9);
-  EXPECT_EQ(errorOf(1, fontTrueType), 9);
-  EXPECT_EQ(errorOf("Helvetica", fontTrueType), 5);
-  EXPECT_EQ(errorOf(true, fontType1), 13);
-  EXPECT_EQ(errorOf(Value(), fontType1), 13);
-  EXPECT_EQ(errorOf(Value::Null(), fontType1), 94);
-  EXPECT_EQ(errorOf(3e9, fontType1), 6);
+  EXPECT_EQ(errorOf("Courier", fontType1), Error::kInvalidArgument);
+  EXPECT_EQ(errorOf("1", fontType1), Error::kInvalidArgument);
+  EXPECT_EQ(errorOf(0, fontType1), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(errorOf(2, fontType1), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(errorOf(1, fontTrueType), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(errorOf("Helvetica", fontTrueType), Error::kInvalidArgument);
+  EXPECT_EQ(errorOf(true, fontType1), Error::kTypeMismatch);
+  EXPECT_EQ(errorOf(Value(), fontType1), Error::kTypeMismatch);
+  EXPECT_EQ(errorOf(Value::Null(), fontType1), Error::kInvalidNull);
+  EXPECT_EQ(errorOf(3e9, fontType1), Error::kOverflow);
 }
 
 TEST_F(PDFFontsOfADocument, FontExistsTellsFacesInUseByNameAndType) {

@@ -4,6 +4,7 @@
 #include <thread>
 #include <vector>
 
+#include "folivar/base/Error.h"
 #include "folivar/fonts/StandardFaces.h"
 #include "tests/support/AfmFile.h"
 #include "tests/support/Content.h"
@@ -35,7 +36,7 @@ TEST(StandardFaces, OtherNamesAreNotFound) {
 }
 
 TEST(StandardFaces, ANameThatIsNotUtf8Raises5) {
-  EXPECT_EQ(ErrorNumberOf([] { FindStandardFace("\xFF"); }), 5);
+  EXPECT_EQ(ErrorNumberOf([] { FindStandardFace("\xFF"); }), Error::kInvalidArgument);
 }
 
 TEST(StandardFaces, AreBuiltInByteForByte) {

@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "folivar/base/Error.h"
 #include "folivar/fonts/TrueTypeFontTables.h"
 #include "tests/support/Content.h"
 #include "tests/support/FontBuilder.h"
@@ -43,7 +44,7 @@ class Font {
 std::string RefusalOf(
     const std::string& bytes, const std::function<void(const Font&)>& use = [](const Font&) {}) {
   const auto read = [&] { use(Font(bytes)); };
-  EXPECT_EQ(ErrorNumberOf(read), 321);
+  EXPECT_EQ(ErrorNumberOf(read), Error::kInvalidFileFormat);
   return ErrorTextOf(read);
 }
 
@@ -494,7 +495,7 @@ TEST(TrueTypeFontTables, FilesCutAnywhereAreRefusedOrSoundButNeverMore) {
         font->FamilyName();
         font->Program();
       } catch (const Error& error) {
-        EXPECT_EQ(error.Number(), 321);
+        EXPECT_EQ(error.Number(), Error::kInvalidFileFormat);
         EXPECT_EQ(std::string(error.what()).find(Damaged("")), 0U) << error.what();
         ++refused;
       }
@@ -666,7 +667,7 @@ TEST(TrueTypeFontTables, TablesThatAreAllTheWholeFileAreRefusedBeforeTheyAreRead
     const auto read = [&] { TrueTypeFontTables(source, "some.ttf", 0).Program(); };
     EXPECT_EQ(ErrorTextOf(read), Damaged("its tables overlap"));
     EXPECT_LT(source.asked, file.size() + 1000) << "the list of tables, once";
-    EXPECT_EQ(ErrorNumberOf(read), 321);
+    EXPECT_EQ(ErrorNumberOf(read), Error::kInvalidFileFormat);
   }
 }
 
@@ -679,7 +680,8 @@ TEST(TrueTypeFontTables, NumbersBeyondTheFileAreRefusedBeforeMemoryIsAskedFor) {
   SetU32(collection, 8, 0xFFFFFFFF);
   for (const std::string& file : {tables, table, collection}) {
     CountingSource source(file);
-    EXPECT_EQ(ErrorNumberOf([&] { TrueTypeFontTables(source, "some.ttf", 0); }), 321);
+    EXPECT_EQ(ErrorNumberOf([&] { TrueTypeFontTables(source, "some.ttf", 0); }),
+              Error::kInvalidFileFormat);
     EXPECT_LE(source.asked, file.size());
   }
 }

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "folivar/base/Error.h"
 #include "folivar/images/BMPInfo.h"
 #include "folivar/images/ImageFile.h"
 #include "tests/support/BmpFile.h"
@@ -352,7 +353,7 @@ TEST(BMPInfo, ShorterFileRaises62AndALongerOneIsCut) {
   MemorySink sink;
   EXPECT_EQ(StreamOf(reader, bytes + "...more", sink), "321654987rgbRGBzyx");
   const std::string shorter = bytes.substr(0, bytes.size() - 1);
-  EXPECT_EQ(ErrorNumberOf([&] { StreamOf(reader, shorter, sink); }), 62);
+  EXPECT_EQ(ErrorNumberOf([&] { StreamOf(reader, shorter, sink); }), Error::kInputPastEnd);
   EXPECT_EQ(ErrorTextOf([&] { StreamOf(reader, shorter, sink); }),
             "Input past end of file 'a.bmp', which has become shorter than " +
                 std::to_string(bytes.size()) + " bytes");

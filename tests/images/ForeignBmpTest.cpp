@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "folivar/base/Error.h"
 #include "folivar/folivar.h"
 #include "tests/support/BmpFile.h"
 #include "tests/support/Content.h"
@@ -256,7 +257,7 @@ TEST_F(ForeignBmp, OtherKindsAreRefused) {
     const auto path = OutputPath("other.bmp");
     WriteBytes(path, MadeBy(command, picture));
     ASSERT_GT(std::filesystem::file_size(path), 60U);
-    EXPECT_EQ(ErrorNumberOf([&] { image->SetFileName(path.u8string()); }), -2147220504)
+    EXPECT_EQ(ErrorNumberOf([&] { image->SetFileName(path.u8string()); }), Error::kUnknownImageType)
         << testing::PrintToString(command);
     EXPECT_TRUE(ErrorTextOf([&] {
                   image->SetFileName(path.u8string());

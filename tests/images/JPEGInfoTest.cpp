@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "folivar/base/Error.h"
 #include "folivar/images/ImageFile.h"
 #include "folivar/images/JPEGInfo.h"
 #include "tests/support/Content.h"
@@ -150,8 +151,8 @@ TEST(JPEGInfo, OtherBytesArePassedOverInPairs) {
 TEST(JPEGInfo, Raises6For32768PixelsAndMore) {
   EXPECT_EQ(SizeOf(kStart + Frame(0xC0, 32767, 32767)), "32767x32767");
   for (const std::size_t size : {32768U, 65535U}) {
-    EXPECT_EQ(ErrorNumberOf([&] { IsJpeg(kStart + Frame(0xC0, size, 1)); }), 6);
-    EXPECT_EQ(ErrorNumberOf([&] { IsJpeg(kStart + Frame(0xC0, 1, size)); }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { IsJpeg(kStart + Frame(0xC0, size, 1)); }), Error::kOverflow);
+    EXPECT_EQ(ErrorNumberOf([&] { IsJpeg(kStart + Frame(0xC0, 1, size)); }), Error::kOverflow);
   }
   EXPECT_EQ(ErrorTextOf([] { IsJpeg(kStart + Frame(0xC0, 40000, 1)); }),
             "A width of 40000 pixels does not fit into 16 bits, in file 'a.jpg'");
@@ -183,7 +184,7 @@ TEST(JPEGInfo, Raises6ForAFileLongerThan32BitsCanSay) {
 
   LongSource tooLong(std::uint64_t{1} << 31);
   ImageFile tooLongFile(tooLong, "a.jpg");
-  EXPECT_EQ(ErrorNumberOf([&] { reader.LoadImageInfo(tooLongFile); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { reader.LoadImageInfo(tooLongFile); }), Error::kOverflow);
   EXPECT_EQ(ErrorTextOf([&] { reader.LoadImageInfo(tooLongFile); }),
             "More than 2147483647 bytes are in file 'a.jpg'");
 }
@@ -210,7 +211,7 @@ TEST(JPEGInfo, ShorterFileRaises62AndALongerOneIsCut) {
   MemorySink sink;
   EXPECT_EQ(StreamOf(reader, bytes + "more", sink), bytes);
   const std::string shorter = bytes.substr(0, bytes.size() - 1);
-  EXPECT_EQ(ErrorNumberOf([&] { StreamOf(reader, shorter, sink); }), 62);
+  EXPECT_EQ(ErrorNumberOf([&] { StreamOf(reader, shorter, sink); }), Error::kInputPastEnd);
   EXPECT_EQ(ErrorTextOf([&] { StreamOf(reader, shorter, sink); }),
             "Input past end of file 'a.jpg', which has become shorter than " +
                 std::to_string(bytes.size()) + " bytes");

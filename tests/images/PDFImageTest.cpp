@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "folivar/base/Error.h"
 #include "folivar/folivar.h"
 #include "folivar/images/PDFImage.h"
 #include "tests/support/BmpFile.h"
@@ -142,7 +143,7 @@ TEST_F(PDFImageInADocument, ExtensionCountsInAnyCase) {
 TEST_F(PDFImageInADocument, OtherExtensionsAreUnknownTypes) {
   for (const char* name : {"a.png", "a.gif", "a.GIF", "a.tif", "a.tiff", "jpg", "bmp", "a.",
                            "a.jpg ", "a.jpgx", "a.jp", "a.bmp.txt"}) {
-    EXPECT_EQ(FileNameError(name, Jpeg()), -2147220504) << name;
+    EXPECT_EQ(FileNameError(name, Jpeg()), Error::kUnknownImageType) << name;
   }
   // Only the name counts, so the file need not be there.
   EXPECT_EQ(FileNameErrorText("no/such.folder/picture"),
@@ -154,19 +155,19 @@ TEST_F(PDFImageInADocument, OtherExtensionsAreUnknownTypes) {
 
 TEST_F(PDFImageInADocument, AnExtensionBeyond16BitsRaises6) {
   const std::string name = std::string(32767, 'a') + ".jpg";
-  EXPECT_EQ(ErrorNumberOf([&] { image_->SetFileName(name); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { image_->SetFileName(name); }), Error::kOverflow);
   EXPECT_EQ(FileNameErrorText(name).find("PDFImage.FileName: "), 0U);
   EXPECT_EQ(image_->FileName(), "");
 }
 
 TEST_F(PDFImageInADocument, JpegWithoutAFrameHeaderIsAnUnknownType) {
-  EXPECT_EQ(FileNameError("a.jpg", Bmp()), -2147220504);
+  EXPECT_EQ(FileNameError("a.jpg", Bmp()), Error::kUnknownImageType);
   const std::string name = (OutputFolder() / "a.jpg").string();
   EXPECT_EQ(FileNameErrorText(name), "Error: Image type unknown for " + name + ".");
 }
 
 TEST_F(PDFImageInADocument, BmpOfAnotherFormatIsNamedWithItsFile) {
-  EXPECT_EQ(FileNameError("a.bmp", Jpeg()), -2147220504);
+  EXPECT_EQ(FileNameError("a.bmp", Jpeg()), Error::kUnknownImageType);
   const std::string name = (OutputFolder() / "a.bmp").string();
   const std::string text = FileNameErrorText(name);
   EXPECT_TRUE(text.starts_with("Unknown BMP format: ")) << text;
@@ -175,25 +176,25 @@ TEST_F(PDFImageInADocument, BmpOfAnotherFormatIsNamedWithItsFile) {
 
 TEST_F(PDFImageInADocument, FileThatCannotBeReadIsNamed) {
   EXPECT_EQ(FileNameErrorText("no/such/file.jpg"), "Image file 'no/such/file.jpg' does not exist");
-  EXPECT_EQ(FileNameError("no/such/file.jpg"), 53);
-  EXPECT_EQ(FileNameError(OutputFolder() / "missing.bmp"), 53);
+  EXPECT_EQ(FileNameError("no/such/file.jpg"), Error::kFileNotFound);
+  EXPECT_EQ(FileNameError(OutputFolder() / "missing.bmp"), Error::kFileNotFound);
   EXPECT_EQ(FileNameError("file.jpg", Jpeg()), 0);
-  EXPECT_EQ(FileNameError(OutputFolder() / "file.jpg" / "below.jpg"), 53);
+  EXPECT_EQ(FileNameError(OutputFolder() / "file.jpg" / "below.jpg"), Error::kFileNotFound);
   // A folder exists.
   std::filesystem::create_directory(OutputPath("folder.bmp"));
-  EXPECT_EQ(FileNameError(OutputFolder() / "folder.bmp"), 75);
-  EXPECT_EQ(ErrorNumberOf([&] { image_->SetFileName("\xFF.jpg"); }), 5);
+  EXPECT_EQ(FileNameError(OutputFolder() / "folder.bmp"), Error::kPathFileAccess);
+  EXPECT_EQ(ErrorNumberOf([&] { image_->SetFileName("\xFF.jpg"); }), Error::kInvalidArgument);
 }
 
 TEST_F(PDFImageInADocument, RefusedFileLeavesTheImageAsItWas) {
   ASSERT_EQ(FileNameError("kept.bmp", Bmp()), 0);
   const Text kept = image_->FileName();
   const std::string before = SaveWithPage("before.pdf").bytes;
-  EXPECT_EQ(FileNameError("other.png", Jpeg()), -2147220504);
-  EXPECT_EQ(FileNameError("other.jpg", "no picture"), -2147220504);
-  EXPECT_EQ(FileNameError("other.bmp", BmpFile{.height = -1}.Bytes()), -2147220504);
-  EXPECT_EQ(FileNameError("wide.jpg", "\xFF\xC0\x1\x1\x8\x1\x1\xFF\xFF"), 6);
-  EXPECT_EQ(FileNameError(OutputFolder() / "missing.jpg"), 53);
+  EXPECT_EQ(FileNameError("other.png", Jpeg()), Error::kUnknownImageType);
+  EXPECT_EQ(FileNameError("other.jpg", "no picture"), Error::kUnknownImageType);
+  EXPECT_EQ(FileNameError("other.bmp", BmpFile{.height = -1}.Bytes()), Error::kUnknownImageType);
+  EXPECT_EQ(FileNameError("wide.jpg", "\xFF\xC0\x1\x1\x8\x1\x1\xFF\xFF"), Error::kOverflow);
+  EXPECT_EQ(FileNameError(OutputFolder() / "missing.jpg"), Error::kFileNotFound);
   EXPECT_EQ(image_->FileName(), kept);
   EXPECT_EQ(image_->Width(), 3);
   EXPECT_EQ(image_->Height(), 2);
@@ -209,7 +210,8 @@ TEST_F(PDFImageInADocument, AnotherFileTakesThePlaceOfTheFirst) {
 }
 
 TEST_F(PDFImageInADocument, WithoutAFileTheSaveRaises91AndNamesTheImage) {
-  EXPECT_EQ(ErrorNumberOf([&] { document_->SavePDFFile(OutputPath("broken").u8string()); }), 91);
+  EXPECT_EQ(ErrorNumberOf([&] { document_->SavePDFFile(OutputPath("broken").u8string()); }),
+            Error::kObjectNotSet);
   EXPECT_EQ(ErrorTextOf([&] { document_->SavePDFFile(OutputPath("broken").u8string()); }),
             "The image 'logo' was never given a file");
   ASSERT_EQ(FileNameError("a.bmp", Bmp()), 0);
@@ -222,7 +224,7 @@ TEST_F(PDFImageInADocument, FileThatHasGoneRaises53AtTheSave) {
   ASSERT_EQ(FileNameError("a.bmp", Bmp()), 0);
   std::filesystem::remove(OutputFolder() / "a.bmp");
   const auto save = [&] { document_->SavePDFFile(OutputPath("broken").u8string()); };
-  EXPECT_EQ(ErrorNumberOf(save), 53);
+  EXPECT_EQ(ErrorNumberOf(save), Error::kFileNotFound);
   EXPECT_EQ(ErrorTextOf(save),
             "Image file '" + (OutputFolder() / "a.bmp").string() + "' does not exist");
   // It comes back, and all is well.
@@ -239,7 +241,7 @@ TEST_F(PDFImageInADocument, FileThatBecameShorterRaises62AtTheSave) {
       WriteBytes(OutputFolder() / name, bytes.substr(0, size));
       const auto path = OutputPath("broken");
       const auto save = [&] { document_->SavePDFFile(path.u8string()); };
-      EXPECT_EQ(ErrorNumberOf(save), 62) << name << " of " << size << " bytes";
+      EXPECT_EQ(ErrorNumberOf(save), Error::kInputPastEnd) << name << " of " << size << " bytes";
       EXPECT_NE(ErrorTextOf(save).find("'" + (OutputFolder() / name).string() + "'"),
                 std::string::npos);
       EXPECT_EQ(ReadBytes(path).find("endstream"), std::string::npos);

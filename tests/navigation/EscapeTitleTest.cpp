@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "folivar/base/Error.h"
 #include "folivar/navigation/EscapeTitle.h"
 #include "tests/support/Content.h"
 
@@ -40,7 +41,7 @@ TEST(EscapeTitle, KeepsTextFromLookingLikeAByteOrderMark) {
 }
 
 TEST(EscapeTitle, TextThatIsNotUtf8Raises5) {
-  EXPECT_EQ(ErrorNumberOf([] { EscapeTitle("\xFF"); }), 5);
+  EXPECT_EQ(ErrorNumberOf([] { EscapeTitle("\xFF"); }), Error::kInvalidArgument);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "folivar/base/Error.h"
 #include "folivar/folivar.h"
 #include "folivar/navigation/PDFBookmarks.h"
 #include "tests/support/Content.h"
@@ -51,10 +52,10 @@ TEST_F(PDFBookmarksTest, KeysAreThoseOfOneLevel) {
 
 TEST_F(PDFBookmarksTest, PlacesThatNameNoBookmarkRaise) {
   bookmarks_->Add("a");
-  EXPECT_EQ(ErrorNumberOf([&] { bookmarks_->Add("b", 1, 1); }), 5);
-  EXPECT_EQ(ErrorNumberOf([&] { bookmarks_->Add("b", 2); }), 9);
-  EXPECT_EQ(ErrorNumberOf([&] { bookmarks_->Item("x"); }), 5);
-  EXPECT_EQ(ErrorNumberOf([&] { bookmarks_->Remove(2); }), 9);
+  EXPECT_EQ(ErrorNumberOf([&] { bookmarks_->Add("b", 1, 1); }), Error::kInvalidArgument);
+  EXPECT_EQ(ErrorNumberOf([&] { bookmarks_->Add("b", 2); }), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(ErrorNumberOf([&] { bookmarks_->Item("x"); }), Error::kInvalidArgument);
+  EXPECT_EQ(ErrorNumberOf([&] { bookmarks_->Remove(2); }), Error::kSubscriptOutOfRange);
   EXPECT_EQ(bookmarks_->count(), 1);
 }
 

@@ -3,6 +3,7 @@
 #include <array>
 #include <limits>
 
+#include "folivar/base/Error.h"
 #include "folivar/navigation/Region.h"
 #include "tests/support/Content.h"
 
@@ -85,14 +86,15 @@ TEST(Region, SumsBeyondASingleRaise6AndChangeNothing) {
   const Edges before = EdgesOf(region);
   EXPECT_EQ(ErrorTextOf([&] { region.SetWidth(kLargest); }),
             "Width: a sum of coordinates is beyond a single");
-  EXPECT_EQ(ErrorNumberOf([&] { region.SetRegion(0, kLargest, 1, kLargest); }), 6);
-  EXPECT_EQ(ErrorNumberOf([&] { region.SetHeight(kLargest); }), 6);
-  EXPECT_EQ(ErrorNumberOf([&] { region.SetWidth(std::numeric_limits<float>::quiet_NaN()); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { region.SetRegion(0, kLargest, 1, kLargest); }), Error::kOverflow);
+  EXPECT_EQ(ErrorNumberOf([&] { region.SetHeight(kLargest); }), Error::kOverflow);
+  EXPECT_EQ(ErrorNumberOf([&] { region.SetWidth(std::numeric_limits<float>::quiet_NaN()); }),
+            Error::kOverflow);
   EXPECT_EQ(EdgesOf(region), before);
   region.SetLeft(-kLargest);
   region.SetTop(kLargest);
-  EXPECT_EQ(ErrorNumberOf([&] { region.Width(); }), 6);
-  EXPECT_EQ(ErrorNumberOf([&] { region.Height(); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { region.Width(); }), Error::kOverflow);
+  EXPECT_EQ(ErrorNumberOf([&] { region.Height(); }), Error::kOverflow);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <limits>
 #include <string>
 
+#include "folivar/base/Error.h"
 #include "folivar/folivar.h"
 #include "folivar/page/PDFGraphicsState.h"
 #include "tests/support/Content.h"
@@ -117,13 +118,15 @@ TEST(PDFGraphicsState, LineWidthAndDashAreWrittenAndRead) {
 
 TEST(PDFGraphicsState, WhatCannotBeWrittenIsNotStored) {
   EXPECT_EQ(After([](PDFGraphicsState& state) {
-              EXPECT_EQ(ErrorNumberOf([&] { state.SetLineWidth(kInfinity); }), 6);
+              EXPECT_EQ(ErrorNumberOf([&] { state.SetLineWidth(kInfinity); }), Error::kOverflow);
               EXPECT_EQ(state.LineWidth(), 1);
-              EXPECT_EQ(ErrorNumberOf([&] { state.SetLineDashPattern(5, kNotANumber); }), 6);
+              EXPECT_EQ(ErrorNumberOf([&] { state.SetLineDashPattern(5, kNotANumber); }),
+                        Error::kOverflow);
               EXPECT_EQ(state.LineDashOn(), 1);
-              EXPECT_EQ(ErrorNumberOf([&] { state.Translate(0, 2147483648.0F); }), 6);
-              EXPECT_EQ(ErrorNumberOf([&] { state.Rotate(kInfinity); }), 6);
-              EXPECT_EQ(ErrorNumberOf([&] { state.Skew(0, kNotANumber); }), 6);
+              EXPECT_EQ(ErrorNumberOf([&] { state.Translate(0, 2147483648.0F); }),
+                        Error::kOverflow);
+              EXPECT_EQ(ErrorNumberOf([&] { state.Rotate(kInfinity); }), Error::kOverflow);
+              EXPECT_EQ(ErrorNumberOf([&] { state.Skew(0, kNotANumber); }), Error::kOverflow);
               EXPECT_EQ(ErrorTextOf([&] { state.SetLineWidth(kInfinity); }),
                         "PDFGraphicsState.LineWidth: a value of inf cannot be written: PDF numbers "
                         "are below 2^31");
@@ -161,10 +164,10 @@ TEST(PDFGraphicsState, PopWithoutPushRaisesAndAppendsNothing) {
   EXPECT_EQ(After([](PDFGraphicsState& state) {
               EXPECT_EQ(ErrorTextOf([&] { state.Pop(); }),
                         "PDFGraphicsState.Pop: the stack is empty");
-              EXPECT_EQ(ErrorNumberOf([&] { state.Pop(); }), 9);
+              EXPECT_EQ(ErrorNumberOf([&] { state.Pop(); }), Error::kSubscriptOutOfRange);
               state.Push();
               state.Pop();
-              EXPECT_EQ(ErrorNumberOf([&] { state.Pop(); }), 9);
+              EXPECT_EQ(ErrorNumberOf([&] { state.Pop(); }), Error::kSubscriptOutOfRange);
             }),
             "q\nQ\n");
 }

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "folivar/base/Error.h"
 #include "folivar/folivar.h"
 #include "folivar/page/PDFPage.h"
 #include "tests/support/BmpFile.h"
@@ -86,7 +87,7 @@ TEST(PDFPage, NoFontRaisesAndKeepsTheOldOne) {
   const auto document = PDFDocument::Create();
   const auto page = document->Pages()->Add();
   const auto font = page->Font();
-  EXPECT_EQ(ErrorNumberOf([&] { page->SetFont(nullptr); }), 91);
+  EXPECT_EQ(ErrorNumberOf([&] { page->SetFont(nullptr); }), Error::kObjectNotSet);
   EXPECT_EQ(page->Font(), font);
 }
 
@@ -116,7 +117,7 @@ TEST(PDFPage, SizeThatCannotBeWrittenFailsTheSaveAndNamesThePage) {
   const auto document = PDFDocument::Create();
   const auto page = document->Pages()->Add("cover");
   page->SetWidth(std::numeric_limits<float>::infinity());
-  EXPECT_EQ(ErrorNumberOf([&] { Save(*document, "broken"); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { Save(*document, "broken"); }), Error::kOverflow);
   EXPECT_EQ(ErrorTextOf([&] { Save(*document, "broken"); }),
             "The extents or the clip box of the PDFPage 'cover': a value of inf cannot be written: "
             "PDF numbers are below 2^31");
@@ -168,7 +169,7 @@ TEST(PDFPage, ThumbnailOfAnotherDocumentIsRefused) {
   const auto image = document->Images()->Add();
   page->SetThumbnail(image);
   const auto other = PDFDocument::Create()->Images()->Add();
-  EXPECT_EQ(ErrorNumberOf([&] { page->SetThumbnail(other); }), 5);
+  EXPECT_EQ(ErrorNumberOf([&] { page->SetThumbnail(other); }), Error::kInvalidArgument);
   EXPECT_EQ(ErrorTextOf([&] { page->SetThumbnail(other); }),
             "PDFPage.Thumbnail: the image /I1 belongs to another document");
   EXPECT_EQ(page->Thumbnail(), image);

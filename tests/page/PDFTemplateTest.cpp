@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "folivar/base/Error.h"
 #include "folivar/folivar.h"
 #include "folivar/page/PDFTemplate.h"
 #include "tests/support/BmpFile.h"
@@ -189,10 +190,10 @@ TEST(PDFTemplate, SizeBeyondASingleRaises6AndChangesNothing) {
   const auto document = PDFDocument::Create();
   const auto drawn = document->Templates()->Add();
   drawn->SetClipBox(-kLargest, -kLargest, kLargest, kLargest);
-  EXPECT_EQ(ErrorNumberOf([&] { drawn->Width(); }), 6);
-  EXPECT_EQ(ErrorNumberOf([&] { drawn->Height(); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->Width(); }), Error::kOverflow);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->Height(); }), Error::kOverflow);
   drawn->SetClipBox(kLargest, kLargest, 1, 2);
-  EXPECT_EQ(ErrorNumberOf([&] { drawn->SetWidth(kLargest); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->SetWidth(kLargest); }), Error::kOverflow);
   EXPECT_EQ(ErrorTextOf([&] { drawn->SetHeight(kLargest); }),
             "PDFTemplate.Height: a sum of coordinates is beyond a single");
   EXPECT_EQ(drawn->Right(), 1);
@@ -262,7 +263,7 @@ TEST(PDFTemplate, ImageIsDrawnAsOnAPage) {
   drawn->DrawImage(image, 72, 600, 200, 100);
   EXPECT_EQ(ErrorTextOf([&] { drawn->DrawImage(nullptr, -500, 0); }),
             "PDFTemplate.DrawImage: no image is given");
-  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawImage(image, -500, 0, 3e9, 3e9); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawImage(image, -500, 0, 3e9, 3e9); }), Error::kOverflow);
   const SavedDocument saved = Save(*document, "image.pdf", Check::kForm);
   EXPECT_EQ(saved.pdf.Stream(4), "q\nq\n200 0 0 50 72 600  cm\n/I1 Do\nQ\nQ\n");
   EXPECT_NE(saved.pdf.Object(4).find("/BBox [ 0  0  272  650 ]\n"), std::string_view::npos);
@@ -376,17 +377,17 @@ TEST(PDFTemplate, FailedDrawingAppendsNothingAndGrowsNothing) {
   const auto document = PDFDocument::Create();
   const auto drawn = document->Templates()->Add();
   drawn->SetCurPos(7, 8);
-  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawLine(50, 50, kInfinity, 0); }), 6);
-  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawLineTo(kNotANumber, 0); }), 6);
-  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawRect(kLargest, 0, kLargest, 0); }), 6);
-  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawRect(0, 0, 3e9F, 0); }), 6);
-  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawText("A", 3e9F, 0); }), 6);
-  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawTextAligned("A", 3e9F, 0, 1, 1); }), 6);
-  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawText("\xFF", 50, 50); }), 5);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawLine(50, 50, kInfinity, 0); }), Error::kOverflow);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawLineTo(kNotANumber, 0); }), Error::kOverflow);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawRect(kLargest, 0, kLargest, 0); }), Error::kOverflow);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawRect(0, 0, 3e9F, 0); }), Error::kOverflow);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawText("A", 3e9F, 0); }), Error::kOverflow);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawTextAligned("A", 3e9F, 0, 1, 1); }), Error::kOverflow);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawText("\xFF", 50, 50); }), Error::kInvalidArgument);
   Decorated(*drawn)->SetUnderline(true);
   // The text itself can be written here, the end of its underline not.
   EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawText("AAAAAAAAAAAAAAAAAAAAAAA", 2147483520.0F, -500); }),
-            6);
+            Error::kOverflow);
   ExpectEdges(*drawn, {0, 0, 0, 0});
   float x = 0;
   float y = 0;
@@ -415,7 +416,7 @@ TEST(PDFTemplate, BoxThatCannotBeWrittenFailsTheSaveAndNamesTheTemplate) {
   const auto document = PDFDocument::Create();
   const auto drawn = document->Templates()->Add("logo");
   drawn->SetTop(kNotANumber);
-  EXPECT_EQ(ErrorNumberOf([&] { Save(*document, "broken"); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { Save(*document, "broken"); }), Error::kOverflow);
   EXPECT_EQ(ErrorTextOf([&] { Save(*document, "broken"); }),
             "The clip box of the PDFTemplate 'logo': a value of nan cannot be written: PDF numbers "
             "are below 2^31");
@@ -490,7 +491,7 @@ TEST(PDFTemplate, GraphicsStateIsNestedInItsOwnContent) {
               EXPECT_EQ(state->LineWidth(), 0);
               EXPECT_FALSE(state->Pop());
               EXPECT_EQ(state->LineWidth(), 3);
-              EXPECT_EQ(ErrorNumberOf([&] { state->Pop(); }), 9);
+              EXPECT_EQ(ErrorNumberOf([&] { state->Pop(); }), Error::kSubscriptOutOfRange);
             }),
             "q\n3  w\nq\n1 0 0 rg\n1 0 0 1 10 20  cm\nq\n2  w\nQ\nQ\nQ\n");
 }
@@ -706,7 +707,7 @@ TEST(PDFTemplate, AClipBoxThatCannotBeExpandedStaysAsItIs) {
   const auto drawn = document->Templates()->Add();
   drawn->TextBoxes()->Add()->Move(-10, 30, 20, 40);
   drawn->TextBoxes()->Add()->Move(kLargest, 0, kLargest, 1);
-  EXPECT_EQ(ErrorNumberOf([&] { drawn->ExpandClipBoxToFitTextBoxes(); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { drawn->ExpandClipBoxToFitTextBoxes(); }), Error::kOverflow);
   ExpectEdges(*drawn, {0, 0, 0, 0});
 }
 

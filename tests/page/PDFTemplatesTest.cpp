@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "folivar/base/Error.h"
 #include "folivar/folivar.h"
 #include "folivar/page/PDFTemplates.h"
 #include "tests/support/Content.h"
@@ -47,10 +48,10 @@ TEST_F(PDFTemplatesOfThree, AddTakesPlacesByPositionAndByKey) {
 }
 
 TEST_F(PDFTemplatesOfThree, AddChecksBothPlacesThenTheKeyThenThePlace) {
-  EXPECT_EQ(AddError("A", 99, 1), 5);
-  EXPECT_EQ(AddError("A", 99, {}), 457);
-  EXPECT_EQ(AddError("new", 99, {}), 9);
-  EXPECT_EQ(AddError("new", {}, "x"), 5);
+  EXPECT_EQ(AddError("A", 99, 1), Error::kInvalidArgument);
+  EXPECT_EQ(AddError("A", 99, {}), Error::kKeyInUse);
+  EXPECT_EQ(AddError("new", 99, {}), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(AddError("new", {}, "x"), Error::kInvalidArgument);
   EXPECT_EQ(KeysOf(*templates_), "abc");
   EXPECT_EQ(ErrorTextOf([&] { templates_->Add("A"); }),
             "Key 'A' is already in use in PDFTemplates");
@@ -62,8 +63,8 @@ TEST_F(PDFTemplatesOfThree, ItemTakesAPositionOrAKeyInAnyCase) {
   EXPECT_TRUE(templates_->KeyExists("C"));
   EXPECT_TRUE(templates_->KeyExists(3));
   EXPECT_FALSE(templates_->KeyExists(4));
-  EXPECT_EQ(ErrorNumberOf([&] { templates_->Item("2"); }), 5);
-  EXPECT_EQ(ErrorNumberOf([&] { templates_->Item(4); }), 9);
+  EXPECT_EQ(ErrorNumberOf([&] { templates_->Item("2"); }), Error::kInvalidArgument);
+  EXPECT_EQ(ErrorNumberOf([&] { templates_->Item(4); }), Error::kSubscriptOutOfRange);
 }
 
 // What the page lists for each template placed: "/T1 6 0 R" for the one that is object 6.
@@ -76,7 +77,7 @@ std::string Listed(std::string_view pageObject) {
 TEST_F(PDFTemplatesOfThree, NamesFollowTheAddingAndNumbersTheOrder) {
   const auto page = document_->Pages()->Add();
   const auto first = templates_->Add("first", 1);
-  EXPECT_EQ(AddError("a", {}, {}), 457);
+  EXPECT_EQ(AddError("a", {}, {}), Error::kKeyInUse);
   const auto last = templates_->Add();
   page->DrawTemplate(templates_->Item("a"));
   page->DrawTemplate(first);

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "folivar/base/Error.h"
 #include "folivar/page/Stack.h"
 #include "tests/support/Content.h"
 
@@ -24,11 +25,11 @@ TEST(Stack, GivesTheLastOneFirst) {
 
 TEST(Stack, Raises9WhenNothingIsThere) {
   Stack<int> stack;
-  EXPECT_EQ(ErrorNumberOf([&] { stack.Pop(); }), 9);
-  EXPECT_EQ(ErrorNumberOf([&] { stack.Peek(); }), 9);
+  EXPECT_EQ(ErrorNumberOf([&] { stack.Pop(); }), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(ErrorNumberOf([&] { stack.Peek(); }), Error::kSubscriptOutOfRange);
   stack.Push(1);
   stack.Pop();
-  EXPECT_EQ(ErrorNumberOf([&] { stack.Pop(); }), 9);
+  EXPECT_EQ(ErrorNumberOf([&] { stack.Pop(); }), Error::kSubscriptOutOfRange);
   EXPECT_EQ(stack.Count(), 0);
 }
 

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <limits>
 
+#include "folivar/base/Error.h"
+
 namespace folivar::test {
 namespace {
 
@@ -66,13 +68,14 @@ int KeyedModel::Find(const Argument& index, std::size_t& place) const {
     for (place = 0; place < entries_.size(); ++place) {
       if (!key.empty() && entries_[place].key == key) return 0;
     }
-    return 5;
+    return Error::kInvalidArgument;
   }
-  if (index.kind == Kind::kNull) return 94;
-  if (index.kind != Kind::kWhole && index.kind != Kind::kReal) return 13;
+  if (index.kind == Kind::kNull) return Error::kInvalidNull;
+  if (index.kind != Kind::kWhole && index.kind != Kind::kReal) return Error::kTypeMismatch;
   const double number = std::nearbyint(index.number);  // halves to even
-  if (!(number >= -2147483648.0 && number <= 2147483647.0)) return 6;
-  if (number < 1 || number > static_cast<double>(entries_.size())) return 9;
+  if (!(number >= -2147483648.0 && number <= 2147483647.0)) return Error::kOverflow;
+  if (number < 1 || number > static_cast<double>(entries_.size()))
+    return Error::kSubscriptOutOfRange;
   place = static_cast<std::size_t>(number) - 1;
   return 0;
 }
@@ -81,9 +84,9 @@ int KeyedModel::Add(int item, const std::string& key, const Argument& before,
                     const Argument& after) {
   const bool hasBefore = before.kind != Kind::kMissing;
   const bool hasAfter = after.kind != Kind::kMissing;
-  if (hasBefore && hasAfter) return 5;
+  if (hasBefore && hasAfter) return Error::kInvalidArgument;
   std::size_t place = 0;
-  if (Find({Kind::kText, 0, key}, place) == 0) return 457;
+  if (Find({Kind::kText, 0, key}, place) == 0) return Error::kKeyInUse;
   place = entries_.size();
   if (hasBefore) {
     if (const int error = Find(before, place)) return error;

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "folivar/base/Error.h"
 #include "folivar/folivar.h"
 #include "tests/support/Content.h"
 
@@ -40,7 +41,7 @@ TEST_F(PDFTextBoxesTest, AddPutsABoxAtAPlace) {
 
 TEST_F(PDFTextBoxesTest, AKeyInUseRaises457AndTheFirstKeepsIt) {
   const auto first = boxes_->Add("key");
-  EXPECT_EQ(ErrorNumberOf([&] { boxes_->Add("KEY"); }), 457);
+  EXPECT_EQ(ErrorNumberOf([&] { boxes_->Add("KEY"); }), Error::kKeyInUse);
   EXPECT_EQ(boxes_->count(), 1);
   EXPECT_EQ(boxes_->Item("key"), first);
   EXPECT_EQ(first->Key(), "key");
@@ -48,11 +49,11 @@ TEST_F(PDFTextBoxesTest, AKeyInUseRaises457AndTheFirstKeepsIt) {
 
 TEST_F(PDFTextBoxesTest, PlacesThatNameNoBoxRaise) {
   boxes_->Add("a");
-  EXPECT_EQ(ErrorNumberOf([&] { boxes_->Add("b", 1, 1); }), 5);
-  EXPECT_EQ(ErrorNumberOf([&] { boxes_->Add("b", 2); }), 9);
-  EXPECT_EQ(ErrorNumberOf([&] { boxes_->Add("b", "x"); }), 5);
-  EXPECT_EQ(ErrorNumberOf([&] { boxes_->Item("x"); }), 5);
-  EXPECT_EQ(ErrorNumberOf([&] { boxes_->Remove(2); }), 9);
+  EXPECT_EQ(ErrorNumberOf([&] { boxes_->Add("b", 1, 1); }), Error::kInvalidArgument);
+  EXPECT_EQ(ErrorNumberOf([&] { boxes_->Add("b", 2); }), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(ErrorNumberOf([&] { boxes_->Add("b", "x"); }), Error::kInvalidArgument);
+  EXPECT_EQ(ErrorNumberOf([&] { boxes_->Item("x"); }), Error::kInvalidArgument);
+  EXPECT_EQ(ErrorNumberOf([&] { boxes_->Remove(2); }), Error::kSubscriptOutOfRange);
   EXPECT_EQ(boxes_->count(), 1);
 }
 
@@ -111,7 +112,7 @@ TEST_F(PDFTextBoxesTest, BoxesOfATemplateHaveItAsTheirParent) {
 
 TEST_F(PDFTextBoxesTest, AFontTooLargeToMeasureRaises6AndAddsNothing) {
   page_->Font()->SetSize(1e38F);
-  EXPECT_EQ(ErrorNumberOf([&] { boxes_->Add(); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { boxes_->Add(); }), Error::kOverflow);
   EXPECT_EQ(boxes_->count(), 0);
 }
 

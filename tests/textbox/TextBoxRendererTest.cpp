@@ -6,6 +6,7 @@
 #include <string>
 
 #include "folivar/base/AnsiText.h"
+#include "folivar/base/Error.h"
 #include "folivar/file/PDFText.h"
 #include "folivar/fonts/PDFFont.h"
 #include "folivar/textbox/TextBoxRenderer.h"
@@ -258,12 +259,12 @@ TEST_F(TextBoxRendererTest, AnUnderlinedLineEndIsNoStroke) {
 TEST_F(TextBoxRendererTest, NumbersThatPdfCannotHoldRaise6) {
   Add("text");
   geometry_.left = 3e9F;
-  EXPECT_EQ(ErrorNumberOf([&] { Rendered(); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { Rendered(); }), Error::kOverflow);
   geometry_.left = std::numeric_limits<float>::quiet_NaN();
-  EXPECT_EQ(ErrorNumberOf([&] { Rendered(); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { Rendered(); }), Error::kOverflow);
   geometry_.left = 0;
   geometry_.marginLeft = 3e9F;
-  EXPECT_EQ(ErrorNumberOf([&] { Rendered(); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { Rendered(); }), Error::kOverflow);
 }
 
 }  // namespace

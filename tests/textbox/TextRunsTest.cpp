@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "folivar/base/Error.h"
 #include "folivar/fonts/PDFFont.h"
 #include "folivar/textbox/TextRuns.h"
 #include "tests/support/Content.h"
@@ -178,7 +179,7 @@ TEST(TextRuns, DeliberateReplacingStrikesTheRunAtTheOldNumber) {
 
 TEST(TextRuns, DeliberateReplacingRaises9WhereNoRunHasTheOldNumber) {
   TextRuns runs = RunsOf({4, 1, 6});
-  EXPECT_EQ(ErrorNumberOf([&] { runs.ReplaceText(2, 11, 1, 11); }), 9);
+  EXPECT_EQ(ErrorNumberOf([&] { runs.ReplaceText(2, 11, 1, 11); }), Error::kSubscriptOutOfRange);
   EXPECT_EQ(LengthsOf(runs), (Lengths{4, 0}));
   EXPECT_NE(ErrorTextOf([&] {
               TextRuns others = RunsOf({4, 1, 6});
@@ -197,7 +198,7 @@ TEST(TextRuns, ANewTextIsOneRunInTheFirstFormat) {
 TEST(TextRuns, DeliberateANewTextForThreeRunsOrMoreRemovesEveryOtherAndRaises9) {
   for (std::size_t count = 3; count <= 600; count += count < 8 ? 1 : 148) {
     TextRuns runs = RunsOf(Lengths(count, 2));
-    EXPECT_EQ(ErrorNumberOf([&] { runs.ResetText(7); }), 9) << count;
+    EXPECT_EQ(ErrorNumberOf([&] { runs.ResetText(7); }), Error::kSubscriptOutOfRange) << count;
     // As removing numbers 2, 3, ... one at a time leaves them.
     std::vector<std::int32_t> colors;
     for (std::size_t color = 0; color < count; ++color) {
