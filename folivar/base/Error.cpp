@@ -1,27 +1,56 @@
 #include "folivar/base/Error.h"
 
+#include <utility>
+
 namespace folivar {
 
-Error::Error(std::int32_t number, const std::string& text)
-    : std::runtime_error(text), number_(number) {}
+Error::Error(std::int32_t number, const std::string& cause) : Error(number, Words{{}, {}, cause}) {}
 
-Error Error::InvalidArgument(const std::string& text) { return {kInvalidArgument, text}; }
-Error Error::Overflow(const std::string& text) { return {kOverflow, text}; }
-Error Error::SubscriptOutOfRange(const std::string& text) { return {kSubscriptOutOfRange, text}; }
-Error Error::DivisionByZero(const std::string& text) { return {kDivisionByZero, text}; }
-Error Error::TypeMismatch(const std::string& text) { return {kTypeMismatch, text}; }
-Error Error::BadFileName(const std::string& text) { return {kBadFileName, text}; }
-Error Error::FileNotFound(const std::string& text) { return {kFileNotFound, text}; }
-Error Error::DiskFull(const std::string& text) { return {kDiskFull, text}; }
-Error Error::InputPastEnd(const std::string& text) { return {kInputPastEnd, text}; }
-Error Error::PermissionDenied(const std::string& text) { return {kPermissionDenied, text}; }
-Error Error::PathFileAccess(const std::string& text) { return {kPathFileAccess, text}; }
-Error Error::PathNotFound(const std::string& text) { return {kPathNotFound, text}; }
-Error Error::ObjectNotSet(const std::string& text) { return {kObjectNotSet, text}; }
-Error Error::InvalidNull(const std::string& text) { return {kInvalidNull, text}; }
-Error Error::InvalidFileFormat(const std::string& text) { return {kInvalidFileFormat, text}; }
-Error Error::ActionNotSupported(const std::string& text) { return {kActionNotSupported, text}; }
-Error Error::KeyInUse(const std::string& text) { return {kKeyInUse, text}; }
-Error Error::UnknownImageType(const std::string& text) { return {kUnknownImageType, text}; }
+Error::Error(std::int32_t number, Words words)
+    : std::runtime_error(TextOf(number, words)),
+      number_(number),
+      words_(std::make_shared<const Words>(std::move(words))) {}
+
+std::string Error::TextOf(std::int32_t number, const Words& words) {
+  if (number == kUnknownImageType) return words.cause;
+  std::string text;
+  for (const std::string* part : {&words.member, &words.object}) {
+    if (!part->empty()) text += *part + ": ";
+  }
+  return text + words.cause;
+}
+
+const std::string& Error::Member() const noexcept { return words_->member; }
+const std::string& Error::Object() const noexcept { return words_->object; }
+const std::string& Error::Cause() const noexcept { return words_->cause; }
+
+Error Error::WithMember(const std::string& member) const {
+  return {number_, Words{member, words_->object, words_->cause}};
+}
+
+Error Error::WithObject(const std::string& object) const {
+  const std::string& part = words_->object;
+  return {number_,
+          Words{words_->member, part.empty() ? object : part + " of " + object, words_->cause}};
+}
+
+Error Error::InvalidArgument(const std::string& cause) { return {kInvalidArgument, cause}; }
+Error Error::Overflow(const std::string& cause) { return {kOverflow, cause}; }
+Error Error::SubscriptOutOfRange(const std::string& cause) { return {kSubscriptOutOfRange, cause}; }
+Error Error::DivisionByZero(const std::string& cause) { return {kDivisionByZero, cause}; }
+Error Error::TypeMismatch(const std::string& cause) { return {kTypeMismatch, cause}; }
+Error Error::BadFileName(const std::string& cause) { return {kBadFileName, cause}; }
+Error Error::FileNotFound(const std::string& cause) { return {kFileNotFound, cause}; }
+Error Error::DiskFull(const std::string& cause) { return {kDiskFull, cause}; }
+Error Error::InputPastEnd(const std::string& cause) { return {kInputPastEnd, cause}; }
+Error Error::PermissionDenied(const std::string& cause) { return {kPermissionDenied, cause}; }
+Error Error::PathFileAccess(const std::string& cause) { return {kPathFileAccess, cause}; }
+Error Error::PathNotFound(const std::string& cause) { return {kPathNotFound, cause}; }
+Error Error::ObjectNotSet(const std::string& cause) { return {kObjectNotSet, cause}; }
+Error Error::InvalidNull(const std::string& cause) { return {kInvalidNull, cause}; }
+Error Error::InvalidFileFormat(const std::string& cause) { return {kInvalidFileFormat, cause}; }
+Error Error::ActionNotSupported(const std::string& cause) { return {kActionNotSupported, cause}; }
+Error Error::KeyInUse(const std::string& cause) { return {kKeyInUse, cause}; }
+Error Error::UnknownImageType(const std::string& cause) { return {kUnknownImageType, cause}; }
 
 }  // namespace folivar

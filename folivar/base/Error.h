@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <stdexcept>
 #include <string>
 
@@ -8,12 +9,16 @@
 
 namespace folivar {
 
-// The one exception that the library throws: an automation error number and a text that names what
-// failed, which object or file it was, and where. An operation that throws leaves the object as it
-// was, unless its own comment says otherwise. (Running out of memory is std::bad_alloc.)
+// The one exception that the library throws: what kind of failure it is, as a number, and what
+// failed, in words. An operation that throws leaves the object as it was, unless its own comment
+// says otherwise. (Running out of memory is std::bad_alloc.)
+//
+// what() is all the words, in UTF-8: member, object and cause, as far as they are known, parted by
+// colons. "PDFDocument.SavePDFFile: PDFBookmark 'Chapter 1': a value of 3e+09 cannot be written".
+// The text of kUnknownImageType is the cause alone; there are programs that know it by heart.
 class FOLIVAR_API Error : public std::runtime_error {
  public:
-  // What kind of failure it is; the numbers are those of automation.
+  // The numbers are those of automation.
   enum : std::int32_t {
     kUnknownImageType = -2147220504,  // 0x80040000 plus 1000: no picture that can be read
     kInvalidArgument = 5,  // an unknown key, two places, an object of another document, no UTF-8
@@ -35,34 +40,63 @@ class FOLIVAR_API Error : public std::runtime_error {
     kKeyInUse = 457,            // another member has the key, whatever the case of its letters
   };
 
-  Error(std::int32_t number, const std::string& text);
+  Error(std::int32_t number, const std::string& cause);
+  // An error is copied without copying its words, and never moved from.
+  Error(const Error&) noexcept = default;
+  Error& operator=(const Error&) noexcept = default;
 
   // One of the numbers above, or what a port of the host's raises.
   std::int32_t Number() const noexcept { return number_; }
 
-  // what() is the text, in UTF-8.
+  // The member that the host called, "PDFPage.DrawLine"; a property has one name for reading and
+  // writing. Empty where nobody has told.
+  const std::string& Member() const noexcept;
 
-  static Error InvalidArgument(const std::string& text);
-  static Error Overflow(const std::string& text);
-  static Error SubscriptOutOfRange(const std::string& text);
-  static Error DivisionByZero(const std::string& text);
-  static Error TypeMismatch(const std::string& text);
-  static Error BadFileName(const std::string& text);
-  static Error FileNotFound(const std::string& text);
-  static Error DiskFull(const std::string& text);
-  static Error InputPastEnd(const std::string& text);
-  static Error PermissionDenied(const std::string& text);
-  static Error PathFileAccess(const std::string& text);
-  static Error PathNotFound(const std::string& text);
-  static Error ObjectNotSet(const std::string& text);
-  static Error InvalidNull(const std::string& text);
-  static Error InvalidFileFormat(const std::string& text);
-  static Error ActionNotSupported(const std::string& text);
-  static Error KeyInUse(const std::string& text);
-  static Error UnknownImageType(const std::string& text);
+  // The object, file or argument that the failure is about: "PDFBookmark 'Chapter 1'",
+  // "file 'a.pdf'". Empty when it is the one whose member was called, or no object.
+  const std::string& Object() const noexcept;
+
+  // What went wrong.
+  const std::string& Cause() const noexcept;
+
+  // The same error, as one of this member; of members that call each other the outer one stays.
+  Error WithMember(const std::string& member) const;
+
+  // The same error, as one about this object or a part of it: "Destination" becomes "Destination of
+  // PDFBookmark 'Chapter 1'".
+  Error WithObject(const std::string& object) const;
+
+  static Error InvalidArgument(const std::string& cause);
+  static Error Overflow(const std::string& cause);
+  static Error SubscriptOutOfRange(const std::string& cause);
+  static Error DivisionByZero(const std::string& cause);
+  static Error TypeMismatch(const std::string& cause);
+  static Error BadFileName(const std::string& cause);
+  static Error FileNotFound(const std::string& cause);
+  static Error DiskFull(const std::string& cause);
+  static Error InputPastEnd(const std::string& cause);
+  static Error PermissionDenied(const std::string& cause);
+  static Error PathFileAccess(const std::string& cause);
+  static Error PathNotFound(const std::string& cause);
+  static Error ObjectNotSet(const std::string& cause);
+  static Error InvalidNull(const std::string& cause);
+  static Error InvalidFileFormat(const std::string& cause);
+  static Error ActionNotSupported(const std::string& cause);
+  static Error KeyInUse(const std::string& cause);
+  static Error UnknownImageType(const std::string& cause);
 
  private:
+  struct Words {
+    std::string member;
+    std::string object;
+    std::string cause;
+  };
+
+  Error(std::int32_t number, Words words);
+  static std::string TextOf(std::int32_t number, const Words& words);
+
   std::int32_t number_;
+  std::shared_ptr<const Words> words_;
 };
 
 }  // namespace folivar

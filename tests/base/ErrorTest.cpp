@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <memory>
 #include <stdexcept>
-#include <string>
+#include <type_traits>
 
 #include "folivar/base/Error.h"
 
@@ -35,10 +36,50 @@ TEST(Error, MakersAndNamesGiveTheNumbersOfAutomation) {
   ExpectNumber(Error::KeyInUse(""), Error::kKeyInUse, 457);
 }
 
-TEST(Error, CarriesItsText) {
-  EXPECT_STREQ(Error::Overflow("caf\u00E9 is too large").what(), "caf\u00E9 is too large");
-  EXPECT_STREQ(Error(1234, "own").what(), "own");
+TEST(Error, OfACauseAloneHasNoMemberAndNoObject) {
+  const Error error = Error::Overflow("caf\u00E9 is too large");
+  EXPECT_STREQ(error.what(), "caf\u00E9 is too large");
+  EXPECT_EQ(error.Cause(), "caf\u00E9 is too large");
+  EXPECT_EQ(error.Member(), "");
+  EXPECT_EQ(error.Object(), "");
+}
+
+TEST(Error, MayHaveANumberOfItsOwn) {
   EXPECT_EQ(Error(1234, "own").Number(), 1234);
+  EXPECT_STREQ(Error(1234, "own").what(), "own");
+}
+
+TEST(Error, ItsTextIsMemberObjectAndCause) {
+  const Error cause = Error::DiskFull("no room");
+  EXPECT_STREQ(cause.WithMember("PDFDocument.SavePDFFile").what(),
+               "PDFDocument.SavePDFFile: no room");
+  EXPECT_STREQ(cause.WithObject("file 'a.pdf'").what(), "file 'a.pdf': no room");
+  const Error whole = cause.WithObject("file 'a.pdf'").WithMember("PDFDocument.SavePDFFile");
+  EXPECT_STREQ(whole.what(), "PDFDocument.SavePDFFile: file 'a.pdf': no room");
+  EXPECT_EQ(whole.Number(), Error::kDiskFull);
+  EXPECT_EQ(whole.Member(), "PDFDocument.SavePDFFile");
+  EXPECT_EQ(whole.Object(), "file 'a.pdf'");
+  EXPECT_EQ(whole.Cause(), "no room");
+}
+
+TEST(Error, OfMembersTheOuterOneStays) {
+  const Error error = Error::Overflow("too large").WithMember("A.Inner").WithMember("B.Outer");
+  EXPECT_EQ(error.Member(), "B.Outer");
+  EXPECT_STREQ(error.what(), "B.Outer: too large");
+}
+
+TEST(Error, AnObjectInAnObjectIsAPartOfIt) {
+  const Error error = Error::Overflow("too large").WithObject("Destination").WithObject("link 'a'");
+  EXPECT_EQ(error.Object(), "Destination of link 'a'");
+}
+
+TEST(Error, TheTextOfAnUnknownImageStandsAlone) {
+  const Error error = Error::UnknownImageType("Error: Image type unknown for a.gif.")
+                          .WithObject("file 'a.gif'")
+                          .WithMember("PDFImage.FileName");
+  EXPECT_STREQ(error.what(), "Error: Image type unknown for a.gif.");
+  EXPECT_EQ(error.Member(), "PDFImage.FileName");
+  EXPECT_EQ(error.Object(), "file 'a.gif'");
 }
 
 TEST(Error, IsCaughtAsAStandardException) {
@@ -49,11 +90,21 @@ TEST(Error, IsCaughtAsAStandardException) {
   }
 }
 
-TEST(Error, ACopyKeepsNumberAndText) {
-  const Error original = Error::KeyInUse("text");
-  const Error copy = original;
-  EXPECT_EQ(copy.Number(), Error::kKeyInUse);
-  EXPECT_STREQ(copy.what(), "text");
+// Or catching one by value could end the program.
+static_assert(std::is_nothrow_copy_constructible_v<Error>);
+static_assert(std::is_nothrow_copy_assignable_v<Error>);
+
+TEST(Error, ACopyKeepsEverythingWhenTheOriginalIsGone) {
+  auto original = std::make_unique<Error>(Error::KeyInUse("text").WithMember("A.B"));
+  const Error copy = *original;
+  Error assigned = Error::Overflow("other");
+  assigned = *original;
+  original.reset();
+  for (const Error& error : {copy, assigned}) {
+    EXPECT_EQ(error.Number(), Error::kKeyInUse);
+    EXPECT_EQ(error.Member(), "A.B");
+    EXPECT_STREQ(error.what(), "A.B: text");
+  }
 }
 
 }  // namespace
