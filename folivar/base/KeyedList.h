@@ -12,6 +12,7 @@
 
 #include "folivar/base/CaseFold.h"
 #include "folivar/base/Error.h"
+#include "folivar/base/InMember.h"
 #include "folivar/base/Text.h"
 #include "folivar/base/Value.h"
 
@@ -131,11 +132,8 @@ class KeyedList {
   }
 
   std::int32_t PositionFrom(const Value& index) const {
-    try {
-      return Int32From(index);
-    } catch (const Error& error) {
-      throw Error(error.Number(), "A position or key of " + Name() + ": " + error.what());
-    }
+    return OfObject([&] { return "position or key of " + Name(); },
+                    [&] { return Int32From(index); });
   }
 
   bool Holds(std::int32_t position) const {

@@ -128,11 +128,7 @@ void PDFImage::WriteObjects(SaveFile& file) {
   reader_->WriteImageStream(imageFile, stream);
   assert(std::cmp_equal(stream.Written(), reader_->ImageStreamSize()));
   file.AppendBytes("\nendstream\n");
-  try {
-    file.EndObject();
-  } catch (const Error& error) {
-    throw Error(error.Number(), "Image file '" + fileName_.Utf8() + "': " + error.what());
-  }
+  OfObject([&] { return "file '" + fileName_.Utf8() + "'"; }, [&] { file.EndObject(); });
 }
 
 //   9 0 obj

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "folivar/base/Error.h"
+#include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
 #include "folivar/file/PDFText.h"
 #include "folivar/navigation/OutlinePlace.h"
@@ -44,11 +44,8 @@ void PDFBookmark::BuildBookmarkText(const Internal& internal, PDFText& text,
     text.Append("/First ", Reference{place.first}, "\n/Last ", Reference{place.last}, "\n/Count ",
                 expanded_ ? place.visibleCount : -place.visibleCount);
   }
-  try {
-    destination_.AppendDestination(internal, text, pages);
-  } catch (const Error& error) {
-    throw Error(error.Number(), "PDFBookmark '" + title_.Utf8() + "': " + error.what());
-  }
+  OfObject([&] { return "PDFBookmark '" + title_.Utf8() + "'"; },
+           [&] { destination_.AppendDestination(internal, text, pages); });
   text.Append(">>\n");
 }
 

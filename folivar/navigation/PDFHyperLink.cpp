@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "folivar/base/Error.h"
+#include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
 #include "folivar/base/KeyedName.h"
 #include "folivar/file/PDFText.h"
@@ -50,14 +50,14 @@ void PDFHyperLink::SetBorderDashPattern(float dashOn, float dashOff) {
 //   >>
 void PDFHyperLink::BuildAnnotationText(const Internal& internal, PDFText& text,
                                        const std::weak_ptr<PDFPages>& pages) const {
-  try {
-    text.Append("<< /Type /Annot\n/Subtype /Link\n", HighlightLine(highlight_), "/Rect [ ",
-                Real{Left()}, " ", Real{Bottom()}, " ", Real{Right()}, " ", Real{Top()}, " ]\n");
-    destination_.AppendDestination(internal, text, pages);
-    AppendBorder(text);
-  } catch (const Error& error) {
-    throw Error(error.Number(), KeyedName("PDFHyperLink", Key()) + ": " + error.what());
-  }
+  OfObject([&] { return KeyedName("PDFHyperLink", Key()); },
+           [&] {
+             text.Append("<< /Type /Annot\n/Subtype /Link\n", HighlightLine(highlight_), "/Rect [ ",
+                         Real{Left()}, " ", Real{Bottom()}, " ", Real{Right()}, " ", Real{Top()},
+                         " ]\n");
+             destination_.AppendDestination(internal, text, pages);
+             AppendBorder(text);
+           });
   // Deliberate: black is 0, which stands for the reader's own choice, and that is black.
   if (borderColor_ != 0) {
     text.Append("/C [", Rgb{borderColor_}, "]\n");

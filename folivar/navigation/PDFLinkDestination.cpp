@@ -28,27 +28,28 @@ void PDFLinkDestination::AppendDestination(const Internal& internal, PDFText& te
                                            const std::weak_ptr<PDFPages>& pages) const {
   if (!pageRemoved_.IsSubscribed() || !page_->IsNumberedIn(internal, pages)) return;
   const Reference page{page_->ObjectNumber(internal)};
-  InMember("Destination", [&] {
-    switch (destinationMode_) {
-      case dsXYZ:
-        text.Append("/Dest [ ", page, " /XYZ ", Real{Left()}, " ", Real{Top()}, " ", Real{zoom_},
-                    " ]\n");
-        break;
-      case dsFit:
-        text.Append("/Dest [ ", page, " /Fit ]\n");
-        break;
-      case dsFitHorz:
-        text.Append("/Dest [ ", page, " /FitH ", Real{Top()}, " ]\n");
-        break;
-      case dsFitVert:
-        text.Append("/Dest [ ", page, " /FitV ", Real{Left()}, " ]\n");
-        break;
-      case dsFitRect:
-        text.Append("/Dest [ ", page, " /FitR ", Real{Left()}, " ", Real{Bottom()}, " ",
-                    Real{Right()}, " ", Real{Top()}, " ]\n");
-        break;
-    }
-  });
+  OfObject([] { return "Destination"; },
+           [&] {
+             switch (destinationMode_) {
+               case dsXYZ:
+                 text.Append("/Dest [ ", page, " /XYZ ", Real{Left()}, " ", Real{Top()}, " ",
+                             Real{zoom_}, " ]\n");
+                 break;
+               case dsFit:
+                 text.Append("/Dest [ ", page, " /Fit ]\n");
+                 break;
+               case dsFitHorz:
+                 text.Append("/Dest [ ", page, " /FitH ", Real{Top()}, " ]\n");
+                 break;
+               case dsFitVert:
+                 text.Append("/Dest [ ", page, " /FitV ", Real{Left()}, " ]\n");
+                 break;
+               case dsFitRect:
+                 text.Append("/Dest [ ", page, " /FitR ", Real{Left()}, " ", Real{Bottom()}, " ",
+                             Real{Right()}, " ", Real{Top()}, " ]\n");
+                 break;
+             }
+           });
 }
 
 }  // namespace folivar

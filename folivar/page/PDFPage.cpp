@@ -172,12 +172,8 @@ void PDFPage::WriteObjects(SaveFile& file) {
 void PDFPage::BuildPageObject(PDFText& text) const {
   text.Append("<< /Type /Page\n/Parent ", Reference{parent_.lock()->TreeNodeNumber(Internal())},
               "\n");
-  try {
-    AppendBoxes(text);
-  } catch (const Error& error) {
-    throw Error(error.Number(), "The extents or the clip box of the " +
-                                    KeyedName("PDFPage", Key()) + ": " + error.what());
-  }
+  OfObject([&] { return "extents or clip box of " + KeyedName("PDFPage", Key()); },
+           [&] { AppendBoxes(text); });
   text.Append("/Contents ", Reference{contentNumber_}, "\n/Resources ");
   surface_->ResourceDictionary().BuildResourceText(text);
   if (hyperLinks_) hyperLinks_->AppendAnnots(Internal(), text);

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "folivar/base/Error.h"
 #include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
 #include "folivar/base/Numbers.h"
@@ -161,13 +160,11 @@ void PDFTemplate::WriteObjects(SaveFile& file) {
   }
   PDFText& text = file.BeginObject(objectNumber_);
   text.Append("<< /Type /XObject\n/Subtype /Form\n/FormType 1\n");
-  try {
-    text.Append("/BBox [ ", Real{clipBox_.left}, " ", Real{clipBox_.bottom}, " ",
-                Real{clipBox_.right}, " ", Real{clipBox_.top}, "]\n");
-  } catch (const Error& error) {
-    throw Error(error.Number(),
-                "The clip box of the PDFTemplate " + NameOf(*this) + ": " + error.what());
-  }
+  OfObject([&] { return "clip box of PDFTemplate " + NameOf(*this); },
+           [&] {
+             text.Append("/BBox [ ", Real{clipBox_.left}, " ", Real{clipBox_.bottom}, " ",
+                         Real{clipBox_.right}, " ", Real{clipBox_.top}, "]\n");
+           });
   text.Append("/Resources ");
   surface_->ResourceDictionary().BuildResourceText(text);
   surface_->WriteStream(file, textBoxes.Bytes());

@@ -383,13 +383,14 @@ void PDFTextBox::RegisterFaces(const Internal&) const {
 }
 
 void PDFTextBox::RenderTextBox(const Internal&, PDFText& content) {
-  const std::string member = "The " + KeyedName("PDFTextBox", Key());
-  InMember(member.c_str(), [&] {
-    if (autoSize_) AutoSizeBox();
-    const AnsiText ansi(text_);
-    TextBoxRenderer(content, geometry_, frame_)
-        .Render(surface_ ? surface_->Content().Bytes() : std::string_view(), ansi, runs_->List());
-  });
+  OfObject([&] { return KeyedName("PDFTextBox", Key()); },
+           [&] {
+             if (autoSize_) AutoSizeBox();
+             const AnsiText ansi(text_);
+             TextBoxRenderer(content, geometry_, frame_)
+                 .Render(surface_ ? surface_->Content().Bytes() : std::string_view(), ansi,
+                         runs_->List());
+           });
 }
 
 }  // namespace folivar

@@ -133,9 +133,10 @@ TEST_F(PDFHyperLinkTest, ANumberThatPdfCannotHoldNamesTheLink) {
   link_->SetBorderWidth(1);
   link_->Destination()->SetPage(page_);
   link_->Destination()->SetZoom(-3e9F);
-  EXPECT_EQ(ErrorTextOf([&] { ObjectText(); }),
-            "PDFHyperLink 'key': Destination: a value of -3e+09 cannot be written: PDF numbers are "
-            "below 2^31");
+  EXPECT_EQ(
+      ErrorTextOf([&] { ObjectText(); }),
+      "Destination of PDFHyperLink 'key': a value of -3e+09 cannot be written: PDF numbers are "
+      "below 2^31");
   link_->Destination()->SetZoom(0);
   const auto other = page_->HyperLinks()->Add();
   other->SetLeft(3e9F);

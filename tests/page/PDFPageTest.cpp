@@ -119,7 +119,7 @@ TEST(PDFPage, SizeThatCannotBeWrittenFailsTheSaveAndNamesThePage) {
   page->SetWidth(std::numeric_limits<float>::infinity());
   EXPECT_EQ(ErrorNumberOf([&] { Save(*document, "broken"); }), Error::kOverflow);
   EXPECT_EQ(ErrorTextOf([&] { Save(*document, "broken"); }),
-            "The extents or the clip box of the PDFPage 'cover': a value of inf cannot be written: "
+            "extents or clip box of PDFPage 'cover': a value of inf cannot be written: "
             "PDF numbers are below 2^31");
   page->SetWidth(100);
   Save(*document, "mended.pdf");

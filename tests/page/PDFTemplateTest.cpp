@@ -418,12 +418,12 @@ TEST(PDFTemplate, BoxThatCannotBeWrittenFailsTheSaveAndNamesTheTemplate) {
   drawn->SetTop(kNotANumber);
   EXPECT_EQ(ErrorNumberOf([&] { Save(*document, "broken"); }), Error::kOverflow);
   EXPECT_EQ(ErrorTextOf([&] { Save(*document, "broken"); }),
-            "The clip box of the PDFTemplate 'logo': a value of nan cannot be written: PDF numbers "
+            "clip box of PDFTemplate 'logo': a value of nan cannot be written: PDF numbers "
             "are below 2^31");
   drawn->SetTop(1);
   document->Templates()->Add()->SetLeft(-3e9F);
   EXPECT_EQ(ErrorTextOf([&] { Save(*document, "broken"); }),
-            "The clip box of the PDFTemplate /T2: a value of -3e+09 cannot be written: PDF numbers "
+            "clip box of PDFTemplate /T2: a value of -3e+09 cannot be written: PDF numbers "
             "are below 2^31");
 }
 

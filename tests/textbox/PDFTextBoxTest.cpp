@@ -679,10 +679,10 @@ TEST_F(PDFTextBoxTest, AnErrorOfTheSaveNamesTheBox) {
   box_->SetBorderWidth(3e9F);
   const auto save = [&] { Save(*document_, "error.broken", Check::kForm); };
   EXPECT_EQ(ErrorNumberOf(save), Error::kOverflow);
-  EXPECT_NE(ErrorTextOf(save).find("The PDFTextBox 'box': "), std::string::npos);
+  EXPECT_NE(ErrorTextOf(save).find("PDFTextBox 'box': "), std::string::npos);
   box_->SetBorderWidth(1);
   page_->TextBoxes()->Add()->SetLeft(3e9F);
-  EXPECT_NE(ErrorTextOf(save).find("The PDFTextBox without a key: "), std::string::npos);
+  EXPECT_NE(ErrorTextOf(save).find("PDFTextBox without a key: "), std::string::npos);
 }
 
 // Whatever editing has left: out of step by a failed text and by replacing across runs.
