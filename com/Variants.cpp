@@ -56,7 +56,7 @@ Value AsText(Variant& held) {
 }  // namespace
 
 Variant::Variant(const VARIANT& source) : Variant() {
-  if (!CopyFrom(source)) throw Error::TypeMismatch("A value cannot be copied");
+  if (!CopyFrom(source)) throw Error::TypeMismatch("a value cannot be copied");
 }
 
 bool Variant::CopyFrom(const VARIANT& source) { return Copy(&VariantCopyInd, &held_, source); }
@@ -88,7 +88,7 @@ std::optional<float> SingleFrom(const char* member, const VARIANT& number) {
     const Value value = NumberFrom(number);
     if (value.IsMissing()) return std::nullopt;
     const auto single = static_cast<float>(DoubleFrom(value));
-    if (!std::isfinite(single)) throw Error::Overflow("A number does not fit into a single");
+    if (!std::isfinite(single)) throw Error::Overflow("a number does not fit into a single");
     return single;
   });
 }
@@ -99,9 +99,9 @@ std::optional<Text> TextFrom(const char* member, const VARIANT& text) {
   return InMember(member, [&]() -> std::optional<Text> {
     const Value value = ValueFrom(text, AsText);
     if (value.IsMissing()) return std::nullopt;
-    if (value.IsNull()) throw Error::InvalidNull("Null stands where a text is wanted");
+    if (value.IsNull()) throw Error::InvalidNull("null stands where a text is wanted");
     const auto* given = value.As<Text>();
-    if (given == nullptr) throw Error::TypeMismatch("A text is wanted");
+    if (given == nullptr) throw Error::TypeMismatch("a text is wanted");
     return *given;
   });
 }

@@ -28,8 +28,8 @@ namespace folivar {
 template <class T>
 class KeyedList {
  public:
-  // `name` stands in error texts, for example "PDFPages"; a literal.
-  explicit KeyedList(const char* name) : name_(name) {}
+  // The class that errors name, for example "PDFPages"; a literal.
+  explicit KeyedList(const char* className) : className_(className) {}
   KeyedList(const KeyedList&) = delete;
   KeyedList& operator=(const KeyedList&) = delete;
 
@@ -39,25 +39,31 @@ class KeyedList {
   // key is no key. Raises, in this order: 5 when both places are given, 457 for a key in use, 5 or
   // 9 for a place that names no entry.
   void Add(T item, TextView key, const Value& before, const Value& after) {
-    if (!before.IsMissing() && !after.IsMissing()) {
-      throw Error::InvalidArgument("Before and After cannot both be given in " + Name());
-    }
-    std::u16string folded = key.IsEmpty() ? std::u16string() : FoldCase(key);
-    if (!folded.empty() && byKey_.contains(folded)) {
-      throw Error::KeyInUse("Key '" + Text(key).Utf8() + "' is already in use in " + Name());
-    }
-    std::size_t position = count_;
-    if (!before.IsMissing()) position = PlaceOf(Find(before)).position;
-    if (!after.IsMissing()) position = PlaceOf(Find(after)).position + 1;
-    Insert(position, std::move(item), std::move(folded));
+    InMember(className_, "Add", [&] {
+      if (!before.IsMissing() && !after.IsMissing()) {
+        throw Error::InvalidArgument("Before and After cannot both be given");
+      }
+      std::u16string folded = key.IsEmpty() ? std::u16string() : FoldCase(key);
+      if (!folded.empty() && byKey_.contains(folded)) {
+        throw Error::KeyInUse("key '" + Text(key).Utf8() + "' is already in use");
+      }
+      std::size_t position = count_;
+      if (!before.IsMissing()) position = PlaceOf(Find(before)).position;
+      if (!after.IsMissing()) position = PlaceOf(Find(after)).position + 1;
+      Insert(position, std::move(item), std::move(folded));
+    });
   }
 
   // Raises 5 for an unknown key and 9 for a position outside 1 to Count(); 13 for what is neither a
   // text nor a number, 94 for Null, 6 for a number beyond 32 bits.
-  const T& Item(const Value& index) const { return Find(index).item; }
+  const T& Item(const Value& index) const {
+    return InMember(className_, "Item", [&]() -> const T& { return Find(index).item; });
+  }
 
   // Takes the entry out and returns its item. Raises as Item.
-  T Remove(const Value& index) { return Erase(Find(index)); }
+  T Remove(const Value& index) {
+    return Erase(InMember(className_, "Remove", [&]() -> Entry& { return Find(index); }));
+  }
 
   // Takes out the entry with this item, if there is one; it is looked for at `likely` first.
   void RemoveItem(const T& item, const Value& likely) {
@@ -116,13 +122,11 @@ class KeyedList {
   static constexpr std::size_t kSmallestBlock = 4;
   static constexpr std::size_t kBlockSize = 512;
 
-  std::string Name() const { return name_; }
-
   Entry& Find(const Value& index) const {
     if (const auto* key = index.template As<Text>()) {
       const auto found = byKey_.find(FoldCase(*key));
       if (found == byKey_.end()) {
-        throw Error::InvalidArgument("Key '" + key->Utf8() + "' is not in " + Name());
+        throw Error::InvalidArgument("there is no key '" + key->Utf8() + "'");
       }
       auto& entries = found->second->entries;
       return *std::find_if(entries.begin(), entries.end(),
@@ -132,8 +136,7 @@ class KeyedList {
   }
 
   std::int32_t PositionFrom(const Value& index) const {
-    return OfObject([&] { return "position or key of " + Name(); },
-                    [&] { return Int32From(index); });
+    return OfObject([] { return "position or key"; }, [&] { return Int32From(index); });
   }
 
   bool Holds(std::int32_t position) const {
@@ -148,8 +151,8 @@ class KeyedList {
         rest -= block->entries.size();
       }
     }
-    throw Error::SubscriptOutOfRange("Position " + std::to_string(position) + " is outside 1 to " +
-                                     std::to_string(count_) + " in " + Name());
+    throw Error::SubscriptOutOfRange("position " + std::to_string(position) + " is outside 1 to " +
+                                     std::to_string(count_));
   }
 
   Place PlaceOf(const Entry& entry) const {
@@ -229,7 +232,7 @@ class KeyedList {
     blocks_.insert(blocks_.begin() + static_cast<std::ptrdiff_t>(number) + 1, std::move(upper));
   }
 
-  const char* name_;
+  const char* className_;
   std::size_t count_ = 0;
   std::vector<std::unique_ptr<Block>> blocks_;
   Keys byKey_;  // with the block that the entry is in

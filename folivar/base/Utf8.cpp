@@ -30,7 +30,7 @@ bool IsHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
 bool IsLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
 Error NotUtf8(std::size_t position) {
-  return Error::InvalidArgument("Text is not UTF-8: invalid byte at position " +
+  return Error::InvalidArgument("text is not UTF-8: invalid byte at position " +
                                 std::to_string(position) + " (counted from 0)");
 }
 

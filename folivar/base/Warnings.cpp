@@ -39,7 +39,7 @@ std::shared_ptr<Warnings> Warnings::ToStandardError() {
 }
 
 std::shared_ptr<Warnings> Warnings::To(std::function<void(const Text& message)> show) {
-  if (!show) throw Error::ObjectNotSet("Warnings::To: no function is given");
+  if (!show) throw Error::ObjectNotSet("no function is given").WithMember("Warnings.To");
   return std::make_shared<FunctionWarnings>(std::move(show));
 }
 

@@ -127,7 +127,7 @@ std::int16_t FindLastInRange(TextView s, TextView find, std::int16_t start, std:
     const std::size_t place = std::u16string_view(text).substr(begin, end - begin).rfind(wanted);
     if (place != std::u16string_view::npos) found = begin + std::min(place + 1, end - begin);
   }
-  if (found > 32767) throw Error::Overflow("A position in a text does not fit into 16 bits");
+  if (found > 32767) throw Error::Overflow("a position in a text does not fit into 16 bits");
   return static_cast<std::int16_t>(found);
 }
 
@@ -140,9 +140,9 @@ bool FileExists(TextView path) noexcept {
 }
 
 std::int64_t CeilDiv(std::int64_t a, std::int64_t b) {
-  if (b == 0) throw Error::DivisionByZero("CeilDiv: division by zero");
+  if (b == 0) throw Error::DivisionByZero("division by zero").WithMember("Global.CeilDiv");
   if (a == std::numeric_limits<std::int64_t>::min() && b == -1) {
-    throw Error::Overflow("CeilDiv: the quotient does not fit into 64 bits");
+    throw Error::Overflow("the quotient does not fit into 64 bits").WithMember("Global.CeilDiv");
   }
   return a / b + (a % b != 0 ? 1 : 0);
 }
@@ -155,9 +155,10 @@ void SortStrings(std::vector<Text>& strings, std::int32_t lo, std::int32_t hi) {
   if (hi <= 0) return;
   if (lo < 0 || static_cast<std::size_t>(hi) >= strings.size() ||
       static_cast<std::size_t>(lo) >= strings.size()) {
-    throw Error::SubscriptOutOfRange("SortStrings: " + std::to_string(lo) + " to " +
-                                     std::to_string(hi) + " is outside the " +
-                                     std::to_string(strings.size()) + " strings");
+    throw Error::SubscriptOutOfRange(std::to_string(lo) + " to " + std::to_string(hi) +
+                                     " is outside the " + std::to_string(strings.size()) +
+                                     " strings")
+        .WithMember("Global.SortStrings");
   }
   std::vector<std::u16string> folded;
   folded.reserve(strings.size());

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
 #include "folivar/document/PDFCatalog.h"
 #include "folivar/document/PDFPages.h"
@@ -53,6 +54,10 @@ std::shared_ptr<PDFViewerPreferences> PDFDocument::ViewerPreferences() const {
 }
 
 void PDFDocument::SavePDFFile(TextView fileName) {
+  InMember("PDFDocument.SavePDFFile", [&] { Save(fileName); });
+}
+
+void PDFDocument::Save(TextView fileName) {
   FileSink sink(fileName);
   struct Step {
     ObjectWriter& writer;

@@ -52,6 +52,7 @@ class FOLIVAR_API PDFDocument final : public Tagged {
 
  private:
   void Initialise();
+  void Save(TextView fileName);
 
   Platform platform_;
   std::shared_ptr<PDFFonts> fonts_;

@@ -24,10 +24,12 @@ PDFPages::PDFPages(const Internal&, std::weak_ptr<PDFDocument> document,
       defaultFont_(std::move(defaultFont)) {}
 
 std::shared_ptr<PDFPage> PDFPages::Add(TextView key, const Value& before, const Value& after) {
-  auto page =
-      std::make_shared<PDFPage>(Internal(), Shared<PDFPages>(), document_, defaultFont_, key);
-  members_.Add(page, key, before, after);
-  return page;
+  return InMember("PDFPages.Add", [&] {
+    auto page =
+        std::make_shared<PDFPage>(Internal(), Shared<PDFPages>(), document_, defaultFont_, key);
+    members_.Add(page, key, before, after);
+    return page;
+  });
 }
 
 void PDFPages::Remove(const Value& indexOrKey) {
@@ -38,7 +40,8 @@ std::exception_ptr PDFPages::RemovePage(const Value& indexOrKey) {
   // Handlers may let go of the collection, and of what is given.
   const auto self = Shared<PDFPages>();
   const Value place = indexOrKey;  // NOLINT(performance-unnecessary-copy-initialization)
-  const std::shared_ptr<PDFPage> page = members_.Item(place);
+  const std::shared_ptr<PDFPage> page =
+      InMember("PDFPages.Remove", [&] { return members_.Item(place); });
   std::exception_ptr thrown = page->RaisePageRemoved(Internal());
   // By now it may stand elsewhere, or be removed already.
   members_.RemoveItem(page, place);

@@ -60,7 +60,8 @@ class FOLIVAR_API PDFViewerPreferences final : public Object {
   void SetNonFullScreenPageMode(PDFPageModeStyle mode);
 
  private:
-  std::shared_ptr<PDFCatalog> Catalog() const;
+  // `member` is the one that asks, for the text of an error.
+  std::shared_ptr<PDFCatalog> Catalog(const char* member) const;
 
   std::weak_ptr<PDFCatalog> catalog_;
   bool hideToolbar_ = false;

@@ -311,8 +311,8 @@ void Drawing::DrawImage(const std::shared_ptr<PDFImage>& image, float x, float y
   double drawnHeight = MeasureOf(height, pixelHeight);
   if (maintainAspectRatio) {
     if (pixelWidth == 0 || pixelHeight == 0) {
-      throw Error::DivisionByZero("the image " + NameOf(*image) +
-                                  " has no pixels whose ratio could be kept");
+      throw Error::DivisionByZero("has no pixels whose ratio could be kept")
+          .WithObject("image " + NameOf(*image));
     }
     const double scale = MinOf(drawnWidth / pixelWidth, drawnHeight / pixelHeight);
     drawnWidth = scale * pixelWidth;

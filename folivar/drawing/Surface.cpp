@@ -33,8 +33,8 @@ void Surface::SetFont(std::shared_ptr<PDFFont> font) {
 
 void Surface::CheckIsOfDocument(const PDFFont& font) const {
   if (!HaveSameOwner(font, *font_)) {
-    throw Error::InvalidArgument("Font '" + font.FontFace().Utf8() +
-                                 "' belongs to another document");
+    throw Error::InvalidArgument("belongs to another document")
+        .WithObject("font '" + font.FontFace().Utf8() + "'");
   }
 }
 
@@ -45,8 +45,8 @@ bool Surface::IsOfSameDocument(const Surface& other) const {
 void Surface::CheckIsOfDocument(const XObject* object, std::string_view kind) const {
   if (object == nullptr) throw Error::ObjectNotSet("no " + std::string(kind) + " is given");
   if (!AreSame(object->ParentDocument(Internal()), document_)) {
-    throw Error::InvalidArgument("the " + std::string(kind) + " " + NameOf(*object) +
-                                 " belongs to another document");
+    throw Error::InvalidArgument("belongs to another document")
+        .WithObject(std::string(kind) + " " + NameOf(*object));
   }
 }
 

@@ -1,6 +1,7 @@
 #include "folivar/file/FileHandle.h"
 
 #include <cerrno>
+#include <cstdint>
 #include <system_error>
 
 namespace folivar {
@@ -16,12 +17,41 @@ std::FILE* Open(const Text& name, FileAction action) {
 #endif
 }
 
+std::int32_t NumberOf(FileAction action, int reason) {
+  switch (reason) {
+    case ENOSPC:
+    case EFBIG:
+#ifdef EDQUOT
+    case EDQUOT:
+#endif
+      return Error::kDiskFull;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+#ifdef ETXTBSY
+    case ETXTBSY:
+#endif
+      return Error::kPermissionDenied;
+    case ENOENT:
+      if (action == FileAction::kRead) return Error::kFileNotFound;
+      return Error::kPathNotFound;
+    case ENOTDIR:
+      return Error::kPathNotFound;
+    case EINVAL:
+    case EILSEQ:
+    case ENAMETOOLONG:
+      return Error::kBadFileName;
+    default:
+      return Error::kPathFileAccess;
+  }
+}
+
 }  // namespace
 
 void CheckFileName(const Text& name) {
-  if (name.IsEmpty()) throw Error::BadFileName("A file name is wanted: it is empty");
+  if (name.IsEmpty()) throw Error::BadFileName("a file name is wanted: it is empty");
   if (name.Utf16().find(u'\0') != std::u16string::npos) {
-    throw Error::BadFileName("The file name '" + name.Utf8() + "' holds a NUL character");
+    throw Error::BadFileName("its name holds a NUL character").WithObject(FileNamed(name.Utf8()));
   }
 }
 
@@ -34,35 +64,13 @@ FileHandle OpenFile(const Text& name, FileAction action) {
   return file;
 }
 
+std::string FileNamed(const std::string& name) { return "file '" + name + "'"; }
+
 Error FileError(FileAction action, const std::string& name, int reason) {
   const bool isReading = action == FileAction::kRead;
-  const std::string text = std::string(isReading ? "Cannot read file '" : "Cannot write file '") +
-                           name + "': " + std::generic_category().message(reason);
-  switch (reason) {
-    case ENOSPC:
-    case EFBIG:
-#ifdef EDQUOT
-    case EDQUOT:
-#endif
-      return Error::DiskFull(text);
-    case EACCES:
-    case EPERM:
-    case EROFS:
-#ifdef ETXTBSY
-    case ETXTBSY:
-#endif
-      return Error::PermissionDenied(text);
-    case ENOENT:
-      return isReading ? Error::FileNotFound(text) : Error::PathNotFound(text);
-    case ENOTDIR:
-      return Error::PathNotFound(text);
-    case EINVAL:
-    case EILSEQ:
-    case ENAMETOOLONG:
-      return Error::BadFileName(text);
-    default:
-      return Error::PathFileAccess(text);
-  }
+  const std::string cause = std::string(isReading ? "cannot be read: " : "cannot be written: ") +
+                            std::generic_category().message(reason);
+  return Error(NumberOf(action, reason), cause).WithObject(FileNamed(name));
 }
 
 }  // namespace folivar

@@ -25,9 +25,12 @@ enum class FileAction { kRead, kWrite };
 // CheckFileName does, and what FileError makes of the system's refusal.
 FileHandle OpenFile(const Text& name, FileAction action);
 
-// What the system refused, by its errno: 52, 53, 61, 70, 75 or 76, "Cannot write file 'a.pdf': No
-// space left on device". A file to read that is not there is 53; when one to write cannot be made,
-// it is the folder that is missing: 76.
+// What errors call a file: "file 'a.pdf'".
+std::string FileNamed(const std::string& name);
+
+// What the system refused, by its errno: 52, 53, 61, 70, 75 or 76, "file 'a.pdf': cannot be
+// written: No space left on device". A file to read that is not there is 53; when one to write
+// cannot be made, it is the folder that is missing: 76.
 Error FileError(FileAction action, const std::string& name, int reason);
 
 }  // namespace folivar

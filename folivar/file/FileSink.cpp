@@ -3,12 +3,10 @@
 #include <cerrno>
 #include <cstdio>
 
-#include "folivar/base/InMember.h"
-
 namespace folivar {
 
 FileSink::FileSink(TextView fileName) {
-  const Text name = InMember("SavePDFFile", [&] { return Text(fileName); });
+  const Text name(fileName);
   name_ = name.Utf8();
   file_ = OpenFile(name, FileAction::kWrite);
 }

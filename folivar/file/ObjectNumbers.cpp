@@ -8,7 +8,7 @@ namespace folivar {
 
 std::int32_t ObjectNumbers::Take() {
   if (next_ == std::numeric_limits<std::int32_t>::max()) {
-    throw Error::Overflow("The document has more objects than 32 bits can number");
+    throw Error::Overflow("the document has more objects than 32 bits can number");
   }
   return next_++;
 }

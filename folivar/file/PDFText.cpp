@@ -65,7 +65,7 @@ PDFText& PDFText::operator=(PDFText&& other) noexcept {
 
 void PDFText::Grow(std::size_t size) {
   if (size > kLongest - size_) {
-    throw Error::Overflow("A text of more than 2147483647 bytes does not fit into the file");
+    throw Error::Overflow("a text of more than 2147483647 bytes does not fit into the file");
   }
   const std::size_t step = size_ < kLargeText ? capacity_ / 2 : capacity_ / 8;
   const std::size_t wanted = std::max({kFirstCapacity, size_ + size, capacity_ + step});

@@ -49,11 +49,11 @@ void SaveFile::EndObject() {
   gathered_.Append("endobj\n");
   const std::uint64_t length = Position() - objectStart_;
   if (length > std::numeric_limits<std::int32_t>::max()) {
-    throw Error::Overflow("Object " + std::to_string(objectLengths_.size() + 1) +
+    throw Error::Overflow("object " + std::to_string(objectLengths_.size() + 1) +
                           " is longer than 2147483647 bytes");
   }
   if (Position() > kLargestOffset) {
-    throw Error::Overflow("The file is longer than its cross-reference table can say");
+    throw Error::Overflow("the file is longer than its cross-reference table can say");
   }
   objectLengths_.push_back(static_cast<std::int32_t>(length));
   FlushWhenFull();

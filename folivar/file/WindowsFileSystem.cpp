@@ -56,7 +56,8 @@ Text AbsoluteName(const Text& name) {
     const DWORD length = GetFullPathNameW(relative.c_str(), static_cast<DWORD>(absolute.size()),
                                           absolute.data(), nullptr);
     if (length == 0) {
-      throw Error::BadFileName("'" + name.Utf8() + "' cannot be a name: " + LastError().message());
+      throw Error::BadFileName("cannot be a name: " + LastError().message())
+          .WithObject("'" + name.Utf8() + "'");
     }
     const bool fits = length < absolute.size();
     absolute.resize(length);

@@ -56,7 +56,7 @@ float Number(std::string_view item, std::size_t index) {
     }
   }
   if (!isNumber) {
-    throw Error::TypeMismatch("Font metrics: a number is wanted in '" + std::string(item) + "'");
+    throw Error::TypeMismatch("font metrics: a number is wanted in '" + std::string(item) + "'");
   }
   const double value = static_cast<double>(digits) / scale;
   return static_cast<float>(isNegative ? -value : value);
@@ -79,7 +79,7 @@ void ReadCharacter(std::string_view line, CharacterTable& characters) {
       const float code = Number(item, 1);
       if (code == -1) return;  // a glyph without a code
       if (!(code >= 0 && code < static_cast<float>(characters.size()))) {
-        throw Error::SubscriptOutOfRange("Font metrics: character code outside 0 to 255 in '" +
+        throw Error::SubscriptOutOfRange("font metrics: character code outside 0 to 255 in '" +
                                          std::string(item) + "'");
       }
       character = &characters[static_cast<std::size_t>(code)];

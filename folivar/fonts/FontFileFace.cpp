@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "folivar/base/Error.h"
+#include "folivar/file/FileHandle.h"
 #include "folivar/file/FileSource.h"
 #include "folivar/file/FileSystem.h"
 #include "folivar/fonts/FontPrograms.h"
@@ -122,8 +123,8 @@ std::vector<FontFileFace> ReadFaces(const Text& fileName) {
     // A small file could name the same font a million times and keep us reading for hours.
     size += tables.OwnSize();
     if (size > file.Size()) {
-      throw Error::InvalidFileFormat("Font file '" + fileName.Utf8() +
-                                     "' is damaged: its fonts overlap");
+      throw Error::InvalidFileFormat("damaged font: its fonts overlap")
+          .WithObject(FileNamed(fileName.Utf8()));
     }
     if (!tables.HasTrueTypeOutlines()) continue;
     faces.push_back({fileName, index, tables.FamilyName(), tables.IsBold(), tables.IsItalic()});

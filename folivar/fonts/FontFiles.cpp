@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -48,14 +49,16 @@ Text NameIn(TextView name) {
   return AbsoluteName(text);
 }
 
+std::int32_t NumberOf(const std::error_code& error) {
+  if (error == std::errc::permission_denied) return Error::kPermissionDenied;
+  if (error == std::errc::no_such_file_or_directory) return Error::kPathNotFound;
+  if (error == std::errc::not_a_directory) return Error::kPathNotFound;
+  return Error::kPathFileAccess;
+}
+
 Error FolderError(const Text& folder, const std::error_code& error) {
-  const std::string text =
-      "Cannot read folder '" + folder.Utf8() + "': " + error.default_error_condition().message();
-  if (error == std::errc::permission_denied) return Error::PermissionDenied(text);
-  if (error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory) {
-    return Error::PathNotFound(text);
-  }
-  return Error::PathFileAccess(text);
+  const std::string cause = "cannot be read: " + error.default_error_condition().message();
+  return Error(NumberOf(error), cause).WithObject("folder '" + folder.Utf8() + "'");
 }
 
 // Appends the font files and the folders in a folder.
@@ -114,7 +117,7 @@ void FontFiles::Add(const Text& name) {
     faces.emplace(FoldCase(face.family), std::move(face));
   }
   if (faces.empty()) {
-    throw Error::InvalidFileFormat("Font file '" + name.Utf8() + "' has no TrueType outlines");
+    throw Error::InvalidFileFormat("has no TrueType outlines").WithObject(FileNamed(name.Utf8()));
   }
   const std::lock_guard lock(mutex_);
   faces_.merge(faces);

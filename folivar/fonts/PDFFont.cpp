@@ -59,13 +59,31 @@ float PDFFont::TextHeight(std::optional<TextView> text) const {
   });
 }
 
-float PDFFont::Ascender() const { return FontMetrics(*this).Ascender(); }
-float PDFFont::Descender() const { return FontMetrics(*this).Descender(); }
-float PDFFont::Leading() const { return FontMetrics(*this).Leading(); }
-float PDFFont::FontBoxTop() const { return FontMetrics(*this).Scaled(face_->FontBoxTop()); }
-float PDFFont::FontBoxLeft() const { return FontMetrics(*this).Scaled(face_->FontBoxLeft()); }
-float PDFFont::FontBoxRight() const { return FontMetrics(*this).Scaled(face_->FontBoxRight()); }
-float PDFFont::FontBoxBottom() const { return FontMetrics(*this).Scaled(face_->FontBoxBottom()); }
+float PDFFont::Ascender() const {
+  return InMember("PDFFont.Ascender", [&] { return FontMetrics(*this).Ascender(); });
+}
+float PDFFont::Descender() const {
+  return InMember("PDFFont.Descender", [&] { return FontMetrics(*this).Descender(); });
+}
+float PDFFont::Leading() const {
+  return InMember("PDFFont.Leading", [&] { return FontMetrics(*this).Leading(); });
+}
+float PDFFont::FontBoxTop() const {
+  return InMember("PDFFont.FontBoxTop",
+                  [&] { return FontMetrics(*this).Scaled(face_->FontBoxTop()); });
+}
+float PDFFont::FontBoxLeft() const {
+  return InMember("PDFFont.FontBoxLeft",
+                  [&] { return FontMetrics(*this).Scaled(face_->FontBoxLeft()); });
+}
+float PDFFont::FontBoxRight() const {
+  return InMember("PDFFont.FontBoxRight",
+                  [&] { return FontMetrics(*this).Scaled(face_->FontBoxRight()); });
+}
+float PDFFont::FontBoxBottom() const {
+  return InMember("PDFFont.FontBoxBottom",
+                  [&] { return FontMetrics(*this).Scaled(face_->FontBoxBottom()); });
+}
 
 bool PDFFont::Italic() const { return face_->m_IsItalic; }
 bool PDFFont::Bold() const { return face_->m_IsBold; }

@@ -94,13 +94,16 @@ std::shared_ptr<PDFFont> PDFFonts::Add(TextView faceName, PDFFontType fontType, 
 }
 
 std::shared_ptr<PDFFont> PDFFonts::Item(const Value& indexOrKey, PDFFontType fontType) {
-  const FaceList& faces = FacesOf(fontType);
-  const Text* name = indexOrKey.As<Text>();
-  return FontOf(faces.Item(name ? Value(KeyOf(*name, fontType)) : indexOrKey));
+  return InMember("PDFFonts.Item", [&] {
+    const FaceList& faces = FacesOf(fontType);
+    const Text* name = indexOrKey.As<Text>();
+    return FontOf(faces.Item(name ? Value(KeyOf(*name, fontType)) : indexOrKey));
+  });
 }
 
 std::int32_t PDFFonts::count(PDFFontType fontType) const {
-  return static_cast<std::int32_t>(FacesOf(fontType).Count());
+  return InMember("PDFFonts.count",
+                  [&] { return static_cast<std::int32_t>(FacesOf(fontType).Count()); });
 }
 
 bool PDFFonts::FontExists(TextView faceName, PDFFontType fontType) const {
@@ -188,10 +191,10 @@ std::shared_ptr<PDFFontInfo> PDFFonts::AddTrueTypeFace(const Text& faceName, boo
   face->m_EmbedFont = embed;
   const auto selected = SelectFace(faceName, isBold, isItalic);
   if (!selected) {
-    throw Error::ActionNotSupported("Font '" + faceName.Utf8() +
-                                    "': there is no TrueType font, neither among the document's "
-                                    "font files nor " +
-                                    std::string(kWhereInstalled));
+    throw Error::ActionNotSupported(
+        "there is no TrueType font, neither among the document's font files nor " +
+        std::string(kWhereInstalled))
+        .WithObject("font '" + faceName.Utf8() + "'");
   }
   face->LoadTrueTypeMetrics(faceName, *selected, *platform_.warnings);
   // What the system put in the place of the face wanted may be here already.

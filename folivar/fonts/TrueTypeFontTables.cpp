@@ -9,6 +9,7 @@
 #include "folivar/base/AnsiText.h"
 #include "folivar/base/BigEndian.h"
 #include "folivar/base/Error.h"
+#include "folivar/file/FileHandle.h"
 
 namespace folivar {
 namespace {
@@ -47,7 +48,7 @@ constexpr auto kNeededTables = std::to_array<NeededTable>({
 });
 
 [[noreturn]] void RefuseFile(const std::string& name, std::string_view what) {
-  throw Error::InvalidFileFormat("Font file '" + name + "' is damaged: " + std::string(what));
+  throw Error::InvalidFileFormat("damaged font: " + std::string(what)).WithObject(FileNamed(name));
 }
 
 // Bytes of the file that have to be there.

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "folivar/file/ByteSource.h"
+#include "folivar/file/FileHandle.h"
 
 namespace folivar {
 
@@ -17,7 +18,7 @@ class ImageFile {
   ImageFile(ByteSource& bytes, std::string name) : bytes_(bytes), name_(std::move(name)) {}
 
   // "file 'logo.bmp'"
-  std::string Name() const { return "file '" + name_ + "'"; }
+  std::string Name() const { return FileNamed(name_); }
 
   std::uint64_t Size() const { return bytes_.Size(); }
 

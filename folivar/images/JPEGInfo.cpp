@@ -54,8 +54,9 @@ std::uint16_t BigEndian(const char* bytes) {
 
 std::int16_t Pixels(std::uint16_t number, const char* what, const ImageFile& file) {
   if (number > std::numeric_limits<std::int16_t>::max()) {
-    throw Error::Overflow("A " + std::string(what) + " of " + std::to_string(number) +
-                          " pixels does not fit into 16 bits, in " + file.Name());
+    throw Error::Overflow("a " + std::string(what) + " of " + std::to_string(number) +
+                          " pixels does not fit into 16 bits")
+        .WithObject(file.Name());
   }
   return static_cast<std::int16_t>(number);
 }
@@ -94,7 +95,7 @@ bool JPEGInfo::LoadImageInfo(ImageFile& file) {
   Frame frame;
   if (!FindFrame(file, frame)) return false;
   if (file.Size() > std::numeric_limits<std::int32_t>::max()) {
-    throw Error::Overflow("More than 2147483647 bytes are in " + file.Name());
+    throw Error::Overflow("is longer than 2147483647 bytes").WithObject(file.Name());
   }
   width_ = frame.width;
   height_ = frame.height;

@@ -11,6 +11,7 @@
 #include "folivar/base/InMember.h"
 #include "folivar/document/Global.h"
 #include "folivar/file/ByteSink.h"
+#include "folivar/file/FileHandle.h"
 #include "folivar/file/FileSource.h"
 #include "folivar/file/ObjectNumbers.h"
 #include "folivar/file/PDFText.h"
@@ -59,7 +60,7 @@ FileSource Open(const Text& fileName) {
     return FileSource(fileName);
   } catch (const Error&) {
     if (FileExists(fileName)) throw;
-    throw Error::FileNotFound("Image file '" + fileName.Utf8() + "' does not exist");
+    throw Error::FileNotFound("does not exist").WithObject(FileNamed(fileName.Utf8()));
   }
 }
 
@@ -89,25 +90,24 @@ PDFImage::PDFImage(const Internal&, std::weak_ptr<PDFDocument> document, TextVie
 PDFImage::~PDFImage() = default;
 
 void PDFImage::SetFileName(TextView fileName) {
-  Text name;
-  const Format* format = nullptr;
   InMember("PDFImage.FileName", [&] {
-    name = Text(fileName);
-    format = FormatOf(name);
+    Text name(fileName);
+    const Format* format = FormatOf(name);
+    std::unique_ptr<ImageReader> reader;
+    if (format != nullptr) {
+      FileSource source = Open(name);
+      ImageFile file(source, name.Utf8());
+      reader = format->makeReader();
+      if (!reader->LoadImageInfo(file)) reader.reset();
+    }
+    if (!reader) {
+      throw Error::UnknownImageType("Error: Image type unknown for " + name.Utf8() + ".")
+          .WithObject(FileNamed(name.Utf8()));
+    }
+    fileName_ = std::move(name);
+    filter_ = format->filter;
+    reader_ = std::move(reader);
   });
-  std::unique_ptr<ImageReader> reader;
-  if (format != nullptr) {
-    FileSource source = Open(name);
-    ImageFile file(source, name.Utf8());
-    reader = format->makeReader();
-    if (!reader->LoadImageInfo(file)) reader.reset();
-  }
-  if (!reader) {
-    throw Error::UnknownImageType("Error: Image type unknown for " + name.Utf8() + ".");
-  }
-  fileName_ = std::move(name);
-  filter_ = format->filter;
-  reader_ = std::move(reader);
 }
 
 std::int32_t PDFImage::Width() const { return reader_ ? reader_->Width() : 0; }
@@ -115,7 +115,7 @@ std::int32_t PDFImage::Height() const { return reader_ ? reader_->Height() : 0; 
 
 void PDFImage::NumberObjects(ObjectNumbers& numbers) {
   if (!reader_) {
-    throw Error::ObjectNotSet("The image " + NameOf(*this) + " was never given a file");
+    throw Error::ObjectNotSet("was never given a file").WithObject("image " + NameOf(*this));
   }
   objectNumber_ = numbers.Take();
 }
@@ -128,7 +128,7 @@ void PDFImage::WriteObjects(SaveFile& file) {
   reader_->WriteImageStream(imageFile, stream);
   assert(std::cmp_equal(stream.Written(), reader_->ImageStreamSize()));
   file.AppendBytes("\nendstream\n");
-  OfObject([&] { return "file '" + fileName_.Utf8() + "'"; }, [&] { file.EndObject(); });
+  OfObject([&] { return FileNamed(fileName_.Utf8()); }, [&] { file.EndObject(); });
 }
 
 //   9 0 obj

@@ -3,6 +3,7 @@
 #include <string>
 #include <utility>
 
+#include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
 
 namespace folivar {
@@ -17,10 +18,12 @@ PDFImages::PDFImages(const Internal&, std::weak_ptr<PDFDocument> document)
 
 // The first image is "/I1".
 std::shared_ptr<PDFImage> PDFImages::Add(TextView key, const Value& before, const Value& after) {
-  auto image =
-      std::make_shared<PDFImage>(Internal(), document_, key, "/I" + std::to_string(count() + 1));
-  members_.Add(image, key, before, after);
-  return image;
+  return InMember("PDFImages.Add", [&] {
+    auto image =
+        std::make_shared<PDFImage>(Internal(), document_, key, "/I" + std::to_string(count() + 1));
+    members_.Add(image, key, before, after);
+    return image;
+  });
 }
 
 void PDFImages::NumberObjects(ObjectNumbers& numbers) {

@@ -15,6 +15,10 @@ PDFBookmark::PDFBookmark(const Internal& internal, TextView key)
 
 PDFBookmark::~PDFBookmark() = default;
 
+void PDFBookmark::SetTitle(TextView title) {
+  InMember("PDFBookmark.Title", [&] { title_ = Text(title); });
+}
+
 const std::shared_ptr<PDFBookmarks>& PDFBookmark::SubBookmarks() {
   if (!subBookmarks_) subBookmarks_ = std::make_shared<PDFBookmarks>(Internal());
   return subBookmarks_;

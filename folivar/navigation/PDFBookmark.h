@@ -27,7 +27,7 @@ class FOLIVAR_API PDFBookmark final : public Tagged {
   // escape it in their own ways: a parenthesis without its other, or a backslash, spoils the
   // outline. EscapeTitle makes any text a title.
   const Text& Title() const { return title_; }
-  void SetTitle(TextView title) { title_ = Text(title); }
+  void SetTitle(TextView title);
 
   // Whether the bookmarks below it show; false at first.
   bool Expanded() const { return expanded_; }

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
 
 namespace folivar {
@@ -34,9 +35,11 @@ std::shared_ptr<PDFBookmarks> PDFBookmarks::TakeDoomed(PDFBookmarks& from,
 
 std::shared_ptr<PDFBookmark> PDFBookmarks::Add(TextView key, const Value& before,
                                                const Value& after) {
-  auto bookmark = std::make_shared<PDFBookmark>(Internal(), key);
-  members_.Add(bookmark, key, before, after);
-  return bookmark;
+  return InMember("PDFBookmarks.Add", [&] {
+    auto bookmark = std::make_shared<PDFBookmark>(Internal(), key);
+    members_.Add(bookmark, key, before, after);
+    return bookmark;
+  });
 }
 
 void PDFBookmarks::Remove(const Value& indexOrKey) { members_.Remove(indexOrKey); }

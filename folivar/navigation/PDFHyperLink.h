@@ -20,7 +20,7 @@ class PDFText;
 // A rectangle on a page that leads to a place in the document when it is clicked; made by
 // PDFHyperLinks::Add. Its region is on its own page. A number that PDF cannot hold raises 6 when
 // the document is saved.
-class FOLIVAR_API PDFHyperLink final : public Tagged, public Region {
+class FOLIVAR_API PDFHyperLink final : public Tagged, public Region<PDFHyperLink> {
  public:
   PDFHyperLink(const Internal&, TextView key);
 

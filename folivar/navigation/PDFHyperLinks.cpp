@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
 #include "folivar/file/ObjectNumbers.h"
 #include "folivar/file/PDFText.h"
@@ -14,9 +15,11 @@ PDFHyperLinks::PDFHyperLinks(const Internal&, std::weak_ptr<PDFPages> pages)
 
 std::shared_ptr<PDFHyperLink> PDFHyperLinks::Add(TextView key, const Value& before,
                                                  const Value& after) {
-  auto link = std::make_shared<PDFHyperLink>(Internal(), key);
-  members_.Add(link, key, before, after);
-  return link;
+  return InMember("PDFHyperLinks.Add", [&] {
+    auto link = std::make_shared<PDFHyperLink>(Internal(), key);
+    members_.Add(link, key, before, after);
+    return link;
+  });
 }
 
 void PDFHyperLinks::Remove(const Value& indexOrKey) { members_.Remove(indexOrKey); }

@@ -22,7 +22,7 @@ class PDFText;
 // Without a page it leads nowhere, and so it does with a page of another document or one that is in
 // no collection any more; the bookmark or link is then written without a destination. A number that
 // PDF cannot hold raises 6 when the document is saved.
-class FOLIVAR_API PDFLinkDestination final : public Object, public Region {
+class FOLIVAR_API PDFLinkDestination final : public Object, public Region<PDFLinkDestination> {
  public:
   explicit PDFLinkDestination(const Internal&) {}
 

@@ -2,6 +2,8 @@
 
 #include "folivar/base/InMember.h"
 #include "folivar/base/Numbers.h"
+#include "folivar/navigation/PDFHyperLink.h"
+#include "folivar/navigation/PDFLinkDestination.h"
 
 namespace folivar {
 namespace {
@@ -17,10 +19,19 @@ Span SpanOf(float start, float length) {
   return length >= 0 ? Span{start, end} : Span{end, start};
 }
 
+// What errors call the class.
+template <class Owner>
+constexpr const char* kClassName = nullptr;
+template <>
+constexpr const char* kClassName<PDFHyperLink> = "PDFHyperLink";
+template <>
+constexpr const char* kClassName<PDFLinkDestination> = "PDFLinkDestination";
+
 }  // namespace
 
-void Region::SetRegion(float left, float bottom, float width, float height) {
-  InMember("SetRegion", [&] {
+template <class Owner>
+void Region<Owner>::SetRegion(float left, float bottom, float width, float height) {
+  InMember(kClassName<Owner>, "SetRegion", [&] {
     const Span across = SpanOf(left, width);
     const Span upwards = SpanOf(bottom, height);
     left_ = across.low;
@@ -30,30 +41,37 @@ void Region::SetRegion(float left, float bottom, float width, float height) {
   });
 }
 
-float Region::Width() const {
-  return InMember("Width", [&] { return Finite(right_ - left_); });
+template <class Owner>
+float Region<Owner>::Width() const {
+  return InMember(kClassName<Owner>, "Width", [&] { return Finite(right_ - left_); });
 }
 
-void Region::SetWidth(float width) {
-  InMember("Width", [&] {
+template <class Owner>
+void Region<Owner>::SetWidth(float width) {
+  InMember(kClassName<Owner>, "Width", [&] {
     const Span across = SpanOf(left_, width);
     left_ = across.low;
     right_ = across.high;
   });
 }
 
-float Region::Height() const {
-  return InMember("Height", [&] { return Finite(top_ - bottom_); });
+template <class Owner>
+float Region<Owner>::Height() const {
+  return InMember(kClassName<Owner>, "Height", [&] { return Finite(top_ - bottom_); });
 }
 
 // Deliberate: downwards from the top, which a height of 100 leaves at 700 with the bottom at 600;
 // SetRegion measures upwards. Hosts of the automation interface count on both.
-void Region::SetHeight(float height) {
-  InMember("Height", [&] {
+template <class Owner>
+void Region<Owner>::SetHeight(float height) {
+  InMember(kClassName<Owner>, "Height", [&] {
     const Span downwards = SpanOf(top_, -height);
     bottom_ = downwards.low;
     top_ = downwards.high;
   });
 }
+
+template class Region<PDFHyperLink>;
+template class Region<PDFLinkDestination>;
 
 }  // namespace folivar

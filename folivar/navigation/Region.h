@@ -9,6 +9,9 @@ namespace folivar {
 // side of the others.
 //
 // A sum or difference of edges beyond a single raises 6, and the region stays as it was.
+//
+// `Owner` is the class that it is a part of, which errors name.
+template <class Owner>
 class FOLIVAR_API Region {
  public:
   float Left() const { return left_; }

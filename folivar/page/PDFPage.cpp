@@ -44,7 +44,7 @@ void PDFPage::SetFont(std::shared_ptr<PDFFont> font) {
 
 std::shared_ptr<PDFDocument> PDFPage::ParentDocument() const {
   if (auto document = surface_->ParentDocument().lock()) return document;
-  throw Error::ObjectNotSet("ParentDocument: the document of this PDFPage is gone");
+  throw Error::ObjectNotSet("the document is gone").WithMember("PDFPage.ParentDocument");
 }
 
 void PDFPage::SetPageExtents(float width, float height) {

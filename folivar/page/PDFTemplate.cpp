@@ -151,8 +151,9 @@ void PDFTemplate::NumberObjects(ObjectNumbers& numbers) { objectNumber_ = number
 //   endstream
 //   endobj
 void PDFTemplate::WriteObjects(SaveFile& file) {
+  const auto name = [&] { return "PDFTemplate " + NameOf(*this); };
   // Deliberate: a box that sizes itself is counted as it was before.
-  if (autoSizeClipBox_) ExpandClipBoxToFitTextBoxes();
+  if (autoSizeClipBox_) OfObject(name, [&] { ExpandClipBoxToFitTextBoxes(); });
   PDFText& textBoxes = file.Draft();
   if (textBoxes_) {
     textBoxes_->RegisterFaces(Internal());
@@ -160,7 +161,7 @@ void PDFTemplate::WriteObjects(SaveFile& file) {
   }
   PDFText& text = file.BeginObject(objectNumber_);
   text.Append("<< /Type /XObject\n/Subtype /Form\n/FormType 1\n");
-  OfObject([&] { return "clip box of PDFTemplate " + NameOf(*this); },
+  OfObject([&] { return "clip box of " + name(); },
            [&] {
              text.Append("/BBox [ ", Real{clipBox_.left}, " ", Real{clipBox_.bottom}, " ",
                          Real{clipBox_.right}, " ", Real{clipBox_.top}, "]\n");

@@ -3,6 +3,7 @@
 #include <string>
 #include <utility>
 
+#include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
 #include "folivar/fonts/PDFFont.h"
 
@@ -22,10 +23,12 @@ PDFTemplates::PDFTemplates(const Internal&, std::weak_ptr<PDFDocument> document,
 // Templates are never taken out, so a name that counts them is never given twice.
 std::shared_ptr<PDFTemplate> PDFTemplates::Add(TextView key, const Value& before,
                                                const Value& after) {
-  auto added = std::make_shared<PDFTemplate>(Internal(), document_, defaultFont_, key,
-                                             "/T" + std::to_string(count() + 1));
-  members_.Add(added, key, before, after);
-  return added;
+  return InMember("PDFTemplates.Add", [&] {
+    auto added = std::make_shared<PDFTemplate>(Internal(), document_, defaultFont_, key,
+                                               "/T" + std::to_string(count() + 1));
+    members_.Add(added, key, before, after);
+    return added;
+  });
 }
 
 void PDFTemplates::NumberObjects(ObjectNumbers& numbers) {

@@ -77,8 +77,9 @@ PDFTextBox::~PDFTextBox() = default;
 
 std::shared_ptr<Object> PDFTextBox::Parent() const {
   if (auto parent = parent_.lock()) return parent;
-  throw Error::ObjectNotSet("Parent: the owner of the " + KeyedName("PDFTextBox", Key()) +
-                            " is gone");
+  throw Error::ObjectNotSet("the owner is gone")
+      .WithObject(KeyedName("PDFTextBox", Key()))
+      .WithMember("PDFTextBox.Parent");
 }
 
 float PDFTextBox::Bottom() const {
@@ -119,10 +120,12 @@ void PDFTextBox::SetHeight(float height) {
 
 void PDFTextBox::Move(float left, std::optional<float> top, std::optional<float> width,
                       std::optional<float> height) {
-  SetLeft(left);
-  if (top) SetTop(*top);
-  if (width) SetWidth(*width);
-  if (height) SetHeight(*height);
+  InMember("PDFTextBox.Move", [&] {
+    SetLeft(left);
+    if (top) SetTop(*top);
+    if (width) SetWidth(*width);
+    if (height) SetHeight(*height);
+  });
 }
 
 void PDFTextBox::AutoSizeNow() {
@@ -153,8 +156,8 @@ void PDFTextBox::Copy(const std::shared_ptr<PDFTextBox>& source) {
   InMember("PDFTextBox.Copy", [&] {
     if (!source) throw Error::ObjectNotSet("no text box is given");
     if (!parentSurface_->IsOfSameDocument(*source->parentSurface_)) {
-      throw Error::InvalidArgument("the " + KeyedName("text box", source->Key()) +
-                                   " belongs to another document");
+      throw Error::InvalidArgument("belongs to another document")
+          .WithObject(KeyedName("text box", source->Key()));
     }
     if (source.get() == this) return;
     folivar::Text text = source->text_;
@@ -198,9 +201,9 @@ void PDFTextBox::SetSelStart(std::int32_t start) {
 void PDFTextBox::SetSelLength(std::int32_t length) {
   const std::int64_t end = std::int64_t{selStart_} + length;
   if (end > std::numeric_limits<std::int32_t>::max()) {
-    throw Error::Overflow("PDFTextBox.SelLength: a selection from " + std::to_string(selStart_) +
-                          " of length " + std::to_string(length) +
-                          " ends beyond what 32 bits can say");
+    throw Error::Overflow("a selection from " + std::to_string(selStart_) + " of length " +
+                          std::to_string(length) + " ends beyond what 32 bits can say")
+        .WithMember("PDFTextBox.SelLength");
   }
   if (length >= 0) {
     selEnd_ = static_cast<std::int32_t>(std::min(end, TextLength()));

@@ -4,6 +4,7 @@
 
 #include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
+#include "folivar/base/KeyedName.h"
 #include "folivar/drawing/ClipBox.h"
 #include "folivar/drawing/Surface.h"
 
@@ -17,19 +18,22 @@ PDFTextBoxes::PDFTextBoxes(const Internal&, std::weak_ptr<Object> parent,
 
 std::shared_ptr<PDFTextBox> PDFTextBoxes::Add(TextView key, const Value& before,
                                               const Value& after) {
-  auto box = InMember("PDFTextBoxes.Add", [&] {
-    return std::make_shared<PDFTextBox>(Internal(), parent_, parentSurface_, key);
+  return InMember("PDFTextBoxes.Add", [&] {
+    auto box = std::make_shared<PDFTextBox>(Internal(), parent_, parentSurface_, key);
+    members_.Add(box, key, before, after);
+    return box;
   });
-  members_.Add(box, key, before, after);
-  return box;
 }
 
 void PDFTextBoxes::Remove(const Value& indexOrKey) { members_.Remove(indexOrKey); }
 
 void PDFTextBoxes::ExtendClipBox(const Internal&, ClipBox& clipBox) const {
   members_.ForEach([&](const std::shared_ptr<PDFTextBox>& box) {
-    clipBox.ExtendClipBox(box->Left(), box->Bottom());
-    clipBox.ExtendClipBox(box->Right(), box->Top());
+    OfObject([&] { return KeyedName("PDFTextBox", box->Key()); },
+             [&] {
+               clipBox.ExtendClipBox(box->Left(), box->Bottom());
+               clipBox.ExtendClipBox(box->Right(), box->Top());
+             });
   });
 }
 

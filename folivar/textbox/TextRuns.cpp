@@ -34,7 +34,7 @@ std::int32_t AsLength(std::int64_t length) {
 std::int32_t SumOf(std::int32_t a, std::int32_t b) { return AsLength(std::int64_t{a} + b); }
 
 [[noreturn]] void RaiseNoSuchRun(std::size_t number, std::size_t count) {
-  throw Error::SubscriptOutOfRange("Position " + std::to_string(number) + " is outside 1 to " +
+  throw Error::SubscriptOutOfRange("position " + std::to_string(number) + " is outside 1 to " +
                                    std::to_string(count) + " in the runs of the text box");
 }
 

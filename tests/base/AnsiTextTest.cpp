@@ -99,7 +99,7 @@ TEST(AnsiText, ConvertsTextsOfAnyLength) {
 TEST(AnsiText, Raises5ForWhatIsNotUtf8AndNamesThePosition) {
   EXPECT_EQ(ErrorNumberOf([] { AnsiText text("abc\xFF"); }), Error::kInvalidArgument);
   EXPECT_EQ(ErrorTextOf([] { AnsiText text("abc\xFF"); }),
-            "Text is not UTF-8: invalid byte at position 3 (counted from 0)");
+            "text is not UTF-8: invalid byte at position 3 (counted from 0)");
 }
 
 }  // namespace

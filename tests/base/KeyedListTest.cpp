@@ -205,8 +205,8 @@ TEST_F(KeyedListOfThree, KeyExistsNeverRaises) {
 }
 
 TEST_F(KeyedListOfThree, ErrorTextsNameWhatAndWhere) {
-  EXPECT_EQ(ErrorTextOf([&] { Add(list_, 4, "A"); }), "Key 'A' is already in use in PDFThings");
-  EXPECT_EQ(ErrorTextOf([&] { list_.Item("\u00E9"); }), "Key '\u00E9' is not in PDFThings");
+  EXPECT_EQ(ErrorTextOf([&] { Add(list_, 4, "A"); }), "PDFThings.Add: key 'A' is already in use");
+  EXPECT_EQ(ErrorTextOf([&] { list_.Item("\u00E9"); }), "PDFThings.Item: there is no key '\u00E9'");
   const std::string outside = ErrorTextOf([&] { list_.Item(4); });
   EXPECT_NE(outside.find("4"), std::string::npos) << outside;
   EXPECT_NE(outside.find("1 to 3"), std::string::npos) << outside;

@@ -206,7 +206,7 @@ TEST_F(Utf8, SaysThatThePositionCountsFrom0) {
   } catch (const Error& error) {
     EXPECT_EQ(error.Number(), Error::kInvalidArgument);
     EXPECT_EQ(std::string(error.what()),
-              "Text is not UTF-8: invalid byte at position 3 (counted from 0)");
+              "text is not UTF-8: invalid byte at position 3 (counted from 0)");
   }
 }
 

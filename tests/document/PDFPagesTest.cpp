@@ -74,7 +74,9 @@ TEST_F(PDFPagesOfThree, AddChecksBothPlacesThenTheKeyThenThePlace) {
 }
 
 TEST_F(PDFPagesOfThree, AKeyInUseIsNamedWithItsCollection) {
-  EXPECT_EQ(ErrorTextOf([&] { pages_->Add("A"); }), "Key 'A' is already in use in PDFPages");
+  EXPECT_EQ(ErrorTextOf([&] { pages_->Add("A"); }), "PDFPages.Add: key 'A' is already in use");
+  EXPECT_EQ(ErrorTextOf([&] { pages_->Add("\xFF"); }),
+            "PDFPages.Add: text is not UTF-8: invalid byte at position 0 (counted from 0)");
 }
 
 TEST_F(PDFPagesOfThree, ItemTakesAPositionOrAKeyInAnyCase) {
@@ -199,6 +201,7 @@ TEST_F(PDFPagesOfThree, ARemoveThatFailsRaisesNoEvent) {
       pages_->Item("b")->PageRemoved().Subscribe([&](PDFPage&) { isHeard = true; });
   EXPECT_EQ(ErrorNumberOf([&] { pages_->Remove(4); }), Error::kSubscriptOutOfRange);
   EXPECT_EQ(ErrorNumberOf([&] { pages_->Remove("x"); }), Error::kInvalidArgument);
+  EXPECT_EQ(ErrorTextOf([&] { pages_->Remove("x"); }), "PDFPages.Remove: there is no key 'x'");
   pages_->ReOrder("x");
   EXPECT_FALSE(isHeard);
 }

@@ -52,6 +52,8 @@ TEST(PDFViewerPreferences, LayoutAndModeNeedTheDocument) {
   document.reset();
   EXPECT_EQ(ErrorNumberOf([&] { preferences->PageLayout(); }), Error::kObjectNotSet);
   EXPECT_EQ(ErrorNumberOf([&] { preferences->SetPageMode(pmsUseNone); }), Error::kObjectNotSet);
+  EXPECT_EQ(ErrorTextOf([&] { preferences->SetPageMode(pmsUseNone); }),
+            "PDFViewerPreferences.PageMode: the document is gone");
   preferences->SetFitWindow(true);
   EXPECT_TRUE(preferences->FitWindow());
 }

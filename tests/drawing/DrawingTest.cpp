@@ -338,9 +338,9 @@ TEST(DrawTemplate, TemplateOfAnotherDocumentIsRefusedByName) {
               EXPECT_EQ(ErrorNumberOf([&] { page.DrawTemplate(named, 1, 2); }),
                         Error::kInvalidArgument);
               EXPECT_EQ(ErrorTextOf([&] { page.DrawTemplate(named, 1, 2); }),
-                        "PDFPage.DrawTemplate: the template 'logo' belongs to another document");
+                        "PDFPage.DrawTemplate: template 'logo': belongs to another document");
               EXPECT_EQ(ErrorTextOf([&] { page.DrawTemplate(unnamed); }),
-                        "PDFPage.DrawTemplate: the template /T2 belongs to another document");
+                        "PDFPage.DrawTemplate: template /T2: belongs to another document");
               EXPECT_EQ(ErrorTextOf([&] { page.DrawTemplate(nullptr); }),
                         "PDFPage.DrawTemplate: no template is given");
             }),
@@ -567,9 +567,9 @@ TEST(DrawImage, ImageOfAnotherDocumentIsRefused) {
               EXPECT_EQ(ErrorNumberOf([&] { mine.DrawImage(image, 0, 0); }),
                         Error::kInvalidArgument);
               EXPECT_EQ(ErrorTextOf([&] { mine.DrawImage(image, 0, 0); }),
-                        "PDFPage.DrawImage: the image /I1 belongs to another document");
+                        "PDFPage.DrawImage: image /I1: belongs to another document");
               EXPECT_EQ(ErrorTextOf([&] { mine.DrawImage(keyed, 0, 0); }),
-                        "PDFPage.DrawImage: the image 'logo' belongs to another document");
+                        "PDFPage.DrawImage: image 'logo': belongs to another document");
             }),
             "");
 }

@@ -241,9 +241,9 @@ cp "$pictures/lemons.jpg" odd/lemons.gif
 cp "$pictures/lemons.jpg" odd/lemons.bmp
 printf 'no picture' >odd/text.jpg
 printf '\xFF\xD8\xFF\xC0\0\x11\x08\0\0\0\x10\x03' >odd/flat.jpg
-refuses "missing picture" "bad.csv:3: Image file 'odd/pears.jpg' does not exist" \
+refuses "missing picture" "bad.csv:3: PDFImage.FileName: file 'odd/pears.jpg': does not exist" \
   "$header"'good.jpg,a,b\npears.jpg,Pears,None left\n'
-refuses "folder as a picture" "bad.csv:2: Cannot read file 'odd/folder.jpg': Is a directory" \
+refuses "folder as a picture" "bad.csv:2: PDFImage.FileName: file 'odd/folder.jpg': cannot be read: Is a directory" \
   "$header"'folder.jpg,a,b\n'
 refuses "unknown type" "bad.csv:2: Error: Image type unknown for odd/lemons.gif." \
   "$header"'lemons.gif,a,b\n'
@@ -260,7 +260,7 @@ refuses "empty file" \
 refuses "column missing" "bad.csv:1: the header has no column 'caption'" 'picture,title\n'
 refuses "too few fields" "bad.csv:2: 2 fields where the header has 3" "$header"'good.jpg,a\n'
 refuses "not UTF-8" "bad.csv:2: the text is not UTF-8" "$header"'good.jpg,caf\xE9,b\n'
-refuses "line break in a name" "bad.csv:2: Image file 'odd/a?.jpg' does not exist" \
+refuses "line break in a name" "bad.csv:2: PDFImage.FileName: file 'odd/a?.jpg': does not exist" \
   "$header"'"a\n.jpg",a,b\n'
 
 printf '%b' "$header"'lemons.bmp,a,b\n' >bad.csv
@@ -276,7 +276,7 @@ rm -f missing.csv
 check "no captions: an error" fails_with "missing.csv: cannot be opened: No such file or directory" \
   env LC_ALL=C "$catalogue" "$pictures" missing.csv none.pdf
 check "no folder: an error" fails_with \
-  "$captions:2: Image file 'nowhere/lighthouse.jpg' does not exist" \
+  "$captions:2: PDFImage.FileName: file 'nowhere/lighthouse.jpg': does not exist" \
   "$catalogue" nowhere "$captions" none.pdf
 check "neither: no PDF" test ! -e none.pdf
 "$catalogue" "$pictures" "$captions" 2>usage.log

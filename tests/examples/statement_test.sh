@@ -267,12 +267,12 @@ rm -f server.pdf
 "$statement" --font "Liberation Sans" --font-folder damaged --font-folder "$liberation" \
   "$data" server.pdf 2>damaged.log
 check "damaged font in a folder: goes on" same "exit code $?" "exit code 0"
-check "damaged font in a folder: named" grep -q "^statement: .*'$PWD/damaged/cut.ttf' is damaged" \
+check "damaged font in a folder: named" grep -q "^statement: .*'$PWD/damaged/cut.ttf': damaged font" \
   damaged.log
 check "damaged font in a folder: no other line" same "$(wc -l <damaged.log)" 1
 check "damaged font in a folder: the other folder counts" cmp server.pdf a4-embedded.pdf
 check "font folder that is not there: an error that names it" fails_with \
-  "FontFiles.AddFolder: Cannot read folder '$PWD/nowhere': No such file or directory" \
+  "FontFiles.AddFolder: folder '$PWD/nowhere': cannot be read: No such file or directory" \
   env LC_ALL=C "$statement" --font "Liberation Sans" --font-folder nowhere "$data" none.pdf
 check "font folder that is not there: no PDF" test ! -e none.pdf
 "$statement" --font-folder "$liberation" "$data" none.pdf 2>usage.log

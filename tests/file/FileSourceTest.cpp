@@ -73,7 +73,7 @@ TEST(FileSource, TellsWhyAFileCannotBeRead) {
   EXPECT_EQ(numberFor(std::string("a\0b", 3)), Error::kBadFileName);
   EXPECT_EQ(numberFor(path.parent_path() / std::string(300, 'x')), Error::kBadFileName);
   EXPECT_EQ(ErrorTextOf([&] { FileSource source(Text("no/such.file")); }),
-            "Cannot read file 'no/such.file': No such file or directory");
+            "file 'no/such.file': cannot be read: No such file or directory");
 }
 
 }  // namespace

@@ -162,7 +162,7 @@ TEST(FontFileFace, ADamagedFileIsNamedWithItsTable) {
   const path file = Written("damaged.ttf", font.Build());
   EXPECT_EQ(ErrorNumberOf([&] { FacesIn(file); }), Error::kInvalidFileFormat);
   EXPECT_EQ(ErrorTextOf([&] { FacesIn(file); }),
-            "Font file '" + file.string() + "' is damaged: it has no table 'hmtx'");
+            "file '" + file.string() + "': damaged font: it has no table 'hmtx'");
 }
 
 TEST(FontFileFace, AFileThatIsDamagedSinceItWasListedIsNamed) {
@@ -196,7 +196,7 @@ TEST(FontFileFace, ACollectionOfOneFontManyTimesIsRefusedAtOnce) {
     EXPECT_EQ(ErrorNumberOf([&] { FacesIn(written); }), Error::kInvalidFileFormat);
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
     EXPECT_EQ(ErrorTextOf([&] { FacesIn(written); }),
-              "Font file '" + written.string() + "' is damaged: its fonts overlap");
+              "file '" + written.string() + "': damaged font: its fonts overlap");
   }
 }
 

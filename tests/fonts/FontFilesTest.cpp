@@ -137,8 +137,8 @@ TEST_F(FontFilesOfADocument, AFolderIsReadWithTheFoldersBelowIt) {
   WriteBytes(folder / "below" / "broken.ttf", "no font");
   const std::vector<Text> leftOut = files_->AddFolder(folder.u8string());
   ASSERT_EQ(leftOut.size(), 1U);
-  EXPECT_EQ(leftOut[0], "Font file '" + (folder / "below/broken.ttf").string() +
-                            "' is damaged: it is cut short");
+  EXPECT_EQ(leftOut[0],
+            "file '" + (folder / "below/broken.ttf").string() + "': damaged font: it is cut short");
   EXPECT_EQ(files_->FaceNames().size(), 2U);
   EXPECT_NE(files_->SelectFace(Text("DejaVu Sans"), false, false), nullptr);
   EXPECT_EQ(files_->SelectFace(Text("Nonesuch"), false, false), nullptr);

@@ -161,6 +161,8 @@ TEST_F(PDFFontOfHelvetica, AMeasureBeyondASingleRaises6AndStoresNothing) {
     EXPECT_EQ(ErrorNumberOf([&] { font_->TextHeight("A"); }), Error::kOverflow) << size;
     EXPECT_EQ(ErrorNumberOf([&] { font_->TextHeight(); }), Error::kOverflow) << size;
     EXPECT_EQ(ErrorNumberOf([&] { font_->Ascender(); }), Error::kOverflow) << size;
+    EXPECT_TRUE(
+        ErrorTextOf([&] { font_->Ascender(); }).starts_with("PDFFont.Ascender: a measure of "));
     EXPECT_EQ(ErrorNumberOf([&] { font_->Descender(); }), Error::kOverflow) << size;
     EXPECT_EQ(ErrorNumberOf([&] { font_->Leading(); }), Error::kOverflow) << size;
     EXPECT_EQ(ErrorNumberOf([&] { font_->FontBoxTop(); }), Error::kOverflow) << size;

@@ -305,7 +305,7 @@ TEST_F(TrueTypeFaces, ASystemWithoutFontsRaises445AndNamesTheFace) {
   system_->substitute.clear();
   EXPECT_EQ(ErrorNumberOf([&] { Add("Arial"); }), Error::kActionNotSupported);
   EXPECT_EQ(ErrorTextOf([&] { Add("Arial"); }),
-            "PDFFonts.Add: Font 'Arial': there is no TrueType font, neither among the document's "
+            "PDFFonts.Add: font 'Arial': there is no TrueType font, neither among the document's "
             "font files nor installed where libfontconfig.so.1 finds it");
   EXPECT_EQ(fonts_->count(fontTrueType), 0);
   EXPECT_EQ(RecordOf(*fonts_->Add("Courier")).m_PDFName, "/F1");

@@ -48,7 +48,7 @@ std::string RefusalOf(
   return ErrorTextOf(read);
 }
 
-std::string Damaged(const std::string& how) { return "Font file 'some.ttf' is damaged: " + how; }
+std::string Damaged(const std::string& how) { return "file 'some.ttf': damaged font: " + how; }
 
 FontBuilder WithMaps(const std::vector<FontMap>& maps) {
   FontBuilder font;

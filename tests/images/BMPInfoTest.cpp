@@ -355,7 +355,7 @@ TEST(BMPInfo, ShorterFileRaises62AndALongerOneIsCut) {
   const std::string shorter = bytes.substr(0, bytes.size() - 1);
   EXPECT_EQ(ErrorNumberOf([&] { StreamOf(reader, shorter, sink); }), Error::kInputPastEnd);
   EXPECT_EQ(ErrorTextOf([&] { StreamOf(reader, shorter, sink); }),
-            "Input past end of file 'a.bmp', which has become shorter than " +
+            "file 'a.bmp': input past end: it has become shorter than " +
                 std::to_string(bytes.size()) + " bytes");
 }
 

@@ -25,7 +25,7 @@ TEST(ImageFile, ReadAgainWantsEveryByte) {
   EXPECT_EQ(file.Read(7, bytes), 3U);
   EXPECT_EQ(ErrorNumberOf([&] { file.ReadAgain(7, bytes); }), Error::kInputPastEnd);
   EXPECT_EQ(ErrorTextOf([&] { file.ReadAgain(7, bytes); }),
-            "Input past end of file 'a.jpg', which has become shorter than 11 bytes");
+            "file 'a.jpg': input past end: it has become shorter than 11 bytes");
 }
 
 }  // namespace

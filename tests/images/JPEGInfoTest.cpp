@@ -155,7 +155,7 @@ TEST(JPEGInfo, Raises6For32768PixelsAndMore) {
     EXPECT_EQ(ErrorNumberOf([&] { IsJpeg(kStart + Frame(0xC0, 1, size)); }), Error::kOverflow);
   }
   EXPECT_EQ(ErrorTextOf([] { IsJpeg(kStart + Frame(0xC0, 40000, 1)); }),
-            "A width of 40000 pixels does not fit into 16 bits, in file 'a.jpg'");
+            "file 'a.jpg': a width of 40000 pixels does not fit into 16 bits");
 }
 
 // A frame header and then as many zeros as one likes.
@@ -186,7 +186,7 @@ TEST(JPEGInfo, Raises6ForAFileLongerThan32BitsCanSay) {
   ImageFile tooLongFile(tooLong, "a.jpg");
   EXPECT_EQ(ErrorNumberOf([&] { reader.LoadImageInfo(tooLongFile); }), Error::kOverflow);
   EXPECT_EQ(ErrorTextOf([&] { reader.LoadImageInfo(tooLongFile); }),
-            "More than 2147483647 bytes are in file 'a.jpg'");
+            "file 'a.jpg': is longer than 2147483647 bytes");
 }
 
 // Sizes around that of the pieces.
@@ -213,7 +213,7 @@ TEST(JPEGInfo, ShorterFileRaises62AndALongerOneIsCut) {
   const std::string shorter = bytes.substr(0, bytes.size() - 1);
   EXPECT_EQ(ErrorNumberOf([&] { StreamOf(reader, shorter, sink); }), Error::kInputPastEnd);
   EXPECT_EQ(ErrorTextOf([&] { StreamOf(reader, shorter, sink); }),
-            "Input past end of file 'a.jpg', which has become shorter than " +
+            "file 'a.jpg': input past end: it has become shorter than " +
                 std::to_string(bytes.size()) + " bytes");
 }
 

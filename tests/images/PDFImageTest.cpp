@@ -175,7 +175,8 @@ TEST_F(PDFImageInADocument, BmpOfAnotherFormatIsNamedWithItsFile) {
 }
 
 TEST_F(PDFImageInADocument, FileThatCannotBeReadIsNamed) {
-  EXPECT_EQ(FileNameErrorText("no/such/file.jpg"), "Image file 'no/such/file.jpg' does not exist");
+  EXPECT_EQ(FileNameErrorText("no/such/file.jpg"),
+            "PDFImage.FileName: file 'no/such/file.jpg': does not exist");
   EXPECT_EQ(FileNameError("no/such/file.jpg"), Error::kFileNotFound);
   EXPECT_EQ(FileNameError(OutputFolder() / "missing.bmp"), Error::kFileNotFound);
   EXPECT_EQ(FileNameError("file.jpg", Jpeg()), 0);
@@ -213,11 +214,11 @@ TEST_F(PDFImageInADocument, WithoutAFileTheSaveRaises91AndNamesTheImage) {
   EXPECT_EQ(ErrorNumberOf([&] { document_->SavePDFFile(OutputPath("broken").u8string()); }),
             Error::kObjectNotSet);
   EXPECT_EQ(ErrorTextOf([&] { document_->SavePDFFile(OutputPath("broken").u8string()); }),
-            "The image 'logo' was never given a file");
+            "PDFDocument.SavePDFFile: image 'logo': was never given a file");
   ASSERT_EQ(FileNameError("a.bmp", Bmp()), 0);
   document_->Images()->Add();
   EXPECT_EQ(ErrorTextOf([&] { document_->SavePDFFile(OutputPath("broken").u8string()); }),
-            "The image /I2 was never given a file");
+            "PDFDocument.SavePDFFile: image /I2: was never given a file");
 }
 
 TEST_F(PDFImageInADocument, FileThatHasGoneRaises53AtTheSave) {
@@ -225,8 +226,8 @@ TEST_F(PDFImageInADocument, FileThatHasGoneRaises53AtTheSave) {
   std::filesystem::remove(OutputFolder() / "a.bmp");
   const auto save = [&] { document_->SavePDFFile(OutputPath("broken").u8string()); };
   EXPECT_EQ(ErrorNumberOf(save), Error::kFileNotFound);
-  EXPECT_EQ(ErrorTextOf(save),
-            "Image file '" + (OutputFolder() / "a.bmp").string() + "' does not exist");
+  EXPECT_EQ(ErrorTextOf(save), "PDFDocument.SavePDFFile: file '" +
+                                   (OutputFolder() / "a.bmp").string() + "': does not exist");
   // It comes back, and all is well.
   WriteBytes(OutputFolder() / "a.bmp", Bmp());
   EXPECT_EQ(SaveWithPage("sound.pdf").pdf.Stream(6), "321654987rgbRGBzyx");

@@ -48,7 +48,7 @@ TEST(PDFImages, RefusesAsEveryCollection) {
   const auto images = document->Images();
   images->Add("a");
   EXPECT_EQ(ErrorNumberOf([&] { images->Add("A"); }), Error::kKeyInUse);
-  EXPECT_EQ(ErrorTextOf([&] { images->Add("A"); }), "Key 'A' is already in use in PDFImages");
+  EXPECT_EQ(ErrorTextOf([&] { images->Add("A"); }), "PDFImages.Add: key 'A' is already in use");
   EXPECT_EQ(ErrorNumberOf([&] { images->Add("b", 1, 1); }), Error::kInvalidArgument);
   EXPECT_EQ(ErrorNumberOf([&] { images->Add("b", "x"); }), Error::kInvalidArgument);
   EXPECT_EQ(ErrorNumberOf([&] { images->Add("b", {}, 2); }), Error::kSubscriptOutOfRange);

@@ -75,6 +75,8 @@ TEST_F(PDFBookmarkTest, TitlesAreBytesOfTheCodePage) {
 TEST_F(PDFBookmarkTest, ATitleThatIsNotUtf8Raises5AndTheOldOneStays) {
   bookmark_->SetTitle("old");
   EXPECT_EQ(ErrorNumberOf([&] { bookmark_->SetTitle("\xFF"); }), Error::kInvalidArgument);
+  EXPECT_EQ(ErrorTextOf([&] { bookmark_->SetTitle("\xFF"); }),
+            "PDFBookmark.Title: text is not UTF-8: invalid byte at position 0 (counted from 0)");
   EXPECT_EQ(bookmark_->Title(), "old");
 }
 

@@ -46,7 +46,7 @@ TEST_F(PDFBookmarksTest, AddPutsABookmarkAtAPlace) {
 TEST_F(PDFBookmarksTest, KeysAreThoseOfOneLevel) {
   const auto first = bookmarks_->Add("a");
   EXPECT_EQ(ErrorTextOf([&] { bookmarks_->Add("A"); }),
-            "Key 'A' is already in use in PDFBookmarks");
+            "PDFBookmarks.Add: key 'A' is already in use");
   EXPECT_NE(first->SubBookmarks()->Add("a"), first);
 }
 

@@ -126,22 +126,24 @@ TEST_F(PDFHyperLinkTest, EdgesAreWrittenAsTheyAreKept) {
 TEST_F(PDFHyperLinkTest, ANumberThatPdfCannotHoldNamesTheLink) {
   link_->SetTop(3e9F);
   EXPECT_EQ(ErrorTextOf([&] { ObjectText(); }),
-            "PDFHyperLink 'key': a value of 3e+09 cannot be written: PDF numbers are below 2^31");
+            "PDFDocument.SavePDFFile: PDFHyperLink 'key': a value of 3e+09 cannot be written: PDF "
+            "numbers are below 2^31");
   link_->SetTop(0);
   link_->SetBorderWidth(std::numeric_limits<float>::quiet_NaN());
   EXPECT_EQ(ErrorNumberOf([&] { ObjectText(); }), Error::kOverflow);
   link_->SetBorderWidth(1);
   link_->Destination()->SetPage(page_);
   link_->Destination()->SetZoom(-3e9F);
-  EXPECT_EQ(
-      ErrorTextOf([&] { ObjectText(); }),
-      "Destination of PDFHyperLink 'key': a value of -3e+09 cannot be written: PDF numbers are "
-      "below 2^31");
+  EXPECT_EQ(ErrorTextOf([&] { ObjectText(); }),
+            "PDFDocument.SavePDFFile: Destination of PDFHyperLink 'key': a value of -3e+09 cannot "
+            "be written: PDF numbers are "
+            "below 2^31");
   link_->Destination()->SetZoom(0);
   const auto other = page_->HyperLinks()->Add();
   other->SetLeft(3e9F);
   EXPECT_EQ(ErrorTextOf([&] { ObjectText(); }),
-            "PDFHyperLink without a key: a value of 3e+09 cannot be written: PDF numbers are below "
+            "PDFDocument.SavePDFFile: PDFHyperLink without a key: a value of 3e+09 cannot be "
+            "written: PDF numbers are below "
             "2^31");
   other->SetLeft(0);
   EXPECT_NE(ObjectText(), "") << "the failures changed nothing";

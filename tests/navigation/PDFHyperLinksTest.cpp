@@ -55,7 +55,7 @@ TEST_F(PDFHyperLinksTest, AddPutsALinkAtAPlace) {
 
 TEST_F(PDFHyperLinksTest, WhatIsWrongRaises) {
   links_->Add("a");
-  EXPECT_EQ(ErrorTextOf([&] { links_->Add("A"); }), "Key 'A' is already in use in PDFHyperLinks");
+  EXPECT_EQ(ErrorTextOf([&] { links_->Add("A"); }), "PDFHyperLinks.Add: key 'A' is already in use");
   EXPECT_EQ(ErrorNumberOf([&] { links_->Add("b", 1, 1); }), Error::kInvalidArgument);
   EXPECT_EQ(ErrorNumberOf([&] { links_->Add("b", 2); }), Error::kSubscriptOutOfRange);
   EXPECT_EQ(ErrorNumberOf([&] { links_->Item("x"); }), Error::kInvalidArgument);

@@ -180,10 +180,10 @@ TEST_F(PDFLinkDestinationTest, ANumberThatPdfCannotHoldNamesTheBookmark) {
   destination_->SetPage(page_);
   destination_->SetTop(3e9F);
   bookmark_->SetTitle("High");
-  EXPECT_EQ(
-      ErrorTextOf([&] { Line(); }),
-      "Destination of PDFBookmark 'High': a value of 3e+09 cannot be written: PDF numbers are "
-      "below 2^31");
+  EXPECT_EQ(ErrorTextOf([&] { Line(); }),
+            "PDFDocument.SavePDFFile: Destination of PDFBookmark 'High': a value of 3e+09 cannot "
+            "be written: PDF numbers are "
+            "below 2^31");
   destination_->SetDestinationMode(dsFit);
   bookmark_->SetTitle("");
   EXPECT_EQ(Line(), "/Dest [ 5 0 R /Fit ]\n") << "what the mode does not need is not written";

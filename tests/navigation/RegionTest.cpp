@@ -4,16 +4,21 @@
 #include <limits>
 
 #include "folivar/base/Error.h"
+#include "folivar/base/Internal.h"
+#include "folivar/navigation/PDFHyperLink.h"
+#include "folivar/navigation/PDFLinkDestination.h"
 #include "folivar/navigation/Region.h"
 #include "tests/support/Content.h"
 
 namespace folivar::test {
 namespace {
 
-struct AnyRegion : Region {};
+constexpr float kLargest = std::numeric_limits<float>::max();
+
+PDFHyperLink AnyRegion() { return {Internal(), TextView()}; }
 
 // Left, bottom, right, top.
-std::array<float, 4> EdgesOf(const Region& region) {
+std::array<float, 4> EdgesOf(const Region<PDFHyperLink>& region) {
   return {region.Left(), region.Bottom(), region.Right(), region.Top()};
 }
 using Edges = std::array<float, 4>;
@@ -21,7 +26,7 @@ using Edges = std::array<float, 4>;
 TEST(Region, IsEmptyAtTheOriginAtFirst) { EXPECT_EQ(EdgesOf(AnyRegion()), (Edges{0, 0, 0, 0})); }
 
 TEST(Region, EdgesAreKeptAsTheyAre) {
-  AnyRegion region;
+  PDFHyperLink region = AnyRegion();
   region.SetLeft(40);
   region.SetBottom(30);
   region.SetRight(20);
@@ -32,7 +37,7 @@ TEST(Region, EdgesAreKeptAsTheyAre) {
 }
 
 TEST(Region, SetRegionMeasuresFromLeftAndBottom) {
-  AnyRegion region;
+  PDFHyperLink region = AnyRegion();
   region.SetRegion(10, 20, 100, 50);
   EXPECT_EQ(EdgesOf(region), (Edges{10, 20, 110, 70}));
   EXPECT_EQ(region.Width(), 100);
@@ -40,7 +45,7 @@ TEST(Region, SetRegionMeasuresFromLeftAndBottom) {
 }
 
 TEST(Region, NegativeMeasuresSwapTheEdges) {
-  AnyRegion region;
+  PDFHyperLink region = AnyRegion();
   region.SetRegion(100, 200, -50, -20);
   EXPECT_EQ(EdgesOf(region), (Edges{50, 180, 100, 200}));
   region.SetRegion(100, 200, 0, -20);
@@ -48,7 +53,7 @@ TEST(Region, NegativeMeasuresSwapTheEdges) {
 }
 
 TEST(Region, WidthKeepsTheLeftEdge) {
-  AnyRegion region;
+  PDFHyperLink region = AnyRegion();
   region.SetLeft(100);
   region.SetRight(300);
   region.SetWidth(30);
@@ -61,7 +66,7 @@ TEST(Region, WidthKeepsTheLeftEdge) {
 
 // Deliberate: downwards from the top, unlike SetRegion.
 TEST(Region, DeliberateHeightIsMeasuredDownwardsFromTheTop) {
-  AnyRegion region;
+  PDFHyperLink region = AnyRegion();
   region.SetTop(700);
   region.SetHeight(100);
   EXPECT_EQ(EdgesOf(region), (Edges{0, 600, 0, 700}));
@@ -73,19 +78,18 @@ TEST(Region, DeliberateHeightIsMeasuredDownwardsFromTheTop) {
 }
 
 TEST(Region, SumsAreRoundedToSingles) {
-  AnyRegion region;
+  PDFHyperLink region = AnyRegion();
   region.SetRegion(16777216, 0.1F, 1, 0.2F);
   EXPECT_EQ(region.Right(), 16777216) << "2^24 and 1 is half way, and goes to the even one";
   EXPECT_EQ(region.Top(), 0.1F + 0.2F);
 }
 
 TEST(Region, SumsBeyondASingleRaise6AndChangeNothing) {
-  constexpr float kLargest = std::numeric_limits<float>::max();
-  AnyRegion region;
+  PDFHyperLink region = AnyRegion();
   region.SetRegion(kLargest, -kLargest, 0, 0);
   const Edges before = EdgesOf(region);
   EXPECT_EQ(ErrorTextOf([&] { region.SetWidth(kLargest); }),
-            "Width: a sum of coordinates is beyond a single");
+            "PDFHyperLink.Width: a sum of coordinates is beyond a single");
   EXPECT_EQ(ErrorNumberOf([&] { region.SetRegion(0, kLargest, 1, kLargest); }), Error::kOverflow);
   EXPECT_EQ(ErrorNumberOf([&] { region.SetHeight(kLargest); }), Error::kOverflow);
   EXPECT_EQ(ErrorNumberOf([&] { region.SetWidth(std::numeric_limits<float>::quiet_NaN()); }),
@@ -95,6 +99,15 @@ TEST(Region, SumsBeyondASingleRaise6AndChangeNothing) {
   region.SetTop(kLargest);
   EXPECT_EQ(ErrorNumberOf([&] { region.Width(); }), Error::kOverflow);
   EXPECT_EQ(ErrorNumberOf([&] { region.Height(); }), Error::kOverflow);
+}
+
+TEST(Region, ErrorsNameTheClassThatItIsAPartOf) {
+  PDFLinkDestination destination{Internal()};
+  EXPECT_EQ(ErrorTextOf([&] { destination.SetRegion(kLargest, 0, kLargest); }),
+            "PDFLinkDestination.SetRegion: a sum of coordinates is beyond a single");
+  PDFHyperLink link = AnyRegion();
+  EXPECT_EQ(ErrorTextOf([&] { link.SetRegion(kLargest, 0, kLargest, 0); }),
+            "PDFHyperLink.SetRegion: a sum of coordinates is beyond a single");
 }
 
 }  // namespace

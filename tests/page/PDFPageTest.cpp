@@ -97,7 +97,7 @@ TEST(PDFPage, FontOfAnotherDocumentIsRefused) {
   const auto page = document->Pages()->Add();
   const auto font = page->Font();
   EXPECT_EQ(ErrorTextOf([&] { page->SetFont(other->Fonts()->Add("Courier")); }),
-            "PDFPage.Font: Font 'Courier' belongs to another document");
+            "PDFPage.Font: font 'Courier': belongs to another document");
   EXPECT_EQ(page->Font(), font);
 }
 
@@ -119,7 +119,8 @@ TEST(PDFPage, SizeThatCannotBeWrittenFailsTheSaveAndNamesThePage) {
   page->SetWidth(std::numeric_limits<float>::infinity());
   EXPECT_EQ(ErrorNumberOf([&] { Save(*document, "broken"); }), Error::kOverflow);
   EXPECT_EQ(ErrorTextOf([&] { Save(*document, "broken"); }),
-            "extents or clip box of PDFPage 'cover': a value of inf cannot be written: "
+            "PDFDocument.SavePDFFile: extents or clip box of PDFPage 'cover': a value of inf "
+            "cannot be written: "
             "PDF numbers are below 2^31");
   page->SetWidth(100);
   Save(*document, "mended.pdf");
@@ -171,7 +172,7 @@ TEST(PDFPage, ThumbnailOfAnotherDocumentIsRefused) {
   const auto other = PDFDocument::Create()->Images()->Add();
   EXPECT_EQ(ErrorNumberOf([&] { page->SetThumbnail(other); }), Error::kInvalidArgument);
   EXPECT_EQ(ErrorTextOf([&] { page->SetThumbnail(other); }),
-            "PDFPage.Thumbnail: the image /I1 belongs to another document");
+            "PDFPage.Thumbnail: image /I1: belongs to another document");
   EXPECT_EQ(page->Thumbnail(), image);
 }
 

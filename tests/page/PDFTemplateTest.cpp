@@ -418,12 +418,14 @@ TEST(PDFTemplate, BoxThatCannotBeWrittenFailsTheSaveAndNamesTheTemplate) {
   drawn->SetTop(kNotANumber);
   EXPECT_EQ(ErrorNumberOf([&] { Save(*document, "broken"); }), Error::kOverflow);
   EXPECT_EQ(ErrorTextOf([&] { Save(*document, "broken"); }),
-            "clip box of PDFTemplate 'logo': a value of nan cannot be written: PDF numbers "
+            "PDFDocument.SavePDFFile: clip box of PDFTemplate 'logo': a value of nan cannot be "
+            "written: PDF numbers "
             "are below 2^31");
   drawn->SetTop(1);
   document->Templates()->Add()->SetLeft(-3e9F);
   EXPECT_EQ(ErrorTextOf([&] { Save(*document, "broken"); }),
-            "clip box of PDFTemplate /T2: a value of -3e+09 cannot be written: PDF numbers "
+            "PDFDocument.SavePDFFile: clip box of PDFTemplate /T2: a value of -3e+09 cannot be "
+            "written: PDF numbers "
             "are below 2^31");
 }
 
@@ -433,7 +435,7 @@ TEST(PDFTemplate, FontOfAnotherDocumentIsRefused) {
   const auto drawn = document->Templates()->Add();
   const auto font = drawn->Font();
   EXPECT_EQ(ErrorTextOf([&] { drawn->SetFont(other->Fonts()->Add("Courier")); }),
-            "PDFTemplate.Font: Font 'Courier' belongs to another document");
+            "PDFTemplate.Font: font 'Courier': belongs to another document");
   EXPECT_EQ(drawn->Font(), font);
 }
 
@@ -708,6 +710,13 @@ TEST(PDFTemplate, AClipBoxThatCannotBeExpandedStaysAsItIs) {
   drawn->TextBoxes()->Add()->Move(-10, 30, 20, 40);
   drawn->TextBoxes()->Add()->Move(kLargest, 0, kLargest, 1);
   EXPECT_EQ(ErrorNumberOf([&] { drawn->ExpandClipBoxToFitTextBoxes(); }), Error::kOverflow);
+  EXPECT_EQ(ErrorTextOf([&] { drawn->ExpandClipBoxToFitTextBoxes(); }),
+            "PDFTemplate.ExpandClipBoxToFitTextBoxes: PDFTextBox without a key: a sum of "
+            "coordinates is beyond a single");
+  drawn->SetAutoSizeClipBox(true);
+  EXPECT_EQ(ErrorTextOf([&] { Save(*document, "broken"); }),
+            "PDFDocument.SavePDFFile: PDFTextBox without a key of PDFTemplate /T1: a sum of "
+            "coordinates is beyond a single");
   ExpectEdges(*drawn, {0, 0, 0, 0});
 }
 

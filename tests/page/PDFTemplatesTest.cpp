@@ -54,7 +54,7 @@ TEST_F(PDFTemplatesOfThree, AddChecksBothPlacesThenTheKeyThenThePlace) {
   EXPECT_EQ(AddError("new", {}, "x"), Error::kInvalidArgument);
   EXPECT_EQ(KeysOf(*templates_), "abc");
   EXPECT_EQ(ErrorTextOf([&] { templates_->Add("A"); }),
-            "Key 'A' is already in use in PDFTemplates");
+            "PDFTemplates.Add: key 'A' is already in use");
 }
 
 TEST_F(PDFTemplatesOfThree, ItemTakesAPositionOrAKeyInAnyCase) {

@@ -120,6 +120,8 @@ TEST_F(PDFTextBoxTest, ParentThatIsGoneRaises91) {
   document_->Pages()->Remove(1);
   page_.reset();
   EXPECT_EQ(ErrorNumberOf([&] { box_->Parent(); }), Error::kObjectNotSet);
+  EXPECT_EQ(ErrorTextOf([&] { box_->Parent(); }),
+            "PDFTextBox.Parent: PDFTextBox 'box': the owner is gone");
   box_->SetText("still usable");
   EXPECT_EQ(boxes->Add()->SelFontSize(), 10);
 }
@@ -440,7 +442,7 @@ TEST_F(PDFTextBoxTest, DeliberateATextForThreeRunsIsSetAndRaises9) {
   EXPECT_NE(ErrorTextOf([&] {
               Color(2, 2, 8);
               box_->SetText("x");
-            }).find("PDFTextBox.Text: Position"),
+            }).find("PDFTextBox.Text: position"),
             std::string::npos);
 }
 

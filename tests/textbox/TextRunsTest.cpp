@@ -184,7 +184,7 @@ TEST(TextRuns, DeliberateReplacingRaises9WhereNoRunHasTheOldNumber) {
   EXPECT_NE(ErrorTextOf([&] {
               TextRuns others = RunsOf({4, 1, 6});
               others.ReplaceText(2, 11, 1, 11);
-            }).find("Position 3 is outside 1 to 2"),
+            }).find("position 3 is outside 1 to 2"),
             std::string::npos);
 }
 
@@ -211,7 +211,7 @@ TEST(TextRuns, DeliberateANewTextForThreeRunsOrMoreRemovesEveryOtherAndRaises9) 
     EXPECT_EQ(ColorsOf(runs), colors) << count;
     EXPECT_EQ(LengthsOf(runs), Lengths(colors.size(), 2)) << count;
     const std::string text = ErrorTextOf([&] { RunsOf(Lengths(count, 2)).ResetText(7); });
-    EXPECT_NE(text.find("Position " + std::to_string(failing) + " is outside 1 to " +
+    EXPECT_NE(text.find("position " + std::to_string(failing) + " is outside 1 to " +
                         std::to_string(colors.size())),
               std::string::npos)
         << text;

@@ -28,12 +28,14 @@ void EarlyBound() {
   CHECK(support->InterfaceSupportsErrorInfo(__uuidof(_PDFPages)) == S_OK);
   CHECK(support->InterfaceSupportsErrorInfo(__uuidof(_PDFPage)) == S_FALSE);
   CHECK(pages->get_Item(Variant(3), &page) == Number(9));
-  CheckError(L"Position 3 is outside 1 to 0 in PDFPages", __uuidof(_PDFPages));
+  CheckError(L"PDFPages.Item: position 3 is outside 1 to 0", __uuidof(_PDFPages));
   CHECK(pages->get_Item(Variant(L"x"), &page) == Number(5));
-  CheckError(L"Key 'x' is not in PDFPages", __uuidof(_PDFPages));
+  CheckError(L"PDFPages.Item: there is no key 'x'", __uuidof(_PDFPages));
   CHECK(!page);
   CHECK(document->SavePDFFile(Bstr(L"none\\a.pdf")) == Number(76));
-  CheckError(L"Cannot write file 'none\\a.pdf': No such file or directory", __uuidof(_PDFDocument));
+  CheckError(
+      L"PDFDocument.SavePDFFile: file 'none\\a.pdf': cannot be written: No such file or directory",
+      __uuidof(_PDFDocument));
 
   ComPtr<_PDFImages> images;
   ComPtr<_PDFImage> image;
@@ -51,7 +53,8 @@ void LateBound() {
         DISP_E_EXCEPTION);
   CHECK(exception.scode == Number(9));
   CHECK(std::wstring(exception.bstrSource) == L"Folivar");
-  CHECK(std::wstring(exception.bstrDescription) == L"Position 3 is outside 1 to 0 in PDFPages");
+  CHECK(std::wstring(exception.bstrDescription) ==
+        L"PDFPages.Remove: position 3 is outside 1 to 0");
   SysFreeString(exception.bstrSource);
   SysFreeString(exception.bstrDescription);
   SysFreeString(exception.bstrHelpFile);

@@ -7,5 +7,5 @@ image.FileName = "shorter.bmp"
 files.CopyFile WScript.Arguments(0) & "\sampler.bmp", "shorter.bmp"
 On Error Resume Next
 doc.SavePDFFile "saved.pdf"
-Say "SavePDFFile", Err.Number & " " & Left(Err.Description, 37)
+Say "SavePDFFile", Err.Number & " " & Left(Err.Description, 59)
 WScript.Echo "DONE"
