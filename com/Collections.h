@@ -34,8 +34,8 @@ class CollectionPeer : public Peer<Core> {
       std::vector<Shared<Member>> members;
       for (const Shared<Member>& member : this->TheCore()) members.push_back(member);
       // The walk keeps the document.
-      const auto give = [document = this->TheDocument()](const Shared<Member>& member,
-                                                         VARIANT& element) {
+      const auto give = [document = this->TheDocument().lock()](const Shared<Member>& member,
+                                                                VARIANT& element) {
         VariantInit(&element);
         element.pdispVal = HandOut(member, document);
         element.vt = VT_DISPATCH;

@@ -110,6 +110,12 @@ HRESULT InvokeDefault(const Call& call, LCID locale, DISPPARAMS* arguments) {
 
 }  // namespace
 
+HRESULT Dispatch::GetTypeInfoCount(UINT* result) noexcept {
+  if (result == nullptr) return E_POINTER;
+  *result = 1;
+  return S_OK;
+}
+
 HRESULT Dispatch::GetTypeInfo(const IID& interfaceId, UINT index, ITypeInfo** result) noexcept {
   return Guarded(interfaceId, [&] {
     RequirePointer(result);

@@ -8,6 +8,7 @@ namespace folivar::com {
 // the interface `interfaceId`.
 class Dispatch {
  public:
+  static HRESULT GetTypeInfoCount(UINT* result) noexcept;
   static HRESULT GetTypeInfo(const IID& interfaceId, UINT index, ITypeInfo** result) noexcept;
 
   static HRESULT GetIDsOfNames(const IID& interfaceId, const IID& reserved, LPOLESTR* names,

@@ -4,7 +4,7 @@
 
 #include "com/Enumerator.h"
 #include "com/Guard.h"
-#include "com/HostObject.h"
+#include "com/PeerBase.h"
 
 namespace folivar::com {
 namespace {

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "com/ComPrefix.h"
-#include "com/Peers.h"
 #include "folivar/base/Event.h"
+#include "folivar/page/PDFPage.h"
 
 namespace folivar::com {
 

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "com/ComPrefix.h"
-#include "com/HostObject.h"
+#include "com/PeerBase.h"
 #include "folivar/folivar.h"
 
 namespace folivar::com {
@@ -39,42 +39,38 @@ template <> struct Automation<PDFTextBoxes> : AutomationClass<_PDFTextBoxes, ::P
 template <> struct Automation<PDFViewerPreferences> : AutomationClass<_PDFViewerPreferences, ::PDFViewerPreferences> {};
 // clang-format on
 
-template <class Core>
-using Shared = std::shared_ptr<Core>;
-using Document = std::weak_ptr<PDFDocument>;
-
-// Makes the face of an object; in peers/.
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFBookmark>& core, const Document& document);
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFBookmarks>& core, const Document& document);
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFDocument>& core, const Document& document);
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFFont>& core, const Document& document);
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFFonts>& core, const Document& document);
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFGraphicsState>& core, const Document& document);
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFHyperLink>& core, const Document& document);
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFHyperLinks>& core, const Document& document);
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFImage>& core, const Document& document);
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFImages>& core, const Document& document);
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFLinkDestination>& core,
+// Makes the peer of an object; in peers/.
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFBookmark>& core, const Document& document);
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFBookmarks>& core, const Document& document);
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFDocument>& core, const Document& document);
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFFont>& core, const Document& document);
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFFonts>& core, const Document& document);
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFGraphicsState>& core, const Document& document);
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFHyperLink>& core, const Document& document);
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFHyperLinks>& core, const Document& document);
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFImage>& core, const Document& document);
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFImages>& core, const Document& document);
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFLinkDestination>& core,
                                    const Document& document);
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFPage>& core, const Document& document);
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFPages>& core, const Document& document);
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFTemplate>& core, const Document& document);
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFTemplates>& core, const Document& document);
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFTextBox>& core, const Document& document);
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFTextBoxes>& core, const Document& document);
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFViewerPreferences>& core,
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFPage>& core, const Document& document);
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFPages>& core, const Document& document);
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFTemplate>& core, const Document& document);
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFTemplates>& core, const Document& document);
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFTextBox>& core, const Document& document);
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFTextBoxes>& core, const Document& document);
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFViewerPreferences>& core,
                                    const Document& document);
 
-// The object's face, with a reference for the client: made when it is first asked for, and then the
+// The object's peer, with a reference for the client: made when it is first asked for, and then the
 // same for as long as the object lives. Null for null.
 template <class Core>
 typename Automation<Core>::Interface* HandOut(const Shared<Core>& object,
                                               const Document& document) {
   if (!object) return nullptr;
   if (object->Peer() == nullptr) object->SetPeer(MakePeer(object, document));
-  IDispatch* face = static_cast<FacePeer*>(object->Peer())->Face();
-  face->AddRef();
-  return static_cast<typename Automation<Core>::Interface*>(face);
+  auto* peer = static_cast<PeerBase*>(object->Peer());
+  peer->AddRef();
+  return static_cast<typename Automation<Core>::Interface*>(peer->ClassInterface());
 }
 
 }  // namespace folivar::com

@@ -1,4 +1,4 @@
-#include "com/Peer.h"
+#include "com/TaggedPeer.h"
 
 namespace folivar::com {
 namespace {
@@ -26,7 +26,7 @@ class PDFBookmarkPeer final : public TaggedPeer<PDFBookmark> {
 
 }  // namespace
 
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFBookmark>& core, const Document& document) {
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFBookmark>& core, const Document& document) {
   return std::make_unique<PDFBookmarkPeer>(core, document);
 }
 

@@ -1,4 +1,4 @@
-#include "com/Peer.h"
+#include "com/TaggedPeer.h"
 
 namespace folivar::com {
 namespace {
@@ -28,7 +28,7 @@ class PDFDocumentPeer final : public TaggedPeer<PDFDocument> {
 
 }  // namespace
 
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFDocument>& core, const Document& document) {
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFDocument>& core, const Document& document) {
   return std::make_unique<PDFDocumentPeer>(core, document);
 }
 

@@ -73,7 +73,7 @@ class PDFFontPeer final : public Peer<PDFFont> {
 
 }  // namespace
 
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFFont>& core, const Document& document) {
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFFont>& core, const Document& document) {
   return std::make_unique<PDFFontPeer>(core, document);
 }
 

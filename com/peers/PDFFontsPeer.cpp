@@ -28,7 +28,7 @@ class PDFFontsPeer final : public Peer<PDFFonts> {
 
 }  // namespace
 
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFFonts>& core, const Document& document) {
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFFonts>& core, const Document& document) {
   return std::make_unique<PDFFontsPeer>(core, document);
 }
 

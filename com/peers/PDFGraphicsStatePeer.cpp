@@ -60,7 +60,7 @@ class PDFGraphicsStatePeer final : public Peer<PDFGraphicsState> {
 
 }  // namespace
 
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFGraphicsState>& core, const Document& document) {
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFGraphicsState>& core, const Document& document) {
   return std::make_unique<PDFGraphicsStatePeer>(core, document);
 }
 

@@ -1,4 +1,4 @@
-#include "com/Peer.h"
+#include "com/TaggedPeer.h"
 
 namespace folivar::com {
 namespace {
@@ -51,7 +51,7 @@ class PDFHyperLinkPeer final : public TaggedPeer<PDFHyperLink> {
 
 }  // namespace
 
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFHyperLink>& core, const Document& document) {
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFHyperLink>& core, const Document& document) {
   return std::make_unique<PDFHyperLinkPeer>(core, document);
 }
 

@@ -1,4 +1,4 @@
-#include "com/Peer.h"
+#include "com/TaggedPeer.h"
 
 namespace folivar::com {
 namespace {
@@ -22,7 +22,7 @@ class PDFImagePeer final : public TaggedPeer<PDFImage> {
 
 }  // namespace
 
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFImage>& core, const Document& document) {
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFImage>& core, const Document& document) {
   return std::make_unique<PDFImagePeer>(core, document);
 }
 

@@ -56,7 +56,7 @@ class PDFLinkDestinationPeer final : public Peer<PDFLinkDestination> {
 
 }  // namespace
 
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFLinkDestination>& core,
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFLinkDestination>& core,
                                    const Document& document) {
   return std::make_unique<PDFLinkDestinationPeer>(core, document);
 }

@@ -2,7 +2,7 @@
 
 #include "com/Enumerator.h"
 #include "com/PageEvents.h"
-#include "com/Peer.h"
+#include "com/TaggedPeer.h"
 
 namespace folivar::com {
 namespace {
@@ -105,7 +105,7 @@ class PDFPagePeer final : public TaggedPeer<PDFPage, IConnectionPointContainer> 
 
 }  // namespace
 
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFPage>& core, const Document& document) {
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFPage>& core, const Document& document) {
   return std::make_unique<PDFPagePeer>(core, document);
 }
 

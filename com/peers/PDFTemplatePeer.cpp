@@ -1,4 +1,4 @@
-#include "com/Peer.h"
+#include "com/TaggedPeer.h"
 
 namespace folivar::com {
 namespace {
@@ -77,7 +77,7 @@ class PDFTemplatePeer final : public TaggedPeer<PDFTemplate> {
 
 }  // namespace
 
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFTemplate>& core, const Document& document) {
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFTemplate>& core, const Document& document) {
   return std::make_unique<PDFTemplatePeer>(core, document);
 }
 

@@ -1,4 +1,4 @@
-#include "com/Peer.h"
+#include "com/TaggedPeer.h"
 
 namespace folivar::com {
 namespace {
@@ -161,7 +161,7 @@ class PDFTextBoxPeer final : public TaggedPeer<PDFTextBox> {
 
 }  // namespace
 
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFTextBox>& core, const Document& document) {
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFTextBox>& core, const Document& document) {
   return std::make_unique<PDFTextBoxPeer>(core, document);
 }
 

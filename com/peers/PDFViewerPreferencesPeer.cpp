@@ -59,7 +59,7 @@ class PDFViewerPreferencesPeer final : public Peer<PDFViewerPreferences> {
 
 }  // namespace
 
-std::unique_ptr<FacePeer> MakePeer(const Shared<PDFViewerPreferences>& core,
+std::unique_ptr<PeerBase> MakePeer(const Shared<PDFViewerPreferences>& core,
                                    const Document& document) {
   return std::make_unique<PDFViewerPreferencesPeer>(core, document);
 }
