@@ -16,7 +16,7 @@ template <class Core>
 class CollectionPeer : public Peer<Core> {
  public:
   using Member = typename decltype(std::declval<Core>().Item(Value()))::element_type;
-  using MemberInterface = typename Automation<Member>::Interface;
+  using MemberInterface = typename PeerOf<Member>::Interface;
 
   using Peer<Core>::Peer;
 

@@ -84,7 +84,7 @@ void Give(Result* result, Enumeration value, const Document&) {
   *result = static_cast<Result>(value);
 }
 template <class Core>
-void Give(typename Automation<Core>::Interface** result, const Shared<Core>& object,
+void Give(typename PeerOf<Core>::Interface** result, const Shared<Core>& object,
           const Document& document) {
   *result = HandOut(object, document);
 }

@@ -18,9 +18,9 @@ namespace folivar::com {
 // A member of an interface is a line: it names the member of the core that does the work, and Call,
 // Get and Fill convert arguments and results, and errors to what automation has.
 template <class Core, class... Extra>
-class Peer : public Automation<Core>::Interface, public PeerBase, public Extra... {
+class Peer : public PeerOf<Core>::Interface, public PeerBase, public Extra... {
  public:
-  using Interface = typename Automation<Core>::Interface;
+  using Interface = typename PeerOf<Core>::Interface;
 
   Peer(const Shared<Core>& core, const Document& document) : PeerBase(core, document) {}
 
@@ -49,7 +49,7 @@ class Peer : public Automation<Core>::Interface, public PeerBase, public Extra..
   IDispatch* ClassInterface() override { return static_cast<Interface*>(this); }
 
  protected:
-  const CLSID& ClassId() const override { return __uuidof(typename Automation<Core>::Class); }
+  const CLSID& ClassId() const override { return __uuidof(typename PeerOf<Core>::Class); }
   const IID& InterfaceId() const override { return __uuidof(Interface); }
   void* FindExtra([[maybe_unused]] REFIID iid) override {
     void* found = nullptr;

@@ -5,7 +5,7 @@
 #include "com/ComPrefix.h"
 #include "folivar/base/HostPeer.h"
 #include "folivar/base/Object.h"
-#include "folivar/folivar.h"
+#include "folivar/document/PDFDocument.h"
 
 namespace folivar::com {
 

@@ -26,8 +26,8 @@ class PDFBookmarkPeer final : public TaggedPeer<PDFBookmark> {
 
 }  // namespace
 
-std::unique_ptr<PeerBase> MakePeer(const Shared<PDFBookmark>& core, const Document& document) {
-  return std::make_unique<PDFBookmarkPeer>(core, document);
+PeerOf<PDFBookmark> MakePeer(const Shared<PDFBookmark>& core, const Document& document) {
+  return {std::make_unique<PDFBookmarkPeer>(core, document)};
 }
 
 }  // namespace folivar::com

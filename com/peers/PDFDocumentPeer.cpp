@@ -28,8 +28,8 @@ class PDFDocumentPeer final : public TaggedPeer<PDFDocument> {
 
 }  // namespace
 
-std::unique_ptr<PeerBase> MakePeer(const Shared<PDFDocument>& core, const Document& document) {
-  return std::make_unique<PDFDocumentPeer>(core, document);
+PeerOf<PDFDocument> MakePeer(const Shared<PDFDocument>& core, const Document& document) {
+  return {std::make_unique<PDFDocumentPeer>(core, document)};
 }
 
 }  // namespace folivar::com

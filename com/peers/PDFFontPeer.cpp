@@ -73,8 +73,8 @@ class PDFFontPeer final : public Peer<PDFFont> {
 
 }  // namespace
 
-std::unique_ptr<PeerBase> MakePeer(const Shared<PDFFont>& core, const Document& document) {
-  return std::make_unique<PDFFontPeer>(core, document);
+PeerOf<PDFFont> MakePeer(const Shared<PDFFont>& core, const Document& document) {
+  return {std::make_unique<PDFFontPeer>(core, document)};
 }
 
 }  // namespace folivar::com

@@ -28,8 +28,8 @@ class PDFFontsPeer final : public Peer<PDFFonts> {
 
 }  // namespace
 
-std::unique_ptr<PeerBase> MakePeer(const Shared<PDFFonts>& core, const Document& document) {
-  return std::make_unique<PDFFontsPeer>(core, document);
+PeerOf<PDFFonts> MakePeer(const Shared<PDFFonts>& core, const Document& document) {
+  return {std::make_unique<PDFFontsPeer>(core, document)};
 }
 
 }  // namespace folivar::com

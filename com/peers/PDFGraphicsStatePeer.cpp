@@ -60,8 +60,8 @@ class PDFGraphicsStatePeer final : public Peer<PDFGraphicsState> {
 
 }  // namespace
 
-std::unique_ptr<PeerBase> MakePeer(const Shared<PDFGraphicsState>& core, const Document& document) {
-  return std::make_unique<PDFGraphicsStatePeer>(core, document);
+PeerOf<PDFGraphicsState> MakePeer(const Shared<PDFGraphicsState>& core, const Document& document) {
+  return {std::make_unique<PDFGraphicsStatePeer>(core, document)};
 }
 
 }  // namespace folivar::com

@@ -51,8 +51,8 @@ class PDFHyperLinkPeer final : public TaggedPeer<PDFHyperLink> {
 
 }  // namespace
 
-std::unique_ptr<PeerBase> MakePeer(const Shared<PDFHyperLink>& core, const Document& document) {
-  return std::make_unique<PDFHyperLinkPeer>(core, document);
+PeerOf<PDFHyperLink> MakePeer(const Shared<PDFHyperLink>& core, const Document& document) {
+  return {std::make_unique<PDFHyperLinkPeer>(core, document)};
 }
 
 }  // namespace folivar::com

@@ -22,8 +22,8 @@ class PDFImagePeer final : public TaggedPeer<PDFImage> {
 
 }  // namespace
 
-std::unique_ptr<PeerBase> MakePeer(const Shared<PDFImage>& core, const Document& document) {
-  return std::make_unique<PDFImagePeer>(core, document);
+PeerOf<PDFImage> MakePeer(const Shared<PDFImage>& core, const Document& document) {
+  return {std::make_unique<PDFImagePeer>(core, document)};
 }
 
 }  // namespace folivar::com

@@ -56,9 +56,9 @@ class PDFLinkDestinationPeer final : public Peer<PDFLinkDestination> {
 
 }  // namespace
 
-std::unique_ptr<PeerBase> MakePeer(const Shared<PDFLinkDestination>& core,
-                                   const Document& document) {
-  return std::make_unique<PDFLinkDestinationPeer>(core, document);
+PeerOf<PDFLinkDestination> MakePeer(const Shared<PDFLinkDestination>& core,
+                                    const Document& document) {
+  return {std::make_unique<PDFLinkDestinationPeer>(core, document)};
 }
 
 }  // namespace folivar::com

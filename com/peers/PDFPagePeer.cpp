@@ -105,8 +105,8 @@ class PDFPagePeer final : public TaggedPeer<PDFPage, IConnectionPointContainer> 
 
 }  // namespace
 
-std::unique_ptr<PeerBase> MakePeer(const Shared<PDFPage>& core, const Document& document) {
-  return std::make_unique<PDFPagePeer>(core, document);
+PeerOf<PDFPage> MakePeer(const Shared<PDFPage>& core, const Document& document) {
+  return {std::make_unique<PDFPagePeer>(core, document)};
 }
 
 }  // namespace folivar::com

@@ -77,8 +77,8 @@ class PDFTemplatePeer final : public TaggedPeer<PDFTemplate> {
 
 }  // namespace
 
-std::unique_ptr<PeerBase> MakePeer(const Shared<PDFTemplate>& core, const Document& document) {
-  return std::make_unique<PDFTemplatePeer>(core, document);
+PeerOf<PDFTemplate> MakePeer(const Shared<PDFTemplate>& core, const Document& document) {
+  return {std::make_unique<PDFTemplatePeer>(core, document)};
 }
 
 }  // namespace folivar::com

@@ -161,8 +161,8 @@ class PDFTextBoxPeer final : public TaggedPeer<PDFTextBox> {
 
 }  // namespace
 
-std::unique_ptr<PeerBase> MakePeer(const Shared<PDFTextBox>& core, const Document& document) {
-  return std::make_unique<PDFTextBoxPeer>(core, document);
+PeerOf<PDFTextBox> MakePeer(const Shared<PDFTextBox>& core, const Document& document) {
+  return {std::make_unique<PDFTextBoxPeer>(core, document)};
 }
 
 }  // namespace folivar::com

@@ -59,9 +59,9 @@ class PDFViewerPreferencesPeer final : public Peer<PDFViewerPreferences> {
 
 }  // namespace
 
-std::unique_ptr<PeerBase> MakePeer(const Shared<PDFViewerPreferences>& core,
-                                   const Document& document) {
-  return std::make_unique<PDFViewerPreferencesPeer>(core, document);
+PeerOf<PDFViewerPreferences> MakePeer(const Shared<PDFViewerPreferences>& core,
+                                      const Document& document) {
+  return {std::make_unique<PDFViewerPreferencesPeer>(core, document)};
 }
 
 }  // namespace folivar::com
