@@ -20,6 +20,7 @@ namespace folivar::com {
 template <class Core, class... Extra>
 class Peer : public PeerOf<Core>::Interface, public PeerBase, public Extra... {
  public:
+  using CoreClass = Core;
   using Interface = typename PeerOf<Core>::Interface;
 
   Peer(const Shared<Core>& core, const Document& document) : PeerBase(core, document) {}

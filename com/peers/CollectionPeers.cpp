@@ -1,4 +1,4 @@
-#include "com/Collections.h"
+#include "com/peers/CollectionPeer.h"
 
 namespace folivar::com {
 

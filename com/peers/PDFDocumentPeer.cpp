@@ -1,4 +1,4 @@
-#include "com/TaggedPeer.h"
+#include "com/peers/TaggedPeer.h"
 
 namespace folivar::com {
 namespace {

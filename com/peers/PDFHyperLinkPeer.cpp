@@ -1,24 +1,13 @@
-#include "com/TaggedPeer.h"
+#include "com/peers/RegionPeer.h"
+#include "com/peers/TaggedPeer.h"
 
 namespace folivar::com {
 namespace {
 
-class PDFHyperLinkPeer final : public TaggedPeer<PDFHyperLink> {
+class PDFHyperLinkPeer final : public RegionPeer<TaggedPeer<PDFHyperLink>> {
  public:
-  using TaggedPeer::TaggedPeer;
+  using RegionPeer::RegionPeer;
 
-  STDMETHODIMP put_Left(float number) override { return Call(&PDFHyperLink::SetLeft, number); }
-  STDMETHODIMP get_Left(float* result) override { return Get(result, &PDFHyperLink::Left); }
-  STDMETHODIMP put_Right(float number) override { return Call(&PDFHyperLink::SetRight, number); }
-  STDMETHODIMP get_Right(float* result) override { return Get(result, &PDFHyperLink::Right); }
-  STDMETHODIMP put_Bottom(float number) override { return Call(&PDFHyperLink::SetBottom, number); }
-  STDMETHODIMP get_Bottom(float* result) override { return Get(result, &PDFHyperLink::Bottom); }
-  STDMETHODIMP put_Top(float number) override { return Call(&PDFHyperLink::SetTop, number); }
-  STDMETHODIMP get_Top(float* result) override { return Get(result, &PDFHyperLink::Top); }
-  STDMETHODIMP get_Width(float* result) override { return Get(result, &PDFHyperLink::Width); }
-  STDMETHODIMP put_Width(float number) override { return Call(&PDFHyperLink::SetWidth, number); }
-  STDMETHODIMP get_Height(float* result) override { return Get(result, &PDFHyperLink::Height); }
-  STDMETHODIMP put_Height(float number) override { return Call(&PDFHyperLink::SetHeight, number); }
   STDMETHODIMP get_Destination(_PDFLinkDestination** result) override {
     return Get(result, &PDFHyperLink::Destination);
   }

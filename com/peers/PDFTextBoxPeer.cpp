@@ -1,26 +1,15 @@
-#include "com/TaggedPeer.h"
+#include "com/peers/RegionPeer.h"
+#include "com/peers/TaggedPeer.h"
 
 namespace folivar::com {
 namespace {
 
-class PDFTextBoxPeer final : public TaggedPeer<PDFTextBox> {
+class PDFTextBoxPeer final : public RegionPeer<TaggedPeer<PDFTextBox>> {
  public:
-  using TaggedPeer::TaggedPeer;
+  using RegionPeer::RegionPeer;
 
   STDMETHODIMP get_Parent(IDispatch** result) override { return Get(result, &PDFTextBox::Parent); }
   STDMETHODIMP get_Key(BSTR* result) override { return Get(result, &PDFTextBox::Key); }
-  STDMETHODIMP get_Left(float* result) override { return Get(result, &PDFTextBox::Left); }
-  STDMETHODIMP put_Left(float number) override { return Call(&PDFTextBox::SetLeft, number); }
-  STDMETHODIMP get_Top(float* result) override { return Get(result, &PDFTextBox::Top); }
-  STDMETHODIMP put_Top(float number) override { return Call(&PDFTextBox::SetTop, number); }
-  STDMETHODIMP get_Bottom(float* result) override { return Get(result, &PDFTextBox::Bottom); }
-  STDMETHODIMP put_Bottom(float number) override { return Call(&PDFTextBox::SetBottom, number); }
-  STDMETHODIMP get_Right(float* result) override { return Get(result, &PDFTextBox::Right); }
-  STDMETHODIMP put_Right(float number) override { return Call(&PDFTextBox::SetRight, number); }
-  STDMETHODIMP put_Width(float number) override { return Call(&PDFTextBox::SetWidth, number); }
-  STDMETHODIMP put_Height(float number) override { return Call(&PDFTextBox::SetHeight, number); }
-  STDMETHODIMP get_Width(float* result) override { return Get(result, &PDFTextBox::Width); }
-  STDMETHODIMP get_Height(float* result) override { return Get(result, &PDFTextBox::Height); }
   STDMETHODIMP Move(float left, VARIANT top, VARIANT width, VARIANT height) override {
     constexpr const char* kMember = "PDFTextBox.Move";
     return Call(&PDFTextBox::Move, left, Single{kMember, top}, Single{kMember, width},

@@ -10,7 +10,7 @@
 
 namespace folivar::com {
 
-// The face of a collection; those that can take members out are ShrinkingCollectionPeers, those
+// The peer of a collection; those that can take members out are ShrinkingCollectionPeers, those
 // that can move them OrderedCollectionPeers.
 template <class Core>
 class CollectionPeer : public Peer<Core> {
