@@ -33,10 +33,10 @@ STDMETHODIMP ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** re
     Platform platform;
     platform.warnings = std::make_shared<HostWarnings>();
     const auto document = PDFDocument::Create(std::move(platform));
-    Microsoft::WRL::ComPtr<IUnknown> face;
+    Microsoft::WRL::ComPtr<IUnknown> peer;
     // Not Attach, which in mingw-w64 takes a reference of its own.
-    *face.GetAddressOf() = HandOut(document, document);
-    answer = face->QueryInterface(iid, result);
+    *peer.GetAddressOf() = HandOut(document, document);
+    answer = peer->QueryInterface(iid, result);
   });
   return FAILED(failure) ? failure : answer;
 }

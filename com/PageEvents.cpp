@@ -42,8 +42,8 @@ STDMETHODIMP PageEvents::GetConnectionInterface(IID* result) {
 
 STDMETHODIMP PageEvents::GetConnectionPointContainer(IConnectionPointContainer** result) {
   if (result == nullptr) return E_POINTER;
-  *result = &face_;
-  face_.AddRef();
+  *result = &peer_;
+  peer_.AddRef();
   return S_OK;
 }
 
@@ -56,7 +56,7 @@ STDMETHODIMP PageEvents::Advise(IUnknown* listener, DWORD* cookie) {
     connections_.push_back({lastCookie_ + 1, known});
     *cookie = ++lastCookie_;
     if (pageRemoved_.IsSubscribed()) return;
-    auto page = std::static_pointer_cast<PDFPage>(ObjectBehind(&face_));
+    auto page = std::static_pointer_cast<PDFPage>(ObjectBehind(&peer_));
     pageRemoved_ = page->PageRemoved().Subscribe([this](PDFPage&) { RaisePageRemoved(); });
   });
 }
@@ -93,7 +93,7 @@ bool PageEvents::IsConnected(DWORD cookie) const {
 void PageEvents::RaisePageRemoved() {
   const std::vector<Connection> connections = connections_;
   ComPtr<_PDFPage> page;
-  face_.QueryInterface(__uuidof(_PDFPage), &page);
+  peer_.QueryInterface(__uuidof(_PDFPage), &page);
   for (const Connection& connection : connections) {
     if (!IsConnected(connection.cookie)) continue;
     VARIANT argument;

@@ -10,18 +10,18 @@
 
 namespace folivar::com {
 
-// Who listens to a page: the connection point of the page's face, of which it is a part and whose
+// Who listens to a page: the connection point of the page's peer, of which it is a part and whose
 // references it shares. It listens to the page itself while anybody listens to it.
 class PageEvents final : public IConnectionPoint {
  public:
-  explicit PageEvents(IConnectionPointContainer& face) : face_(face) {}
+  explicit PageEvents(IConnectionPointContainer& peer) : peer_(peer) {}
   PageEvents(const PageEvents&) = delete;
   PageEvents& operator=(const PageEvents&) = delete;
 
   // IUnknown
   STDMETHODIMP QueryInterface(REFIID iid, void** result) override;
-  STDMETHODIMP_(ULONG) AddRef() override { return face_.AddRef(); }
-  STDMETHODIMP_(ULONG) Release() override { return face_.Release(); }
+  STDMETHODIMP_(ULONG) AddRef() override { return peer_.AddRef(); }
+  STDMETHODIMP_(ULONG) Release() override { return peer_.Release(); }
 
   // IConnectionPoint
   STDMETHODIMP GetConnectionInterface(IID* result) override;
@@ -40,7 +40,7 @@ class PageEvents final : public IConnectionPoint {
   // Tells all listeners; they may stop listening meanwhile, and then are not told.
   void RaisePageRemoved();
 
-  IConnectionPointContainer& face_;
+  IConnectionPointContainer& peer_;
   std::vector<Connection> connections_;
   DWORD lastCookie_ = 0;
   Event<PDFPage&>::Subscription pageRemoved_;

@@ -144,9 +144,9 @@ void Registration::Register(RegistrationScope scope) {
   classes.Set(version + L"\\FLAGS", L"0");
   classes.Set(version + L"\\HELPDIR", file.substr(0, file.find_last_of(L'\\')));
 
-  for (const InterfaceName& face : Interfaces()) {
-    const std::wstring path = L"Interface\\" + face.id;
-    classes.Set(path, face.name);
+  for (const InterfaceName& each : Interfaces()) {
+    const std::wstring path = L"Interface\\" + each.id;
+    classes.Set(path, each.name);
     classes.Set(path + L"\\ProxyStubClsid32", kAutomationMarshaler);
     classes.Set(path + L"\\TypeLib", library);
     classes.Set(path + L"\\TypeLib", L"Version", kVersion);
@@ -157,7 +157,7 @@ void Registration::Register(RegistrationScope scope) {
 // library once for both.
 void Registration::Unregister(RegistrationScope scope) {
   const Classes classes(scope);
-  for (const InterfaceName& face : Interfaces()) classes.Remove(L"Interface\\" + face.id);
+  for (const InterfaceName& each : Interfaces()) classes.Remove(L"Interface\\" + each.id);
   classes.Remove(ClassPath());
   if (!classes.IsInOtherView(ClassPath())) classes.Remove(kProgId);
 

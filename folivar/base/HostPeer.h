@@ -4,7 +4,7 @@
 
 namespace folivar {
 
-// What a binding to another object system keeps with an object: the face that it shows there.
+// What a binding to another object system keeps with an object: what stands for it there.
 class FOLIVAR_API HostPeer {
  public:
   virtual ~HostPeer();
