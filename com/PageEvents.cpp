@@ -4,7 +4,6 @@
 
 #include "com/Enumerator.h"
 #include "com/Guard.h"
-#include "com/PeerBase.h"
 
 namespace folivar::com {
 namespace {
@@ -41,10 +40,7 @@ STDMETHODIMP PageEvents::GetConnectionInterface(IID* result) {
 }
 
 STDMETHODIMP PageEvents::GetConnectionPointContainer(IConnectionPointContainer** result) {
-  if (result == nullptr) return E_POINTER;
-  *result = &peer_;
-  peer_.AddRef();
-  return S_OK;
+  return peer_.QueryInterface(IID_IConnectionPointContainer, reinterpret_cast<void**>(result));
 }
 
 STDMETHODIMP PageEvents::Advise(IUnknown* listener, DWORD* cookie) {
@@ -56,7 +52,7 @@ STDMETHODIMP PageEvents::Advise(IUnknown* listener, DWORD* cookie) {
     connections_.push_back({lastCookie_ + 1, known});
     *cookie = ++lastCookie_;
     if (pageRemoved_.IsSubscribed()) return;
-    auto page = std::static_pointer_cast<PDFPage>(ObjectBehind(&peer_));
+    auto page = std::static_pointer_cast<PDFPage>(peer_.TheObject());
     pageRemoved_ = page->PageRemoved().Subscribe([this](PDFPage&) { RaisePageRemoved(); });
   });
 }
@@ -92,8 +88,7 @@ bool PageEvents::IsConnected(DWORD cookie) const {
 
 void PageEvents::RaisePageRemoved() {
   const std::vector<Connection> connections = connections_;
-  ComPtr<_PDFPage> page;
-  peer_.QueryInterface(__uuidof(_PDFPage), &page);
+  const ComPtr<IDispatch> page = peer_.ClassInterface();
   for (const Connection& connection : connections) {
     if (!IsConnected(connection.cookie)) continue;
     VARIANT argument;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "com/ComPrefix.h"
+#include "com/PeerBase.h"
 #include "folivar/base/Event.h"
 #include "folivar/page/PDFPage.h"
 
@@ -14,7 +15,7 @@ namespace folivar::com {
 // references it shares. It listens to the page itself while anybody listens to it.
 class PageEvents final : public IConnectionPoint {
  public:
-  explicit PageEvents(IConnectionPointContainer& peer) : peer_(peer) {}
+  explicit PageEvents(PeerBase& peer) : peer_(peer) {}
   PageEvents(const PageEvents&) = delete;
   PageEvents& operator=(const PageEvents&) = delete;
 
@@ -40,7 +41,7 @@ class PageEvents final : public IConnectionPoint {
   // Tells all listeners; they may stop listening meanwhile, and then are not told.
   void RaisePageRemoved();
 
-  IConnectionPointContainer& peer_;
+  PeerBase& peer_;
   std::vector<Connection> connections_;
   DWORD lastCookie_ = 0;
   Event<PDFPage&>::Subscription pageRemoved_;
