@@ -1,9 +1,6 @@
 #include "folivar/textbox/PDFTextBox.h"
 
-#include <algorithm>
 #include <cmath>
-#include <cstddef>
-#include <limits>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -19,41 +16,12 @@
 #include "folivar/fonts/FontMetrics.h"
 #include "folivar/fonts/PDFFont.h"
 #include "folivar/page/PDFGraphicsState.h"
+#include "folivar/textbox/RichText.h"
 #include "folivar/textbox/TextBoxRenderer.h"
 #include "folivar/textbox/TextLayout.h"
-#include "folivar/textbox/TextRuns.h"
 
 namespace folivar {
 namespace {
-
-constexpr std::size_t kLongestText = std::numeric_limits<std::int32_t>::max();
-
-// With "\n" for every "\r\n" and every other "\r".
-Text WithLineFeeds(TextView text) {
-  Text converted(text);
-  if (!text.IsUtf16() && text.Utf8().find('\r') == std::string_view::npos) return converted;
-  const std::u16string& units = converted.Utf16();
-  std::size_t next = units.find(u'\r');
-  if (next == std::u16string::npos) return converted;
-  std::u16string result;
-  result.reserve(units.size());
-  std::size_t start = 0;
-  for (; next != std::u16string::npos; next = units.find(u'\r', start)) {
-    result.append(units, start, next - start).push_back(u'\n');
-    start = next + 1;
-    if (start < units.size() && units[start] == u'\n') ++start;
-  }
-  result.append(units, start);
-  return Text::Of(std::move(result));
-}
-
-std::int32_t LengthOf(std::size_t units) {
-  if (units > kLongestText) {
-    throw Error::Overflow("a text of " + std::to_string(units) +
-                          " UTF-16 units is too long for a text box");
-  }
-  return static_cast<std::int32_t>(units);
-}
 
 template <class T>
 Value ValueOf(const std::optional<T>& answer) {
@@ -70,7 +38,7 @@ PDFTextBox::PDFTextBox(const Internal&, std::weak_ptr<Object> parent,
   // Deliberate: the height is the descender's depth and the margins, too little for a line.
   geometry_.height =
       geometry_.top - font->Descender() + geometry_.marginTop + geometry_.marginBottom;
-  runs_ = std::make_unique<TextRuns>(std::move(font));
+  text_ = std::make_unique<RichText>(std::move(font));
 }
 
 PDFTextBox::~PDFTextBox() = default;
@@ -136,8 +104,8 @@ void PDFTextBox::AutoSizeNow() {
 // Deliberate: the margins are added to the width with word wrap too, so that every sizing widens
 // the box.
 void PDFTextBox::AutoSizeBox() {
-  const AnsiText ansi(text_);
-  const TextExtents extents = TextLayout(ansi.Bytes(), runs_->List(), geometry_).Measure();
+  const AnsiText ansi(text_->Text());
+  const TextExtents extents = TextLayout(ansi.Bytes(), text_->Runs(), geometry_).Measure();
   const float textWidth = geometry_.wordWrap ? geometry_.width : extents.width;
   const float width = Finite(geometry_.marginLeft + textWidth + geometry_.marginRight);
   SetHeight(
@@ -159,14 +127,9 @@ void PDFTextBox::Copy(const std::shared_ptr<PDFTextBox>& source) {
       throw Error::InvalidArgument("belongs to another document")
           .WithObject(KeyedName("text box", source->Key()));
     }
-    if (source.get() == this) return;
-    folivar::Text text = source->text_;
-    runs_->CopyFrom(*source->runs_);
-    text_ = std::move(text);
+    text_->CopyFrom(*source->text_);
     geometry_ = source->geometry_;
     autoSize_ = source->autoSize_;
-    selStart_ = source->selStart_;
-    selEnd_ = source->selEnd_;
   });
 }
 
@@ -175,200 +138,93 @@ void PDFTextBox::SetBorderDashPattern(float dashOn, float dashOff) {
   frame_.dashOff = dashOff;
 }
 
-std::int64_t PDFTextBox::TextLength() const {
-  return static_cast<std::int64_t>(text_.Utf16().size());
-}
-
+const folivar::Text& PDFTextBox::Text() const { return text_->Text(); }
 void PDFTextBox::SetText(TextView text) {
-  InMember("PDFTextBox.Text", [&] {
-    folivar::Text newText = WithLineFeeds(text);
-    const std::int32_t length = LengthOf(newText.Utf16().size());
-    text_ = std::move(newText);
-    selStart_ = std::min(selStart_, length);
-    selEnd_ = std::min(selEnd_, length);
-    runs_->ResetText(length);
-    selStart_ = length;
-    selEnd_ = length;
-  });
+  InMember("PDFTextBox.Text", [&] { text_->SetText(text); });
 }
 
-void PDFTextBox::SetSelStart(std::int32_t start) {
-  const auto length = static_cast<std::int32_t>(TextLength());
-  selStart_ = start < 0 ? 0 : std::min(start, length);
-  selEnd_ = selStart_;
-}
+std::int32_t PDFTextBox::SelStart() const { return text_->SelStart(); }
+void PDFTextBox::SetSelStart(std::int32_t start) { text_->SetSelStart(start); }
 
+std::int32_t PDFTextBox::SelLength() const { return text_->SelLength(); }
 void PDFTextBox::SetSelLength(std::int32_t length) {
-  const std::int64_t end = std::int64_t{selStart_} + length;
-  if (end > std::numeric_limits<std::int32_t>::max()) {
-    throw Error::Overflow("a selection from " + std::to_string(selStart_) + " of length " +
-                          std::to_string(length) + " ends beyond what 32 bits can say")
-        .WithMember("PDFTextBox.SelLength");
-  }
-  if (length >= 0) {
-    selEnd_ = static_cast<std::int32_t>(std::min(end, TextLength()));
-  } else {
-    selEnd_ = selStart_;
-    selStart_ = static_cast<std::int32_t>(std::max<std::int64_t>(end, 0));
-  }
+  InMember("PDFTextBox.SelLength", [&] { text_->SetSelLength(length); });
 }
 
-folivar::Text PDFTextBox::SelText() const {
-  return folivar::Text(
-      std::u16string_view(text_.Utf16())
-          .substr(static_cast<std::size_t>(selStart_), static_cast<std::size_t>(SelLength())));
-}
-
+folivar::Text PDFTextBox::SelText() const { return text_->SelText(); }
 void PDFTextBox::SetSelText(TextView text) {
-  InMember("PDFTextBox.SelText", [&] {
-    const folivar::Text inserted = WithLineFeeds(text);
-    const std::u16string_view old = text_.Utf16();
-    const auto start = static_cast<std::size_t>(selStart_);
-    const auto end = static_cast<std::size_t>(selEnd_);
-    const std::size_t size = old.size() - (end - start) + inserted.Utf16().size();
-    LengthOf(size);
-    std::u16string units;
-    units.reserve(size);
-    units.append(old.substr(0, start)).append(inserted.Utf16()).append(old.substr(end));
-    const auto length = static_cast<std::int32_t>(inserted.Utf16().size());
-    runs_->ReplaceText(selStart_, selEnd_, length, TextLength());
-    text_ = folivar::Text::Of(std::move(units));
-    selStart_ += length;
-    selEnd_ = selStart_;
-  });
+  InMember("PDFTextBox.SelText", [&] { text_->SetSelText(text); });
 }
 
-// What `get` reads of the one run that holds the selection; nothing when several do.
-template <class Get>
-auto PDFTextBox::SelectedFormat(Get get) const {
-  const TextRuns::Found found = runs_->FindSelectionRuns(selStart_, selEnd_);
-  using Answer = std::optional<decltype(get(runs_->List()[0]))>;
-  return found.IsOneRun() ? Answer(get(runs_->List()[found.first.index])) : Answer();
-}
-
-template <class Flag>
-std::optional<bool> PDFTextBox::SelectedFlag(Flag flag) const {
-  return SelectedFormat([&](const TEXT_FORMAT_RANGE& run) { return ((*run.Font).*flag)(); });
-}
-
-// `change` gets the runs that exactly cover start..end as a function to walk them.
-template <class Change>
-void PDFTextBox::ChangeSelection(std::int32_t start, std::int32_t end, Change change) {
-  const TextRuns::Stretch stretch = runs_->SplitRunsAtSelection(start, end, TextLength());
-  change([&](auto visit) { runs_->ForEach(stretch, visit); });
-  runs_->MergeEquivalentRuns(stretch);
-}
-
-// Deliberate: the runs are split before the value is looked at, and stay so if it is no flag.
-template <class Setter>
-void PDFTextBox::ChangeFlag(const char* member, const Value& value, Setter setter) {
-  InMember(member, [&] {
-    ChangeSelection(selStart_, selEnd_, [&](auto forEachRun) {
-      const bool flag = BoolFrom(value);
-      forEachRun([&](TEXT_FORMAT_RANGE& run) { (run.Font.Own().*setter)(flag); });
-    });
-  });
-}
-
-std::shared_ptr<PDFFont> PDFTextBox::SelFont() const {
-  return SelectedFormat([](const TEXT_FORMAT_RANGE& run) { return run.Font.Seen(); })
-      .value_or(nullptr);
-}
-
+std::shared_ptr<PDFFont> PDFTextBox::SelFont() const { return text_->SelFont(); }
 void PDFTextBox::SetSelFont(std::shared_ptr<PDFFont> font) {
   if (!font) return;
   InMember("PDFTextBox.SelFont", [&] {
     parentSurface_->CheckIsOfDocument(*font);
-    const RunFont runFont(std::move(font));
-    ChangeSelection(selStart_, selEnd_, [&](auto forEachRun) {
-      forEachRun([&](TEXT_FORMAT_RANGE& run) { run.Font = runFont; });
-    });
-    parentSurface_->ResourceDictionary().AddFontResource(*runFont);
+    text_->SetSelFont(font);
+    parentSurface_->ResourceDictionary().AddFontResource(*font);
   });
 }
 
-float PDFTextBox::SelFontSize() const {
-  return SelectedFormat([](const TEXT_FORMAT_RANGE& run) { return run.Font->Size(); }).value_or(0);
-}
+float PDFTextBox::SelFontSize() const { return text_->SelFontSize(); }
+void PDFTextBox::SetSelFontSize(float points) { text_->SetSelFontSize(points); }
 
-void PDFTextBox::SetSelFontSize(float points) {
-  ChangeSelection(selStart_, selEnd_, [&](auto forEachRun) {
-    forEachRun([&](TEXT_FORMAT_RANGE& run) { run.Font.Own().SetSize(points); });
-  });
-}
-
-std::optional<std::int32_t> PDFTextBox::SelOneColor() const {
-  return SelectedFormat([](const TEXT_FORMAT_RANGE& run) { return run.Color; });
-}
+std::optional<std::int32_t> PDFTextBox::SelOneColor() const { return text_->SelColor(); }
 Value PDFTextBox::SelColor() const { return ValueOf(SelOneColor()); }
-
 void PDFTextBox::SetSelColor(const Value& color) {
-  InMember("PDFTextBox.SelColor", [&] {
-    ChangeSelection(selStart_, selEnd_, [&](auto forEachRun) {
-      const std::int32_t rgb = Int32From(color);
-      forEachRun([&](TEXT_FORMAT_RANGE& run) { run.Color = rgb; });
-    });
-  });
+  InMember("PDFTextBox.SelColor", [&] { text_->SetSelColor(color); });
 }
 
-std::optional<bool> PDFTextBox::IsSelBold() const { return SelectedFlag(&PDFFont::Bold); }
-std::optional<bool> PDFTextBox::IsSelItalic() const { return SelectedFlag(&PDFFont::Italic); }
-std::optional<bool> PDFTextBox::IsSelUnderline() const { return SelectedFlag(&PDFFont::Underline); }
-std::optional<bool> PDFTextBox::IsSelStrikeOut() const { return SelectedFlag(&PDFFont::StrikeOut); }
-std::optional<bool> PDFTextBox::IsSelSubscript() const { return SelectedFlag(&PDFFont::Subscript); }
-std::optional<bool> PDFTextBox::IsSelSuperscript() const {
-  return SelectedFlag(&PDFFont::Superscript);
-}
-
+std::optional<bool> PDFTextBox::IsSelBold() const { return text_->SelFlag(&PDFFont::Bold); }
 Value PDFTextBox::SelBold() const { return ValueOf(IsSelBold()); }
-Value PDFTextBox::SelItalic() const { return ValueOf(IsSelItalic()); }
-Value PDFTextBox::SelUnderline() const { return ValueOf(IsSelUnderline()); }
-Value PDFTextBox::SelStrikeOut() const { return ValueOf(IsSelStrikeOut()); }
-Value PDFTextBox::SelSubscript() const { return ValueOf(IsSelSubscript()); }
-Value PDFTextBox::SelSuperscript() const { return ValueOf(IsSelSuperscript()); }
-
 void PDFTextBox::SetSelBold(const Value& bold) {
-  ChangeFlag("PDFTextBox.SelBold", bold, &PDFFont::SetBold);
+  InMember("PDFTextBox.SelBold", [&] { text_->SetSelFlag(&PDFFont::SetBold, bold); });
 }
+
+std::optional<bool> PDFTextBox::IsSelItalic() const { return text_->SelFlag(&PDFFont::Italic); }
+Value PDFTextBox::SelItalic() const { return ValueOf(IsSelItalic()); }
 void PDFTextBox::SetSelItalic(const Value& italic) {
-  ChangeFlag("PDFTextBox.SelItalic", italic, &PDFFont::SetItalic);
+  InMember("PDFTextBox.SelItalic", [&] { text_->SetSelFlag(&PDFFont::SetItalic, italic); });
 }
+
+std::optional<bool> PDFTextBox::IsSelUnderline() const {
+  return text_->SelFlag(&PDFFont::Underline);
+}
+Value PDFTextBox::SelUnderline() const { return ValueOf(IsSelUnderline()); }
 void PDFTextBox::SetSelUnderline(const Value& underline) {
-  ChangeFlag("PDFTextBox.SelUnderline", underline, &PDFFont::SetUnderline);
+  InMember("PDFTextBox.SelUnderline",
+           [&] { text_->SetSelFlag(&PDFFont::SetUnderline, underline); });
 }
+
+std::optional<bool> PDFTextBox::IsSelStrikeOut() const {
+  return text_->SelFlag(&PDFFont::StrikeOut);
+}
+Value PDFTextBox::SelStrikeOut() const { return ValueOf(IsSelStrikeOut()); }
 void PDFTextBox::SetSelStrikeOut(const Value& strikeOut) {
-  ChangeFlag("PDFTextBox.SelStrikeOut", strikeOut, &PDFFont::SetStrikeOut);
+  InMember("PDFTextBox.SelStrikeOut",
+           [&] { text_->SetSelFlag(&PDFFont::SetStrikeOut, strikeOut); });
 }
+
+std::optional<bool> PDFTextBox::IsSelSubscript() const {
+  return text_->SelFlag(&PDFFont::Subscript);
+}
+Value PDFTextBox::SelSubscript() const { return ValueOf(IsSelSubscript()); }
 void PDFTextBox::SetSelSubscript(const Value& subscript) {
-  ChangeFlag("PDFTextBox.SelSubscript", subscript, &PDFFont::SetSubscript);
+  InMember("PDFTextBox.SelSubscript",
+           [&] { text_->SetSelFlag(&PDFFont::SetSubscript, subscript); });
 }
+
+std::optional<bool> PDFTextBox::IsSelSuperscript() const {
+  return text_->SelFlag(&PDFFont::Superscript);
+}
+Value PDFTextBox::SelSuperscript() const { return ValueOf(IsSelSuperscript()); }
 void PDFTextBox::SetSelSuperscript(const Value& superscript) {
-  ChangeFlag("PDFTextBox.SelSuperscript", superscript, &PDFFont::SetSuperscript);
+  InMember("PDFTextBox.SelSuperscript",
+           [&] { text_->SetSelFlag(&PDFFont::SetSuperscript, superscript); });
 }
 
-PDFParaAlignment PDFTextBox::SelAlignment() const {
-  return SelectedFormat([](const TEXT_FORMAT_RANGE& run) { return run.Alignment; })
-      .value_or(alignNULL);
-}
-
-void PDFTextBox::SetSelAlignment(PDFParaAlignment alignment) {
-  if (alignment == alignNULL) return;
-  const Paragraph paragraph = GetParagraphBounds();
-  ChangeSelection(paragraph.start, paragraph.end, [&](auto forEachRun) {
-    forEachRun([&](TEXT_FORMAT_RANGE& run) { run.Alignment = alignment; });
-  });
-}
-
-// Deliberate: a paragraph begins on the "\n" before it, and the last one ends one unit early.
-PDFTextBox::Paragraph PDFTextBox::GetParagraphBounds() const {
-  const std::u16string& units = text_.Utf16();
-  if (units.empty()) return {0, 0};
-  const std::size_t before = units.rfind(u'\n', static_cast<std::size_t>(selStart_));
-  const std::size_t behind = units.find(u'\n', static_cast<std::size_t>(selEnd_));
-  const std::size_t start = before == std::u16string::npos ? 0 : before;
-  const std::size_t end = behind == std::u16string::npos ? units.size() - 1 : behind;
-  return {static_cast<std::int32_t>(start), static_cast<std::int32_t>(end)};
-}
+PDFParaAlignment PDFTextBox::SelAlignment() const { return text_->SelAlignment(); }
+void PDFTextBox::SetSelAlignment(PDFParaAlignment alignment) { text_->SetSelAlignment(alignment); }
 
 std::shared_ptr<PDFGraphicsState> PDFTextBox::GraphicsState() {
   if (!graphicsState_) {
@@ -380,7 +236,7 @@ std::shared_ptr<PDFGraphicsState> PDFTextBox::GraphicsState() {
 
 void PDFTextBox::RegisterFaces(const Internal&) const {
   PDFResourceDictionary& resources = parentSurface_->ResourceDictionary();
-  runs_->List().ForEach([&](const TEXT_FORMAT_RANGE& run) {
+  text_->Runs().ForEach([&](const TEXT_FORMAT_RANGE& run) {
     if (!resources.HasFace(FontMetrics(*run.Font).Face())) resources.AddFontResource(*run.Font);
   });
 }
@@ -389,10 +245,10 @@ void PDFTextBox::RenderTextBox(const Internal&, PDFText& content) {
   OfObject([&] { return KeyedName("PDFTextBox", Key()); },
            [&] {
              if (autoSize_) AutoSizeBox();
-             const AnsiText ansi(text_);
+             const AnsiText ansi(text_->Text());
              TextBoxRenderer(content, geometry_, frame_)
                  .Render(surface_ ? surface_->Content().Bytes() : std::string_view(), ansi,
-                         runs_->List());
+                         text_->Runs());
            });
 }
 

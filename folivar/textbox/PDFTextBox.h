@@ -19,8 +19,8 @@ class Internal;
 class PDFFont;
 class PDFGraphicsState;
 class PDFText;
+class RichText;
 class Surface;
-class TextRuns;
 
 // A rectangle of rich text on a page or a template; made by PDFTextBoxes::Add. Its text is edited
 // as in a rich-text control: place a selection, then read or set its text or its format. The box is
@@ -119,16 +119,16 @@ class FOLIVAR_API PDFTextBox final : public Tagged {
   // or more, the text is set, some of the formats stay, and 9 is raised; the selection is kept as
   // far as it lies in the new text. Raises 5 for text that is not UTF-8 and 6 for one of more than
   // 2^31 - 1 units.
-  const folivar::Text& Text() const { return text_; }
+  const folivar::Text& Text() const;
   void SetText(TextView text);
 
   // Where the selection, or the caret, begins. Setting it makes it a caret; positions outside the
   // text are moved to its nearer end.
-  std::int32_t SelStart() const { return selStart_; }
+  std::int32_t SelStart() const;
   void SetSelStart(std::int32_t start);
   // How much is selected, from SelStart on. A negative length selects backwards from SelStart, and
   // the selection never leaves the text. Raises 6 when the sum is beyond 32 bits.
-  std::int32_t SelLength() const { return selEnd_ - selStart_; }
+  std::int32_t SelLength() const;
   void SetSelLength(std::int32_t length);
 
   // The selected text. Setting it replaces the selection and leaves the caret behind the new text,
@@ -200,21 +200,6 @@ class FOLIVAR_API PDFTextBox final : public Tagged {
   void RenderTextBox(const Internal&, PDFText& content);
 
  private:
-  struct Paragraph {
-    std::int32_t start;
-    std::int32_t end;
-  };
-
-  template <class Get>
-  auto SelectedFormat(Get get) const;
-  template <class Flag>
-  std::optional<bool> SelectedFlag(Flag flag) const;
-  template <class Change>
-  void ChangeSelection(std::int32_t start, std::int32_t end, Change change);
-  template <class Setter>
-  void ChangeFlag(const char* member, const Value& value, Setter setter);
-  Paragraph GetParagraphBounds() const;
-  std::int64_t TextLength() const;
   void AutoSizeBox();
 
   MemberKey key_;
@@ -226,10 +211,7 @@ class FOLIVAR_API PDFTextBox final : public Tagged {
   TextBoxGeometry geometry_;
   TextBoxFrame frame_;
   bool autoSize_ = false;
-  folivar::Text text_;
-  std::unique_ptr<TextRuns> runs_;
-  std::int32_t selStart_ = 0;
-  std::int32_t selEnd_ = 0;
+  std::unique_ptr<RichText> text_;
 };
 
 }  // namespace folivar

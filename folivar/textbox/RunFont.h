@@ -8,42 +8,44 @@
 namespace folivar {
 
 // The font of a run. Every run has a font object of its own, unless a host has set one font for
-// several; but as long as no host has seen the objects, and they are alike, one stands for all of
-// them, and clones cost nothing.
+// several. But nobody can tell objects apart that are alike, never change and are not seen by a
+// host; so clones share one object, and a run gets its own when it is changed or handed out.
 class RunFont {
  public:
   RunFont() = default;
   // A font that the host has too: what either changes shows on both sides.
-  explicit RunFont(std::shared_ptr<PDFFont> font) : font_(std::move(font)), isSeen_(true) {}
+  explicit RunFont(std::shared_ptr<PDFFont> font) : font_(std::move(font)), hostHasIt_(true) {}
   // A font like this one, and of its own.
   static RunFont CloneOf(const PDFFont& font);
 
   const PDFFont& operator*() const { return *font_; }
   const PDFFont* operator->() const { return font_.get(); }
 
-  RunFont Clone() const { return isSeen_ ? CloneOf(*font_) : *this; }
+  RunFont Clone() const { return hostHasIt_ ? CloneOf(*font_) : *this; }
 
   // For changing it.
   PDFFont& Own() {
-    Separate();
+    StopSharing();
     return *font_;
   }
 
-  // For handing it to the host; the same object each time.
-  const std::shared_ptr<PDFFont>& Seen() const {
-    Separate();
-    isSeen_ = true;
+  // To the host; the same object each time.
+  const std::shared_ptr<PDFFont>& HandOut() {
+    StopSharing();
+    hostHasIt_ = true;
     return font_;
   }
 
  private:
-  // Makes the object that so far another one has stood for.
-  void Separate() const {
-    if (!isSeen_ && font_.use_count() > 1) font_ = font_->Clone();
+  // Leaves the object to the clones that share it. One that the host has is shared by runs only
+  // because the host set it for them, and stays shared.
+  void StopSharing() {
+    const bool hasClones = !hostHasIt_ && font_.use_count() > 1;
+    if (hasClones) font_ = font_->Clone();
   }
 
-  mutable std::shared_ptr<PDFFont> font_;
-  mutable bool isSeen_ = false;
+  std::shared_ptr<PDFFont> font_;
+  bool hostHasIt_ = false;
 };
 
 }  // namespace folivar

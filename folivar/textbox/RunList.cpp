@@ -43,7 +43,8 @@ RunList::Spot RunList::SpotOf(std::size_t index) const {
 RunList::Place RunList::FindStart(std::int64_t position) const {
   Place place{0, 0};
   if (position == 0) return place;
-  // Runs before one that starts before the position end before it too.
+  // Where the run found last starts before the position, the runs in front of it end before it too
+  // and need no walk.
   if (position > near_.start) place = near_;
   Spot spot = SpotOf(place.index);
   while (!IsLast(place.index)) {

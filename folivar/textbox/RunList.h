@@ -34,6 +34,11 @@ class RunList {
     return blocks_[spot.block].runs[spot.index];
   }
 
+  RunFont& FontOf(std::size_t index) {
+    const Spot spot = SpotOf(index);
+    return blocks_[spot.block].runs[spot.index].Font;
+  }
+
   // The run that holds the character at `position`: on a boundary the run behind it, though an
   // empty run there comes first; the last run for positions beyond all lengths. For 0 it is the
   // first run, also an empty one.

@@ -11,7 +11,7 @@
 
 namespace folivar::test {
 
-// The rules of editing a text box as the plainest program that keeps them: a string and a vector of
+// The rules of editing rich text as the plainest program that keeps them: a string and a vector of
 // runs, walked from the front at every step. Its fonts are objects, because runs may share them.
 // Where the text and the runs are out of step, the last run takes what is left of the text.
 class TextBoxModel {
@@ -40,7 +40,7 @@ class TextBoxModel {
   std::int64_t SelStart() const { return start_; }
   std::int64_t SelLength() const { return end_ - start_; }
   std::u16string SelText() const;
-  std::size_t RunCount() const { return runs_.size(); }
+  const std::vector<Run>& Runs() const { return runs_; }
   // The one run that holds the selection; none for several.
   std::optional<Run> Selected() const;
 
@@ -55,6 +55,8 @@ class TextBoxModel {
     ChangeRuns(start_, end_, change);
   }
   void SetSelAlignment(PDFParaAlignment alignment);
+  // As a change of format does that fails at once.
+  void SplitSelection() { SplitAt(start_, end_); }
   void CopyFrom(const TextBoxModel& source);
 
  private:

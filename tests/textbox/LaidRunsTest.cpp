@@ -43,9 +43,9 @@ TEST(LaidRuns, TheLastOneHasWhatIsLeftAndNoneGoesBeyondTheText) {
 
 TEST(LaidRuns, RunsOfOneFontAndColourShareAFormat) {
   const RunFont plain(StandardFont());
-  const RunFont other(StandardFont("Courier", 20));
-  other.Seen()->SetUnderline(true);
-  other.Seen()->SetSubscript(true);
+  RunFont other(StandardFont("Courier", 20));
+  other.HandOut()->SetUnderline(true);
+  other.HandOut()->SetSubscript(true);
   const RunList list =
       ListOf({RunIn(plain, 1), RunIn(other, 1), RunIn(plain, 1), RunIn(plain, 1, 7)});
   const LaidRuns runs(list, 4);
@@ -54,7 +54,7 @@ TEST(LaidRuns, RunsOfOneFontAndColourShareAFormat) {
   EXPECT_EQ(runs.FormatOf(runs.begin()[3]).Color(), 7);
   const LaidFormat& format = runs.FormatOf(runs.begin()[1]);
   EXPECT_EQ(format.Number(), 1U);
-  EXPECT_EQ(&format.Font(), other.Seen().get());
+  EXPECT_EQ(&format.Font(), other.HandOut().get());
   EXPECT_TRUE(format.IsDecorated());
   EXPECT_TRUE(format.IsRaisedOrLowered());
   EXPECT_FLOAT_EQ(format.Leading(), 21.1F);

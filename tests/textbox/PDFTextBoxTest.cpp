@@ -889,7 +889,7 @@ TEST_F(EditedTextBox, FollowsTheRules) {
     }
     if (random_.Chance(5)) ChangeHeldFont();
     ExpectSame();
-    mostRuns = std::max(mostRuns, model_.RunCount());
+    mostRuns = std::max(mostRuns, model_.Runs().size());
     if (model_.Text().size() > 60 || random_.Chance(1)) StartAnew();
     if (HasFailure()) FAIL() << "at step " << step;
   }

@@ -7,24 +7,24 @@ namespace folivar::test {
 namespace {
 
 TEST(RunFont, ClonesThatNobodyHasSeenAreOneObject) {
-  const RunFont font = RunFont::CloneOf(*StandardFont());
-  const RunFont clone = font.Clone();
+  RunFont font = RunFont::CloneOf(*StandardFont());
+  RunFont clone = font.Clone();
   EXPECT_EQ(&*clone, &*font);
 }
 
 TEST(RunFont, ACloneIsOneOfItsOwnOnceItIsSeen) {
-  const RunFont font = RunFont::CloneOf(*StandardFont());
-  const RunFont clone = font.Clone();
-  const auto seen = clone.Seen();
-  EXPECT_EQ(clone.Seen(), seen) << "the same each time";
-  EXPECT_NE(font.Seen(), seen);
+  RunFont font = RunFont::CloneOf(*StandardFont());
+  RunFont clone = font.Clone();
+  const auto seen = clone.HandOut();
+  EXPECT_EQ(clone.HandOut(), seen) << "the same each time";
+  EXPECT_NE(font.HandOut(), seen);
   seen->SetSize(20);
   EXPECT_EQ(clone->Size(), 20);
   EXPECT_EQ(font->Size(), 10);
 }
 
 TEST(RunFont, ACloneIsOneOfItsOwnOnceItIsChanged) {
-  const RunFont font = RunFont::CloneOf(*StandardFont());
+  RunFont font = RunFont::CloneOf(*StandardFont());
   RunFont clone = font.Clone();
   clone.Own().SetSize(20);
   clone.Own().SetUnderline(true);
@@ -35,13 +35,13 @@ TEST(RunFont, ACloneIsOneOfItsOwnOnceItIsChanged) {
 
 TEST(RunFont, ACloneOfWhatTheHostHasIsOneOfItsOwnAtOnce) {
   const auto seen = StandardFont();
-  const RunFont font(seen);
-  EXPECT_EQ(font.Seen(), seen);
-  const RunFont clone = font.Clone();
+  RunFont font(seen);
+  EXPECT_EQ(font.HandOut(), seen);
+  RunFont clone = font.Clone();
   seen->SetSize(20);
   EXPECT_EQ(font->Size(), 20);
   EXPECT_EQ(clone->Size(), 10);
-  EXPECT_NE(clone.Seen(), seen);
+  EXPECT_NE(clone.HandOut(), seen);
 }
 
 TEST(RunFont, WhatTheHostHasIsChangedForAllThatShareIt) {
@@ -57,7 +57,7 @@ TEST(RunFont, TheLastOfItsKindNeedsNoCopy) {
   RunFont font = RunFont::CloneOf(*StandardFont());
   const PDFFont* object = &*font;
   font.Own().SetSize(20);
-  EXPECT_EQ(font.Seen().get(), object);
+  EXPECT_EQ(font.HandOut().get(), object);
 }
 
 }  // namespace

@@ -28,7 +28,7 @@ TEST(TEXT_FORMAT_RANGE, ACopyHasAFontOfItsOwn) {
   source.Length = 5;
   TEXT_FORMAT_RANGE copy;
   copy.CopyFrom(source);
-  EXPECT_NE(copy.Font.Seen(), source.Font.Seen());
+  EXPECT_NE(copy.Font.HandOut(), source.Font.HandOut());
   EXPECT_EQ(copy.Font->FontFace(), "Courier");
   EXPECT_EQ(copy.Font->Size(), 12);
   EXPECT_TRUE(copy.Font->Underline());

@@ -4,13 +4,15 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "folivar/base/AnsiText.h"
 #include "folivar/base/Error.h"
 #include "folivar/file/PDFText.h"
 #include "folivar/fonts/PDFFont.h"
+#include "folivar/textbox/RunList.h"
 #include "folivar/textbox/TextBoxRenderer.h"
-#include "folivar/textbox/TextRuns.h"
 #include "tests/support/Content.h"
 #include "tests/support/StandardFont.h"
 
@@ -30,25 +32,22 @@ class TextBoxRendererTest : public testing::Test {
     geometry_.height = 50;
   }
 
-  // Adds text in a run of its own.
+  // Adds text in a run of its own, in the colour and alignment of the run before.
   TEXT_FORMAT_RANGE& Add(const std::string& text) {
-    const auto start = static_cast<std::int64_t>(text_.size());
     text_ += text;
-    const auto end = static_cast<std::int64_t>(text_.size());
-    const auto stretch = runs_.SplitRunsAtSelection(start, end, end);
-    TEXT_FORMAT_RANGE* added = nullptr;
-    runs_.ForEach(stretch, [&](TEXT_FORMAT_RANGE& run) {
-      run.CopyFrom(run);
-      run.Font = RunFont::CloneOf(*font_);
-      added = &run;
-    });
-    return *added;
+    TEXT_FORMAT_RANGE added = runs_.empty() ? TEXT_FORMAT_RANGE() : runs_.back();
+    added.Font = RunFont::CloneOf(*font_);
+    added.Length = static_cast<std::int32_t>(text.size());
+    return runs_.emplace_back(std::move(added));
   }
 
   std::string Rendered(const std::string& own = "") const {
     PDFText content;
     const AnsiText ansi{TextView(text_)};
-    TextBoxRenderer(content, geometry_, frame_).Render(own, ansi, runs_.List());
+    RunList list{TEXT_FORMAT_RANGE()};
+    std::vector<TEXT_FORMAT_RANGE> runs = runs_;
+    if (!runs.empty()) list.Replace(0, 1, runs);
+    TextBoxRenderer(content, geometry_, frame_).Render(own, ansi, list);
     return std::string(content.Bytes());
   }
 
@@ -65,7 +64,7 @@ class TextBoxRendererTest : public testing::Test {
   }
 
   std::shared_ptr<PDFFont> font_ = StandardFont("Courier", 10, "/F3");
-  TextRuns runs_{RunFont(font_)};
+  std::vector<TEXT_FORMAT_RANGE> runs_;
   std::string text_;
   TextBoxGeometry geometry_;
   TextBoxFrame frame_;
