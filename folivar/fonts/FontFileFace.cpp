@@ -14,6 +14,7 @@
 #include "folivar/file/FileSource.h"
 #include "folivar/file/FileSystem.h"
 #include "folivar/fonts/FontPrograms.h"
+#include "folivar/fonts/FontTables.h"
 #include "folivar/fonts/TrueTypeFontTables.h"
 
 namespace folivar {
@@ -49,9 +50,9 @@ std::string IdentityOf(const Text& fileName) {
 }
 
 struct Measures {
-  std::array<unsigned char, 86> os2 = {};
-  std::array<unsigned char, 54> head = {};
-  std::array<unsigned char, 54> pclt = {};
+  OS2Table os2;
+  HeadTable head;
+  PCLTTable pclt;
   SystemFace::TextMetrics text;
   std::array<std::int32_t, 256> widths = {};
 };
@@ -59,13 +60,8 @@ struct Measures {
 Measures Measure(const FontFileFace& face) {
   FileSource file(face.fileName);
   const TrueTypeFontTables tables(file, face.fileName.Utf8(), face.index);
-  Measures measures;
-  tables.ReadTable("OS/2", measures.os2);
-  tables.ReadTable("head", measures.head);
-  tables.ReadTable("PCLT", measures.pclt);
-  measures.text = tables.Metrics();
-  measures.widths = tables.Widths();
-  return measures;
+  return {TableOf<OS2Table>(tables), TableOf<HeadTable>(tables), TableOf<PCLTTable>(tables),
+          tables.Metrics(), tables.Widths()};
 }
 
 class FileFace final : public SystemFace {
@@ -81,12 +77,13 @@ class FileFace final : public SystemFace {
   Text Name() override { return face_.family; }
 
   void ReadTable(std::string_view tag, std::span<unsigned char> out) override {
-    const auto copy = [out](std::span<const unsigned char> table) {
-      std::copy_n(table.begin(), std::min(table.size(), out.size()), out.begin());
+    const auto copyIfWanted = [&](const auto& table) {
+      if (tag != table.kTag) return;
+      std::copy_n(table.bytes.begin(), std::min(table.kSize, out.size()), out.begin());
     };
-    if (tag == "OS/2") copy(measures_->os2);
-    if (tag == "head") copy(measures_->head);
-    if (tag == "PCLT") copy(measures_->pclt);
+    copyIfWanted(measures_->os2);
+    copyIfWanted(measures_->head);
+    copyIfWanted(measures_->pclt);
   }
 
   std::shared_ptr<const std::string> Program() override {

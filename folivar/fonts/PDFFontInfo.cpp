@@ -4,11 +4,11 @@
 #include <utility>
 
 #include "folivar/base/AnsiText.h"
-#include "folivar/base/BigEndian.h"
 #include "folivar/base/CaseFold.h"
 #include "folivar/document/Global.h"
 #include "folivar/file/ObjectNumbers.h"
 #include "folivar/file/SaveFile.h"
+#include "folivar/fonts/FontTables.h"
 #include "folivar/fonts/StandardFaces.h"
 
 namespace folivar {
@@ -21,23 +21,9 @@ float BoxSide(std::int16_t units, std::uint16_t unitsPerEm) {
   return static_cast<float>(thousandths);
 }
 
-using OS2Table = std::array<unsigned char, 86>;
-
-OS2Table ReadOS2(SystemFace& face) {
-  OS2Table table = {};
-  face.ReadTable("OS/2", table);
-  return table;
-}
-
-// Only this value forbids embedding; together with other bits it does not.
-bool IsEmbeddable(const OS2Table& table) {
-  constexpr std::uint16_t kRestricted = 2;
-  return U16At(table, 8) != kRestricted;
-}
-
 }  // namespace
 
-bool IsEmbeddable(SystemFace& face) { return IsEmbeddable(ReadOS2(face)); }
+bool IsEmbeddable(SystemFace& face) { return TableOf<OS2Table>(face).MayEmbed(); }
 
 Text TrueTypeBaseFontName(const Text& faceName, bool isBold, bool isItalic) {
   std::u16string name = faceName.Utf16();
@@ -77,8 +63,8 @@ void PDFFontInfo::LoadTrueTypeMetrics(const Text& faceName, SystemFace& face, Wa
                        m_FontFace.Utf8() + "' instead."));
   }
 
-  const OS2Table os2 = ReadOS2(face);
-  m_Embeddable = IsEmbeddable(os2);
+  const auto os2 = TableOf<OS2Table>(face);
+  m_Embeddable = os2.MayEmbed();
   if (m_EmbedFont && m_Embeddable) {
     program_ = face.Program();
     if (program_ && program_->empty()) program_ = nullptr;
@@ -108,25 +94,20 @@ void PDFFontInfo::LoadTrueTypeMetrics(const Text& faceName, SystemFace& face, Wa
   characters_ = characters.get();
   ownCharacters_ = std::move(characters);
 
-  std::array<unsigned char, 54> head = {};
-  face.ReadTable("head", head);
-  const std::uint16_t unitsPerEm = U16At(head, 18);
-  boxLeft_ = BoxSide(S16At(head, 36), unitsPerEm);
-  boxBottom_ = BoxSide(S16At(head, 38), unitsPerEm);
-  boxRight_ = BoxSide(S16At(head, 40), unitsPerEm);
-  boxTop_ = BoxSide(S16At(head, 42), unitsPerEm);
+  const auto head = TableOf<HeadTable>(face);
+  boxLeft_ = BoxSide(head.XMin(), head.UnitsPerEm());
+  boxBottom_ = BoxSide(head.YMin(), head.UnitsPerEm());
+  boxRight_ = BoxSide(head.XMax(), head.UnitsPerEm());
+  boxTop_ = BoxSide(head.YMax(), head.UnitsPerEm());
 
-  std::array<unsigned char, 54> pclt = {};
-  face.ReadTable("PCLT", pclt);
   // Deliberate: this and the thickness of the lines stay in the font's own units.
-  m_CapHeight = U16At(pclt, 16);
+  m_CapHeight = TableOf<PCLTTable>(face).CapHeight();
   m_ItalicAngle = 0;
-  m_StrikeoutSize = S16At(os2, 26);
+  m_StrikeoutSize = os2.StrikeoutSize();
   m_UnderlineSize = m_StrikeoutSize;
   m_StrikeoutPosition = m_Ascender / 3;
   m_UnderlinePosition = m_Descender / 2;
-  constexpr unsigned char kSymbolic = 12;
-  m_IsSymbolic = os2[30] == kSymbolic;
+  m_IsSymbolic = os2.IsSymbolic();
 }
 
 Text PDFFontInfo::BaseFontName() const {

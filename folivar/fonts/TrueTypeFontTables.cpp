@@ -35,16 +35,16 @@ constexpr std::size_t kTableRecord = 16;       // tag, checksum, offset, length
 // have an outline.)
 struct NeededTable {
   std::string_view tag;
-  std::uint32_t size;
+  std::size_t size;
 };
 constexpr auto kNeededTables = std::to_array<NeededTable>({
     {"cmap", 4},
     {"glyf", 0},
-    {"head", 54},
-    {"hhea", 36},
+    {HeadTable::kTag, HeadTable::kSize},
+    {HheaTable::kTag, HheaTable::kSize},
     {"hmtx", 4},
     {"loca", 4},
-    {"maxp", 6},
+    {MaxpTable::kTag, MaxpTable::kSize},
 });
 
 [[noreturn]] void RefuseFile(const std::string& name, std::string_view what) {
@@ -242,19 +242,13 @@ TrueTypeFontTables::TrueTypeFontTables(ByteSource& file, std::string fileName, s
     }
   }
 
-  std::array<unsigned char, 54> head = {};
-  ReadTable("head", head);
-  unitsPerEm_ = U16At(head, 18);
+  const auto head = TableOf<HeadTable>(*this);
+  unitsPerEm_ = head.UnitsPerEm();
   if (HasTrueTypeOutlines() && unitsPerEm_ == 0) Refuse("its table 'head' has an em of 0 units");
-  const std::uint16_t macStyle = U16At(head, 44);
-  isBold_ = (macStyle & 1) != 0;
-  isItalic_ = (macStyle & 2) != 0;
-  if (Find("OS/2")) {
-    ReadTable("OS/2", os2_);
-    const std::uint16_t selection = U16At(os2_, 62);
-    isItalic_ = (selection & 1) != 0;
-    isBold_ = (selection & 0x20) != 0;
-  }
+  os2_ = TableOf<OS2Table>(*this);
+  const bool hasOS2 = Find(OS2Table::kTag) != nullptr;
+  isBold_ = hasOS2 ? os2_.IsBold() : head.IsBold();
+  isItalic_ = hasOS2 ? os2_.IsItalic() : head.IsItalic();
 }
 
 bool TrueTypeFontTables::HasTrueTypeOutlines() const {
@@ -305,13 +299,12 @@ void TrueTypeFontTables::ReadTable(std::string_view tag, std::span<unsigned char
 
 SystemFace::TextMetrics TrueTypeFontTables::Metrics() const {
   SystemFace::TextMetrics metrics;
-  std::int32_t ascent = U16At(os2_, 74);
-  std::int32_t descent = U16At(os2_, 76);
+  std::int32_t ascent = os2_.WinAscent();
+  std::int32_t descent = os2_.WinDescent();
   if (ascent == 0 && descent == 0) {
-    std::array<unsigned char, 36> hhea = {};
-    ReadTable("hhea", hhea);
-    ascent = S16At(hhea, 4);
-    descent = -S16At(hhea, 6);
+    const auto hhea = TableOf<HheaTable>(*this);
+    ascent = hhea.Ascender();
+    descent = -hhea.Descender();
   }
   metrics.ascent = InThousandths(ascent);
   metrics.descent = InThousandths(descent);
@@ -321,10 +314,10 @@ SystemFace::TextMetrics TrueTypeFontTables::Metrics() const {
   metrics.firstCharacter = kFirst;
   metrics.lastCharacter = kLast;
   const std::optional<CharacterMap> map = FindCharacterMap();
-  const std::uint16_t first = U16At(os2_, 64);
-  const std::uint16_t last = U16At(os2_, 66);
+  const std::uint16_t first = os2_.FirstCharacter();
+  const std::uint16_t last = os2_.LastCharacter();
   // Fonts with symbols are said to have all codes, and so do those that say nothing of use.
-  if (HasSymbolCharacterSet() || (map && map->besideSymbols) || last == 0 || first > last) {
+  if (os2_.HasSymbolCharacterSet() || (map && map->besideSymbols) || last == 0 || first > last) {
     return metrics;
   }
   // Counted from where lines break, one for the break and one for what stands in for missing
@@ -340,20 +333,17 @@ SystemFace::TextMetrics TrueTypeFontTables::Metrics() const {
 
 std::array<std::int32_t, 256> TrueTypeFontTables::Widths() const {
   std::array<std::int32_t, 256> widths = {};
-  std::array<unsigned char, 36> hhea = {};
-  ReadTable("hhea", hhea);
+  const auto hhea = TableOf<HheaTable>(*this);
   const Bytes hmtx = Read("hmtx");
   // The glyphs behind the last width have that width too.
-  const std::size_t widthCount = std::min<std::size_t>(U16At(hhea, 34), hmtx.size() / 4);
+  const std::size_t widthCount = std::min<std::size_t>(hhea.WidthCount(), hmtx.size() / 4);
   if (widthCount == 0) return widths;
 
-  std::array<unsigned char, 6> maxp = {};
-  ReadTable("maxp", maxp);
-  const std::uint16_t glyphCount = U16At(maxp, 4);
+  const std::uint16_t glyphCount = TableOf<MaxpTable>(*this).GlyphCount();
   const std::optional<CharacterMap> map = FindCharacterMap();
   for (std::size_t code = 0; code < widths.size(); ++code) {
     std::uint32_t glyph = 0;
-    if (map && (map->isSymbolic || HasSymbolCharacterSet())) {
+    if (map && (map->isSymbolic || os2_.HasSymbolCharacterSet())) {
       constexpr std::uint32_t kSymbols = 0xF000;
       const auto character = static_cast<std::uint32_t>(code);
       glyph = GlyphOf(map->bytes, kSymbols + character);
@@ -403,9 +393,9 @@ std::string TrueTypeFontTables::ProgramOfCollectionMember() const {
     const Bytes bytes = Read(table, table.length);
     font.append(bytes.begin(), bytes.end());
     font.resize(inWords(font.size()), '\0');
-    if (table.tag == TagOf("head") && bytes.size() >= 12) {
-      // What makes the whole file's sum come out; counted as 0 in the sum itself.
-      adjustment = start + 8;
+    if (table.tag == TagOf(HeadTable::kTag) && bytes.size() >= HeadTable::kChecksumAdjustment + 4) {
+      // Counted as 0 in the sum itself.
+      adjustment = start + HeadTable::kChecksumAdjustment;
       font.replace(adjustment, 4, 4, '\0');
     }
     AppendU32(records, table.tag);
@@ -466,7 +456,7 @@ std::optional<TrueTypeFontTables::CharacterMap> TrueTypeFontTables::FindCharacte
     const std::size_t offset = U32At(table, record + 4);
     if (offset >= table.size()) continue;
     hasSymbols = hasSymbols || kind == kSymbolRank;
-    const int rank = kind == kSymbolRank && HasSymbolCharacterSet() ? kBestRank : kind;
+    const int rank = kind == kSymbolRank && os2_.HasSymbolCharacterSet() ? kBestRank : kind;
     if (rank <= bestRank) continue;
     best = offset;
     bestRank = rank;
@@ -476,12 +466,6 @@ std::optional<TrueTypeFontTables::CharacterMap> TrueTypeFontTables::FindCharacte
   // To the end of the table, whatever length the map gives itself.
   return CharacterMap{Bytes(table.begin() + static_cast<std::ptrdiff_t>(best), table.end()),
                       bestKind == kSymbolRank, bestKind == kMacintoshRank, hasSymbols};
-}
-
-// Of the code pages that the font claims, symbols are the only one.
-bool TrueTypeFontTables::HasSymbolCharacterSet() const {
-  constexpr std::uint32_t kSymbolsOnly = 0x80000000;
-  return U32At(os2_, 78) == kSymbolsOnly;
 }
 
 // As the system does it: the scale and then 64ths of a unit are rounded, halves away from 0, before

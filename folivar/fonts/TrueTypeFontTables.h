@@ -10,6 +10,7 @@
 
 #include "folivar/base/Text.h"
 #include "folivar/file/ByteSource.h"
+#include "folivar/fonts/FontTables.h"
 #include "folivar/fonts/SystemFonts.h"
 
 namespace folivar {
@@ -74,7 +75,6 @@ class TrueTypeFontTables {
   Bytes Read(const Table& table, std::uint32_t limit) const;
   Bytes Read(std::string_view tag) const;
   std::optional<CharacterMap> FindCharacterMap() const;
-  bool HasSymbolCharacterSet() const;
   std::int32_t InThousandths(std::int32_t units) const;
   std::string ProgramOfCollectionMember() const;
   [[noreturn]] void Refuse(std::string_view what) const;
@@ -84,7 +84,7 @@ class TrueTypeFontTables {
   bool isInCollection_ = false;
   std::uint32_t version_ = 0;
   std::vector<Table> tables_;
-  std::array<unsigned char, 82> os2_ = {};
+  OS2Table os2_;
   std::uint16_t unitsPerEm_ = 0;
   bool isBold_ = false;
   bool isItalic_ = false;
