@@ -38,7 +38,8 @@ PDFDocument::~PDFDocument() = default;
 
 // Not in the constructor: the children get a reference to the document.
 void PDFDocument::Initialise() {
-  fonts_ = std::make_shared<PDFFonts>(Internal(), platform_);
+  fonts_ = std::make_shared<PDFFonts>(Internal(), platform_.warnings, platform_.systemFonts,
+                                      platform_.fontFiles);
   const std::shared_ptr<PDFFont> defaultFont = fonts_->Add("Helvetica");
   pages_ = std::make_shared<PDFPages>(Internal(), Shared<PDFDocument>(), defaultFont);
   images_ = std::make_shared<PDFImages>(Internal(), Shared<PDFDocument>());

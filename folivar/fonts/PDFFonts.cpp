@@ -10,10 +10,13 @@
 #include "folivar/base/Error.h"
 #include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
+#include "folivar/base/Warnings.h"
 #include "folivar/document/Global.h"
+#include "folivar/fonts/FontFiles.h"
 #include "folivar/fonts/PDFFont.h"
 #include "folivar/fonts/PDFFontInfo.h"
 #include "folivar/fonts/StandardFaces.h"
+#include "folivar/fonts/SystemFonts.h"
 
 namespace folivar {
 namespace {
@@ -80,7 +83,11 @@ std::vector<Text> StandardFaceNames() {
 
 }  // namespace
 
-PDFFonts::PDFFonts(const Internal&, Platform platform) : platform_(std::move(platform)) {}
+PDFFonts::PDFFonts(const Internal&, std::shared_ptr<Warnings> warnings,
+                   std::shared_ptr<SystemFonts> systemFonts, std::shared_ptr<FontFiles> fontFiles)
+    : warnings_(std::move(warnings)),
+      systemFonts_(std::move(systemFonts)),
+      fontFiles_(std::move(fontFiles)) {}
 
 PDFFonts::~PDFFonts() = default;
 
@@ -118,8 +125,8 @@ std::vector<Text> PDFFonts::AvailableFonts(PDFFontType fontType, bool embeddable
 }
 
 std::vector<Text> PDFFonts::TrueTypeFaceNames(bool embeddable) const {
-  std::vector<Text> names = platform_.fontFiles->FaceNames();
-  for (Text& name : platform_.systemFonts->FaceNames()) names.push_back(std::move(name));
+  std::vector<Text> names = fontFiles_->FaceNames();
+  for (Text& name : systemFonts_->FaceNames()) names.push_back(std::move(name));
   SortStrings(names, -1, 0);
   names.erase(
       std::unique(names.begin(), names.end(),
@@ -172,8 +179,8 @@ std::shared_ptr<PDFFontInfo> PDFFonts::AddStandardFace(const Text& faceName) {
   if (!standardFace) {
     standardFace = SubstituteFor(faceName);
     const std::string substitute(StandardFaceName(*standardFace));
-    platform_.warnings->Show(Text("WARNING: Font '" + faceName.Utf8() +
-                                  "' could not be found.  Using '" + substitute + "' instead."));
+    warnings_->Show(Text("WARNING: Font '" + faceName.Utf8() + "' could not be found.  Using '" +
+                         substitute + "' instead."));
     if (auto face = FindFaceRecord(Text(substitute), fontType1)) return face;
   }
   auto face = std::make_shared<PDFFontInfo>();
@@ -196,7 +203,7 @@ std::shared_ptr<PDFFontInfo> PDFFonts::AddTrueTypeFace(const Text& faceName, boo
         std::string(kWhereInstalled))
         .WithObject("font '" + faceName.Utf8() + "'");
   }
-  face->LoadTrueTypeMetrics(faceName, *selected, *platform_.warnings);
+  face->LoadTrueTypeMetrics(faceName, *selected, *warnings_);
   // What the system put in the place of the face wanted may be here already.
   if (auto existing = FindFaceRecord(face->BaseFontName(), fontTrueType)) return existing;
   // Not before: a host's warnings may have added faces meanwhile.
@@ -207,15 +214,15 @@ std::shared_ptr<PDFFontInfo> PDFFonts::AddTrueTypeFace(const Text& faceName, boo
 
 std::unique_ptr<SystemFace> PDFFonts::SelectFace(const Text& faceName, bool isBold,
                                                  bool isItalic) const {
-  auto face = platform_.fontFiles->SelectFace(faceName, isBold, isItalic);
+  auto face = fontFiles_->SelectFace(faceName, isBold, isItalic);
   if (face) return face;
-  face = platform_.systemFonts->SelectFace(faceName, isBold, isItalic);
+  face = systemFonts_->SelectFace(faceName, isBold, isItalic);
   if (face) return face;
   // A system without fonts: any of the document's own is better than none.
-  std::vector<Text> names = platform_.fontFiles->FaceNames();
+  std::vector<Text> names = fontFiles_->FaceNames();
   if (names.empty()) return nullptr;
   SortStrings(names, -1, 0);
-  return platform_.fontFiles->SelectFace(names.front(), isBold, isItalic);
+  return fontFiles_->SelectFace(names.front(), isBold, isItalic);
 }
 
 void PDFFonts::AddFaceRecord(std::shared_ptr<PDFFontInfo> face) {

@@ -10,15 +10,18 @@
 #include "folivar/base/Object.h"
 #include "folivar/base/Text.h"
 #include "folivar/base/Value.h"
-#include "folivar/document/Platform.h"
 #include "folivar/file/ObjectWriter.h"
 #include "folivar/fonts/PDFFontType.h"
 
 namespace folivar {
 
+class FontFiles;
 class Internal;
 class PDFFont;
 class PDFFontInfo;
+class SystemFace;
+class SystemFonts;
+class Warnings;
 
 // The faces that a document uses; reached through PDFDocument::Fonts. It keeps one record for each
 // face and hands out fonts, which share it. Faces are found by name without regard to case; names
@@ -26,7 +29,8 @@ class PDFFontInfo;
 // "TimesNewRoman,BoldItalic" is "Times New Roman,BoldItalic". A font type that is neither raises 5.
 class FOLIVAR_API PDFFonts final : public Object, public ObjectWriter {
  public:
-  PDFFonts(const Internal&, Platform platform);
+  PDFFonts(const Internal&, std::shared_ptr<Warnings> warnings,
+           std::shared_ptr<SystemFonts> systemFonts, std::shared_ptr<FontFiles> fontFiles);
   ~PDFFonts() override;
 
   // A new font of size 10 without decorations. A standard face that does not exist is replaced by
@@ -83,7 +87,9 @@ class FOLIVAR_API PDFFonts final : public Object, public ObjectWriter {
   std::string NextResourceName() const;
   std::shared_ptr<PDFFont> FontOf(std::shared_ptr<PDFFontInfo> face);
 
-  Platform platform_;
+  std::shared_ptr<Warnings> warnings_;
+  std::shared_ptr<SystemFonts> systemFonts_;
+  std::shared_ptr<FontFiles> fontFiles_;
   FaceList type1_{"PDFFonts"};
   FaceList trueType_{"PDFFonts"};
   std::vector<std::shared_ptr<PDFFontInfo>> all_;  // in the order of creation
