@@ -111,10 +111,7 @@ AfmMetrics ReadAfm(std::string_view file) {
   metrics.ascender = Number(HeaderLine(file, "Ascender"), 1);
   metrics.descender = Number(HeaderLine(file, "Descender"), 1);
   const std::string_view box = HeaderLine(file, "FontBBox");
-  metrics.boxLeft = Number(box, 1);
-  metrics.boxBottom = Number(box, 2);
-  metrics.boxRight = Number(box, 3);
-  metrics.boxTop = Number(box, 4);
+  metrics.box = {Number(box, 1), Number(box, 2), Number(box, 3), Number(box, 4)};
   metrics.underlinePosition = Number(HeaderLine(file, "UnderlinePosition"), 1);
   metrics.underlineThickness = Number(HeaderLine(file, "UnderlineThickness"), 1);
   std::string_view lines = CharacterLines(file);

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "folivar/fonts/CharacterTable.h"
+#include "folivar/fonts/FontBox.h"
 
 namespace folivar {
 
@@ -11,10 +12,7 @@ struct AfmMetrics {
   float capHeight = 0;
   float ascender = 0;
   float descender = 0;  // below the baseline: negative
-  float boxLeft = 0;
-  float boxBottom = 0;
-  float boxRight = 0;
-  float boxTop = 0;
+  FontBox box;
   float underlinePosition = 0;
   float underlineThickness = 0;
   CharacterTable characters;

@@ -15,8 +15,12 @@
 #include "folivar/fonts/FontFiles.h"
 #include "folivar/fonts/PDFFont.h"
 #include "folivar/fonts/PDFFontInfo.h"
+#include "folivar/fonts/StandardFaceWriter.h"
 #include "folivar/fonts/StandardFaces.h"
+#include "folivar/fonts/StandardMetrics.h"
 #include "folivar/fonts/SystemFonts.h"
+#include "folivar/fonts/TrueTypeFaceWriter.h"
+#include "folivar/fonts/TrueTypeMetrics.h"
 
 namespace folivar {
 namespace {
@@ -96,7 +100,7 @@ std::shared_ptr<PDFFont> PDFFonts::Add(TextView faceName, PDFFontType fontType, 
     const Text name(faceName);
     if (auto face = FindFaceRecord(name, fontType)) return FontOf(std::move(face));
     return FontOf(fontType == fontType1 ? AddStandardFace(name)
-                                        : AddTrueTypeFace(name, false, false, embed));
+                                        : AddTrueTypeFace({name, false, false, embed}));
   });
 }
 
@@ -141,7 +145,7 @@ std::vector<Text> PDFFonts::TrueTypeFaceNames(bool embeddable) const {
 // A font whose file has gone cannot be.
 bool PDFFonts::MayBeEmbedded(const Text& faceName) const {
   try {
-    const auto face = SelectFace(faceName, false, false);
+    const auto face = SelectFace({faceName});
     return face && IsEmbeddable(*face);
   } catch (const Error&) {
     return false;
@@ -150,10 +154,9 @@ bool PDFFonts::MayBeEmbedded(const Text& faceName) const {
 
 std::shared_ptr<PDFFontInfo> PDFFonts::StyledFace(const Internal&, const PDFFontInfo& face,
                                                   bool isBold, bool isItalic, IfAbsent ifAbsent) {
-  auto styled =
-      FindFaceRecord(TrueTypeBaseFontName(face.m_FontFace, isBold, isItalic), face.m_FontType);
+  auto styled = FindFaceRecord(BaseFontNameOf(face.m_FontFace, isBold, isItalic), face.m_FontType);
   if (styled || ifAbsent == IfAbsent::kLeave) return styled;
-  return AddTrueTypeFace(face.m_FontFace, isBold, isItalic, face.m_EmbedFont);
+  return AddTrueTypeFace({face.m_FontFace, isBold, isItalic, face.m_EmbedFont});
 }
 
 const PDFFonts::FaceList& PDFFonts::FacesOf(PDFFontType fontType) const {
@@ -183,53 +186,46 @@ std::shared_ptr<PDFFontInfo> PDFFonts::AddStandardFace(const Text& faceName) {
                          substitute + "' instead."));
     if (auto face = FindFaceRecord(Text(substitute), fontType1)) return face;
   }
-  auto face = std::make_shared<PDFFontInfo>();
-  face->m_PDFName = NextResourceName();
-  face->LoadStandardMetrics(*standardFace);
-  AddFaceRecord(face);
+  auto face = LoadStandardMetrics(*standardFace);
+  AddFaceRecord(face, std::make_shared<StandardFaceWriter>(face));
   return face;
 }
 
-std::shared_ptr<PDFFontInfo> PDFFonts::AddTrueTypeFace(const Text& faceName, bool isBold,
-                                                       bool isItalic, bool embed) {
-  auto face = std::make_shared<PDFFontInfo>();
-  face->m_IsBold = isBold;
-  face->m_IsItalic = isItalic;
-  face->m_EmbedFont = embed;
-  const auto selected = SelectFace(faceName, isBold, isItalic);
+std::shared_ptr<PDFFontInfo> PDFFonts::AddTrueTypeFace(const FaceWanted& wanted) {
+  const auto selected = SelectFace(wanted);
   if (!selected) {
     throw Error::ActionNotSupported(
         "there is no TrueType font, neither among the document's font files nor " +
         std::string(kWhereInstalled))
-        .WithObject("font '" + faceName.Utf8() + "'");
+        .WithObject("font '" + wanted.name.Utf8() + "'");
   }
-  face->LoadTrueTypeMetrics(faceName, *selected, *warnings_);
+  auto face = LoadTrueTypeMetrics(wanted, *selected, *warnings_);
   // What the system put in the place of the face wanted may be here already.
   if (auto existing = FindFaceRecord(face->BaseFontName(), fontTrueType)) return existing;
-  // Not before: a host's warnings may have added faces meanwhile.
-  face->m_PDFName = NextResourceName();
-  AddFaceRecord(face);
+  AddFaceRecord(face, std::make_shared<TrueTypeFaceWriter>(face));
   return face;
 }
 
-std::unique_ptr<SystemFace> PDFFonts::SelectFace(const Text& faceName, bool isBold,
-                                                 bool isItalic) const {
-  auto face = fontFiles_->SelectFace(faceName, isBold, isItalic);
+std::unique_ptr<SystemFace> PDFFonts::SelectFace(const FaceWanted& wanted) const {
+  auto face = fontFiles_->SelectFace(wanted.name, wanted.isBold, wanted.isItalic);
   if (face) return face;
-  face = systemFonts_->SelectFace(faceName, isBold, isItalic);
+  face = systemFonts_->SelectFace(wanted.name, wanted.isBold, wanted.isItalic);
   if (face) return face;
   // A system without fonts: any of the document's own is better than none.
   std::vector<Text> names = fontFiles_->FaceNames();
   if (names.empty()) return nullptr;
   SortStrings(names, -1, 0);
-  return fontFiles_->SelectFace(names.front(), isBold, isItalic);
+  return fontFiles_->SelectFace(names.front(), wanted.isBold, wanted.isItalic);
 }
 
-void PDFFonts::AddFaceRecord(std::shared_ptr<PDFFontInfo> face) {
-  if (all_.size() == all_.capacity()) all_.reserve(2 * all_.size() + 1);
+// The face gets its name only here: a host's warnings may have added others while it was loaded.
+void PDFFonts::AddFaceRecord(const std::shared_ptr<PDFFontInfo>& face,
+                             std::shared_ptr<ObjectWriter> writer) {
+  face->m_PDFName = NextResourceName();
+  if (writers_.size() == writers_.capacity()) writers_.reserve(2 * writers_.size() + 1);
   FaceList& faces = face->m_FontType == fontType1 ? type1_ : trueType_;
   faces.Add(face, face->BaseFontName(), {}, {});
-  all_.push_back(std::move(face));
+  writers_.push_back(std::move(writer));
 }
 
 // "/F0" for the first face.
@@ -242,11 +238,11 @@ std::shared_ptr<PDFFont> PDFFonts::FontOf(std::shared_ptr<PDFFontInfo> face) {
 }
 
 void PDFFonts::NumberObjects(ObjectNumbers& numbers) {
-  for (const auto& face : all_) face->NumberObjects(numbers);
+  for (const auto& writer : writers_) writer->NumberObjects(numbers);
 }
 
 void PDFFonts::WriteObjects(SaveFile& file) {
-  for (const auto& face : all_) face->WriteObjects(file);
+  for (const auto& writer : writers_) writer->WriteObjects(file);
 }
 
 }  // namespace folivar

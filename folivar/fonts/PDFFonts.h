@@ -15,6 +15,7 @@
 
 namespace folivar {
 
+struct FaceWanted;
 class FontFiles;
 class Internal;
 class PDFFont;
@@ -80,10 +81,10 @@ class FOLIVAR_API PDFFonts final : public Object, public ObjectWriter {
   std::vector<Text> TrueTypeFaceNames(bool embeddable) const;
   bool MayBeEmbedded(const Text& faceName) const;
   std::shared_ptr<PDFFontInfo> AddStandardFace(const Text& faceName);
-  std::shared_ptr<PDFFontInfo> AddTrueTypeFace(const Text& faceName, bool isBold, bool isItalic,
-                                               bool embed);
-  std::unique_ptr<SystemFace> SelectFace(const Text& faceName, bool isBold, bool isItalic) const;
-  void AddFaceRecord(std::shared_ptr<PDFFontInfo> face);
+  std::shared_ptr<PDFFontInfo> AddTrueTypeFace(const FaceWanted& wanted);
+  std::unique_ptr<SystemFace> SelectFace(const FaceWanted& wanted) const;
+  void AddFaceRecord(const std::shared_ptr<PDFFontInfo>& face,
+                     std::shared_ptr<ObjectWriter> writer);
   std::string NextResourceName() const;
   std::shared_ptr<PDFFont> FontOf(std::shared_ptr<PDFFontInfo> face);
 
@@ -92,7 +93,7 @@ class FOLIVAR_API PDFFonts final : public Object, public ObjectWriter {
   std::shared_ptr<FontFiles> fontFiles_;
   FaceList type1_{"PDFFonts"};
   FaceList trueType_{"PDFFonts"};
-  std::vector<std::shared_ptr<PDFFontInfo>> all_;  // in the order of creation
+  std::vector<std::shared_ptr<ObjectWriter>> writers_;  // of all faces, in the order of creation
 };
 
 }  // namespace folivar

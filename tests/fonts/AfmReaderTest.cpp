@@ -47,10 +47,10 @@ TEST(AfmReader, ReadsTheHeader) {
   EXPECT_EQ(metrics.capHeight, 718);
   EXPECT_EQ(metrics.ascender, 719.5F);
   EXPECT_EQ(metrics.descender, -207);
-  EXPECT_EQ(metrics.boxLeft, -166);
-  EXPECT_EQ(metrics.boxBottom, -225);
-  EXPECT_EQ(metrics.boxRight, 1000);
-  EXPECT_EQ(metrics.boxTop, 931);
+  EXPECT_EQ(metrics.box.left, -166);
+  EXPECT_EQ(metrics.box.bottom, -225);
+  EXPECT_EQ(metrics.box.right, 1000);
+  EXPECT_EQ(metrics.box.top, 931);
   EXPECT_EQ(metrics.underlinePosition, -100);
   EXPECT_EQ(metrics.underlineThickness, 50);
 }
@@ -139,10 +139,10 @@ TEST_P(AfmFiles, HeaderIsReadAsInTheFile) {
   EXPECT_EQ(found.capHeight, HeaderValue(expected, "CapHeight"));
   EXPECT_EQ(found.ascender, HeaderValue(expected, "Ascender"));
   EXPECT_EQ(found.descender, HeaderValue(expected, "Descender"));
-  EXPECT_EQ(found.boxLeft, expected.header.at("FontBBox").at(0));
-  EXPECT_EQ(found.boxBottom, expected.header.at("FontBBox").at(1));
-  EXPECT_EQ(found.boxRight, expected.header.at("FontBBox").at(2));
-  EXPECT_EQ(found.boxTop, expected.header.at("FontBBox").at(3));
+  EXPECT_EQ(found.box.left, expected.header.at("FontBBox").at(0));
+  EXPECT_EQ(found.box.bottom, expected.header.at("FontBBox").at(1));
+  EXPECT_EQ(found.box.right, expected.header.at("FontBBox").at(2));
+  EXPECT_EQ(found.box.top, expected.header.at("FontBBox").at(3));
   EXPECT_EQ(found.underlinePosition, expected.header.at("UnderlinePosition").at(0));
   EXPECT_EQ(found.underlineThickness, expected.header.at("UnderlineThickness").at(0));
   const bool isSymbolic = GetParam() == "Symbol" || GetParam() == "ZapfDingbats";

@@ -11,7 +11,7 @@
 
 #include "folivar/base/Error.h"
 #include "folivar/fonts/FontFileFace.h"
-#include "folivar/fonts/PDFFontInfo.h"
+#include "folivar/fonts/TrueTypeMetrics.h"
 #include "tests/support/Content.h"
 #include "tests/support/FontBuilder.h"
 #include "tests/support/FreeTypeFace.h"
@@ -50,9 +50,9 @@ TEST(FontFileFace, RecordsOfInstalledFilesMeasureAsInFreeType) {
     SCOPED_TRACE(file);
     const FreeTypeFace expected(ReadBytes(file));
     const FontFileFace face = FacesIn(file).at(0);
-    PDFFontInfo record;
     const auto warnings = Warnings::To([](const Text& message) { FAIL() << message.Utf8(); });
-    record.LoadTrueTypeMetrics(face.family, *OpenFace(face, face.isBold), *warnings);
+    const auto loaded = LoadTrueTypeMetrics({face.family}, *OpenFace(face, face.isBold), *warnings);
+    const PDFFontInfo& record = *loaded;
 
     EXPECT_EQ(record.m_FontFace, face.family);
     EXPECT_EQ(record.m_Ascender, static_cast<float>(expected.Ascent()));

@@ -1,73 +1,20 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <memory>
 #include <string>
 #include <string_view>
 
-#include "folivar/file/ObjectNumbers.h"
-#include "folivar/file/SaveFile.h"
 #include "folivar/fonts/PDFFontInfo.h"
 #include "folivar/fonts/StandardFaces.h"
+#include "folivar/fonts/StandardMetrics.h"
 #include "tests/support/AfmFile.h"
 
 namespace folivar::test {
 namespace {
 
 std::shared_ptr<PDFFontInfo> Loaded(std::string_view face) {
-  auto info = std::make_shared<PDFFontInfo>();
-  info->LoadStandardMetrics(*FindStandardFace(face));
-  return info;
-}
-
-TEST(PDFFontInfo, HelveticaHasItsPublishedMetrics) {
-  const auto info = Loaded("Helvetica");
-  EXPECT_EQ(info->m_FontFace, "Helvetica");
-  EXPECT_EQ(info->m_CapHeight, 718);
-  EXPECT_EQ(info->m_Ascender, 718);
-  EXPECT_EQ(info->m_Descender, -207);
-  EXPECT_EQ(info->FontBoxLeft(), -166);
-  EXPECT_EQ(info->FontBoxBottom(), -225);
-  EXPECT_EQ(info->FontBoxRight(), 1000);
-  EXPECT_EQ(info->FontBoxTop(), 931);
-  EXPECT_EQ(info->m_UnderlinePosition, -100);
-  EXPECT_EQ(info->m_UnderlineSize, 50);
-  EXPECT_EQ(info->m_StrikeoutSize, 50);
-  EXPECT_EQ(info->m_StrikeoutPosition, 718.0F / 3);
-  EXPECT_EQ(info->MeasureHeight(), 1156);
-}
-
-// Deliberate: the files of these two say neither cap height nor ascender nor descender.
-TEST(PDFFontInfo, DeliberateSymbolAndZapfDingbatsHaveHeightsOf4Point1) {
-  for (const char* face : {"Symbol", "ZapfDingbats"}) {
-    const auto info = Loaded(face);
-    EXPECT_EQ(info->m_CapHeight, 4.1F);
-    EXPECT_EQ(info->m_Ascender, 4.1F);
-    EXPECT_EQ(info->m_Descender, 4.1F);
-    EXPECT_EQ(info->m_StrikeoutPosition, 4.1F / 3);
-  }
-}
-
-TEST(PDFFontInfo, EveryFaceHasTheSameSubAndSuperscript) {
-  for (const std::string_view face : kStandardFaces) {
-    const auto info = Loaded(face);
-    EXPECT_EQ(info->m_SubscriptPosition, -100);
-    EXPECT_EQ(info->m_SubscriptSize, 650);
-    EXPECT_EQ(info->m_SuperscriptPosition, 350);
-    EXPECT_EQ(info->m_SuperscriptSize, 650);
-  }
-}
-
-TEST(PDFFontInfo, AStandardFaceHasNoStyleOfItsOwn) {
-  for (const std::string_view face : kStandardFaces) {
-    const auto info = Loaded(face);
-    EXPECT_EQ(info->m_FontType, fontType1);
-    EXPECT_EQ(info->m_ItalicAngle, 0) << "not read, whatever the file says";
-    EXPECT_FALSE(info->m_EmbedFont);
-    EXPECT_FALSE(info->m_Embeddable);
-    EXPECT_FALSE(info->m_IsSymbolic);
-    EXPECT_FALSE(info->m_IsItalic);
-    EXPECT_FALSE(info->m_IsBold);
-  }
+  return LoadStandardMetrics(FindStandardFace(face).value());
 }
 
 TEST(PDFFontInfo, MeasuresNothingOfAnEmptyText) {
@@ -79,6 +26,10 @@ TEST(PDFFontInfo, MeasuresNothingOfAnEmptyText) {
   info->MeasureExtents("", width, height);
   EXPECT_EQ(width, 0);
   EXPECT_EQ(height, 0);
+}
+
+TEST(PDFFontInfo, TheFacesHeightIsThatOfItsBox) {
+  EXPECT_EQ(Loaded("Helvetica")->MeasureHeight(), 931 + 225);
 }
 
 TEST(PDFFontInfo, SumsWidths) {
@@ -116,29 +67,6 @@ TEST(PDFFontInfo, SumsWidthsInSinglePrecision) {
 
 class PDFFontInfos : public testing::TestWithParam<std::string_view> {};
 
-TEST_P(PDFFontInfos, HaveTheHeadersOfTheirFiles) {
-  const AfmFile expected = ReadAfmFile(GetParam());
-  const auto info = Loaded(GetParam());
-  EXPECT_EQ(info->m_FontFace, GetParam());
-  const auto headerValue = [&](const char* key) {
-    const auto row = expected.header.find(key);
-    return row == expected.header.end() ? 4.1F : row->second.at(0);
-  };
-  EXPECT_EQ(info->m_CapHeight, headerValue("CapHeight"));
-  EXPECT_EQ(info->m_Ascender, headerValue("Ascender"));
-  EXPECT_EQ(info->m_Descender, headerValue("Descender"));
-  EXPECT_EQ(info->m_StrikeoutPosition, headerValue("Ascender") / 3);
-  EXPECT_EQ(info->m_UnderlinePosition, headerValue("UnderlinePosition"));
-  EXPECT_EQ(info->m_UnderlineSize, headerValue("UnderlineThickness"));
-  EXPECT_EQ(info->m_StrikeoutSize, headerValue("UnderlineThickness"));
-  const std::vector<float>& box = expected.header.at("FontBBox");
-  EXPECT_EQ(info->FontBoxLeft(), box.at(0));
-  EXPECT_EQ(info->FontBoxBottom(), box.at(1));
-  EXPECT_EQ(info->FontBoxRight(), box.at(2));
-  EXPECT_EQ(info->FontBoxTop(), box.at(3));
-  EXPECT_EQ(info->MeasureHeight(), box.at(3) - box.at(1));
-}
-
 TEST_P(PDFFontInfos, MeasureEveryGlyphAsInTheirFiles) {
   const AfmFile expected = ReadAfmFile(GetParam());
   const auto info = Loaded(GetParam());
@@ -160,32 +88,19 @@ TEST_P(PDFFontInfos, MeasureEveryGlyphAsInTheirFiles) {
 INSTANTIATE_TEST_SUITE_P(StandardFaces, PDFFontInfos, testing::ValuesIn(kStandardFaces),
                          FaceTestName);
 
-class StringSink final : public ByteSink {
- public:
-  void Write(std::string_view bytes) override { bytes_ += bytes; }
-  const std::string& Bytes() const { return bytes_; }
+TEST(PDFFontInfo, HasANumberForTheSave) {
+  const auto info = Loaded("Courier");
+  EXPECT_EQ(info->ObjectNumber(), 0);
+  info->SetObjectNumber(7);
+  EXPECT_EQ(info->ObjectNumber(), 7);
+}
 
- private:
-  std::string bytes_;
-};
-
-TEST(PDFFontInfo, TakesOneNumberAndWritesOneObject) {
-  const auto info = Loaded("Times-BoldItalic");
-  info->m_PDFName = "/F3";
-  ObjectNumbers numbers;
-  info->NumberObjects(numbers);
-  EXPECT_EQ(info->ObjectNumber(), 1);
-  EXPECT_EQ(numbers.NextObjectNumber(), 2);
-
-  StringSink sink;
-  SaveFile file(sink);
-  info->WriteObjects(file);
-  EXPECT_EQ(file.ObjectCount(), 1U);
-  file.Finish(1);
-  EXPECT_NE(sink.Bytes().find("\n1 0 obj\n<< /Type /Font\n/Subtype /Type1\n/Name /F3\n"
-                              "/BaseFont /Times-BoldItalic\n>>\nendobj\n"),
-            std::string::npos)
-      << sink.Bytes();
+TEST(PDFFontInfo, BaseFontNamesHaveNoBlanksAndEndWithTheStyle) {
+  EXPECT_EQ(BaseFontNameOf(Text("Times New Roman"), false, false), "TimesNewRoman");
+  EXPECT_EQ(BaseFontNameOf(Text("Times New Roman"), true, false), "TimesNewRoman,Bold");
+  EXPECT_EQ(BaseFontNameOf(Text("Times New Roman"), false, true), "TimesNewRoman,Italic");
+  EXPECT_EQ(BaseFontNameOf(Text("Times New Roman"), true, true), "TimesNewRoman,BoldItalic");
+  EXPECT_EQ(BaseFontNameOf(Text("  "), false, false), "");
 }
 
 }  // namespace

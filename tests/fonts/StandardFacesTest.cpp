@@ -68,7 +68,7 @@ TEST(StandardFaces, HaveTheMetricsOfTheirFiles) {
   for (std::size_t face = 0; face < kStandardFaceCount; ++face) {
     const AfmFile expected = ReadAfmFile(kStandardFaces[face]);
     const AfmMetrics& found = StandardFaceMetrics(face);
-    EXPECT_EQ(found.boxTop, expected.header.at("FontBBox").at(3)) << kStandardFaces[face];
+    EXPECT_EQ(found.box.top, expected.header.at("FontBBox").at(3)) << kStandardFaces[face];
     for (const auto& [code, glyph] : expected.glyphs) {
       EXPECT_EQ(found.characters[static_cast<std::size_t>(code)].width, glyph.width)
           << kStandardFaces[face] << " " << code;

@@ -53,71 +53,6 @@ class TrueTypeFaces : public testing::Test {
   std::shared_ptr<PDFFonts> fonts_;
 };
 
-TEST_F(TrueTypeFaces, TheRecordIsFilledFromTheFace) {
-  FakeFace& face = Plain();
-  face.metrics = {905, 212, 31, 255};
-  face.widths[u'A'] = 667;
-  face.SetU16("OS/2", 26, 102);
-  face.SetU16("head", 18, 2048);
-  face.SetU16("head", 36, -1114);
-  face.SetU16("head", 38, -621);
-  face.SetU16("head", 40, 2666);
-  face.SetU16("head", 42, 1854);
-  face.SetU16("PCLT", 16, 1409);
-  const PDFFontInfo& record = PlainRecord();
-  EXPECT_EQ(record.m_FontType, fontTrueType);
-  EXPECT_EQ(record.m_FontFace, "Plain");
-  EXPECT_EQ(record.m_Ascender, 905);
-  EXPECT_EQ(record.m_Descender, -212);
-  EXPECT_EQ(record.MeasureWidth("A"), 667);
-  // 1000 / 2048 of them, truncated toward zero: -543.9, -303.2, 1301.7, 905.2
-  EXPECT_EQ(record.FontBoxLeft(), -543);
-  EXPECT_EQ(record.FontBoxBottom(), -303);
-  EXPECT_EQ(record.FontBoxRight(), 1301);
-  EXPECT_EQ(record.FontBoxTop(), 905);
-  EXPECT_EQ(record.m_ItalicAngle, 0);
-  EXPECT_EQ(record.m_StrikeoutPosition, 905.0F / 3);
-  EXPECT_EQ(record.m_UnderlinePosition, -106);
-  EXPECT_EQ(record.m_SubscriptPosition, -100);
-  EXPECT_EQ(record.m_SubscriptSize, 650);
-  EXPECT_EQ(record.m_SuperscriptPosition, 350);
-  EXPECT_EQ(record.m_SuperscriptSize, 650);
-  EXPECT_TRUE(record.m_Embeddable);
-  EXPECT_FALSE(record.m_EmbedFont);
-  EXPECT_TRUE(warnings_.empty());
-}
-
-// Deliberate: these two stay in the font's own units, whatever its em.
-TEST_F(TrueTypeFaces, DeliberateCapHeightAndLineSizesAreNotRescaled) {
-  Plain().SetU16("head", 18, 2048);
-  Plain().SetU16("PCLT", 16, 1409);
-  Plain().SetU16("OS/2", 26, -102);
-  const PDFFontInfo& record = PlainRecord();
-  EXPECT_EQ(record.m_CapHeight, 1409);
-  EXPECT_EQ(record.m_StrikeoutSize, -102);
-  EXPECT_EQ(record.m_UnderlineSize, -102);
-}
-
-// Deliberate: the two that end lines and pages, but not the carriage return.
-TEST_F(TrueTypeFaces, DeliberateLineFeedAndFormFeedHaveNoWidth) {
-  const PDFFontInfo& record = PlainRecord();
-  EXPECT_EQ(record.MeasureWidth("\n"), 0);
-  EXPECT_EQ(record.MeasureWidth("\f"), 0);
-  EXPECT_EQ(record.MeasureWidth("\r"), 500);
-  EXPECT_EQ(record.MeasureWidth("\v"), 500);
-}
-
-TEST_F(TrueTypeFaces, TablesThatTheFontLacksReadAsZeros) {
-  Plain().tables.clear();
-  const PDFFontInfo& record = PlainRecord(true);
-  EXPECT_EQ(record.m_CapHeight, 0);
-  EXPECT_EQ(record.m_StrikeoutSize, 0);
-  EXPECT_EQ(record.FontBoxTop(), 0);
-  EXPECT_FALSE(record.m_IsSymbolic);
-  EXPECT_TRUE(record.m_Embeddable);
-  EXPECT_TRUE(record.m_EmbedFont);
-}
-
 TEST_F(TrueTypeFaces, ATextHasNoHeightButTheFaceHas) {
   Plain().SetU16("head", 38, -250);
   Plain().SetU16("head", 42, 1000);
@@ -125,16 +60,6 @@ TEST_F(TrueTypeFaces, ATextHasNoHeightButTheFaceHas) {
   EXPECT_EQ(font->TextHeight("Ag"), 0);
   EXPECT_EQ(font->TextHeight(), 12.5F);
   EXPECT_EQ(font->TextWidth("Ag"), 10);
-}
-
-TEST_F(TrueTypeFaces, OnlyFsType2ForbidsEmbedding) {
-  for (const int fsType : {0, 1, 3, 4, 6, 8, 0x0102, 0x0200, 0xFFFF}) {
-    Plain().SetU16("OS/2", 8, fsType);
-    const auto document = PDFDocument::Create({Warnings::To([](const Text&) { FAIL(); }), system_});
-    const auto font = document->Fonts()->Add("Plain", fontTrueType, true);
-    EXPECT_TRUE(RecordOf(*font).m_Embeddable) << fsType;
-    EXPECT_TRUE(RecordOf(*font).m_EmbedFont) << fsType;
-  }
 }
 
 TEST_F(TrueTypeFaces, AFaceThatMayNotBeEmbeddedWarnsOnceAndIsWrittenWithoutItsProgram) {
@@ -148,12 +73,6 @@ TEST_F(TrueTypeFaces, AFaceThatMayNotBeEmbeddedWarnsOnceAndIsWrittenWithoutItsPr
   Add("Plain", true);
   EXPECT_EQ(warnings_.size(), 1U) << "the second time it is there already";
   EXPECT_EQ(Save(*document_, "restricted.pdf").pdf.Count(), 6U);
-}
-
-TEST_F(TrueTypeFaces, AFaceThatMayNotBeEmbeddedWarnsOnlyWhenItShouldBe) {
-  Plain().SetU16("OS/2", 8, 2);
-  EXPECT_FALSE(PlainRecord().m_Embeddable);
-  EXPECT_TRUE(warnings_.empty());
 }
 
 TEST_F(TrueTypeFaces, AMissingFaceIsReplacedByTheSystemsWithAWarning) {
@@ -398,14 +317,6 @@ TEST_F(TrueTypeFaces, ASymbolicFaceHasNoEncodingAndItsOwnFlags) {
   EXPECT_NE(saved.pdf.Object(8).find("\n/Flags 68\n"), std::string::npos);
 }
 
-TEST_F(TrueTypeFaces, AMissingFaceThatMayNotBeEmbeddedWarnsOfTheReplacementFirst) {
-  Plain().SetU16("OS/2", 8, 2);
-  Add("Arial", true);
-  ASSERT_EQ(warnings_.size(), 2U);
-  EXPECT_NE(warnings_[0].find("'Arial' could not be found"), std::string::npos);
-  EXPECT_NE(warnings_[1].find("Font Plain is not licensed"), std::string::npos);
-}
-
 TEST_F(TrueTypeFaces, AFaceThatAWarningAddsMeanwhileTakesAnotherName) {
   std::shared_ptr<PDFFonts> fonts;
   bool isFirst = true;
@@ -441,14 +352,6 @@ TEST_F(TrueTypeFaces, StylesOfAFaceAreDifferentFormats) {
   EXPECT_FALSE(IsSameFormat(*font, *other));
   other->SetBold(false);
   EXPECT_TRUE(IsSameFormat(*font, *other));
-}
-
-TEST_F(TrueTypeFaces, CodesBeyond255AreNotWritten) {
-  Plain().metrics = {900, 200, 254, 0xFFFF};
-  Add("Plain");
-  const SavedDocument saved = Save(*document_, "codes.pdf");
-  EXPECT_NE(saved.pdf.Object(5).find("/FirstChar 254\n/LastChar 255\n/Widths [ 500 500  ]\n"),
-            std::string::npos);
 }
 
 TEST_F(TrueTypeFaces, AnAwkwardNameStaysOneName) {

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "folivar/file/ObjectWriter.h"
+#include "folivar/fonts/PDFFontInfo.h"
+
+namespace folivar {
+
+// Writes a TrueType face: the font, its descriptor, and its program when it is embedded.
+class TrueTypeFaceWriter final : public ObjectWriter {
+ public:
+  explicit TrueTypeFaceWriter(std::shared_ptr<PDFFontInfo> face);
+
+  void NumberObjects(ObjectNumbers& numbers) override;
+  void WriteObjects(SaveFile& file) override;
+
+ private:
+  void WriteFont(SaveFile& file) const;
+  void WriteFontDescriptor(SaveFile& file) const;
+  void WriteFontProgram(SaveFile& file) const;
+
+  std::shared_ptr<PDFFontInfo> face_;
+};
+
+}  // namespace folivar

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+#include "folivar/file/ObjectWriter.h"
+
+namespace folivar::test {
+
+// The objects of a writer that is the only one of its file, numbered from 1, as they stand in it.
+std::string WrittenObjects(ObjectWriter& writer);
+
+}  // namespace folivar::test
