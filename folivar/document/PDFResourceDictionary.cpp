@@ -35,10 +35,12 @@ void AppendEntries(PDFText& text, const std::unique_ptr<KelCollection>& objects)
 }  // namespace
 
 void PDFResourceDictionary::AddFontResource(const FaceUser& font) {
-  const std::shared_ptr<PDFFontInfo>& face = font.FontInfo(Internal());
+  const std::shared_ptr<const PDFFontInfo>& face = font.FontInfo(Internal());
   if (HasFace(*face)) return;
   faces_.reserve(faces_.size() + 1);
-  if (!fonts_.KeyExists(face->m_PDFName)) fonts_.Add(face, face->m_PDFName);
+  if (!fonts_.KeyExists(face->m_PDFName)) {
+    fonts_.Add(std::const_pointer_cast<PDFFontInfo>(face), face->m_PDFName);
+  }
   faces_.push_back(face.get());
 }
 

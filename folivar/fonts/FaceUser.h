@@ -12,7 +12,7 @@ class PDFFonts;
 // that the record belongs to.
 class FaceUser {
  public:
-  virtual const std::shared_ptr<PDFFontInfo>& FontInfo(const Internal&) const = 0;
+  virtual const std::shared_ptr<const PDFFontInfo>& FontInfo(const Internal&) const = 0;
   virtual const std::weak_ptr<PDFFonts>& Owner(const Internal&) const = 0;
 
  protected:

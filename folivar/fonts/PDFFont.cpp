@@ -12,7 +12,8 @@
 
 namespace folivar {
 
-PDFFont::PDFFont(const Internal&, std::shared_ptr<PDFFontInfo> face, std::weak_ptr<PDFFonts> owner)
+PDFFont::PDFFont(const Internal&, std::shared_ptr<const PDFFontInfo> face,
+                 std::weak_ptr<PDFFonts> owner)
     : face_(std::move(face)), owner_(std::move(owner)) {}
 
 std::shared_ptr<PDFFont> PDFFont::Clone() const {

@@ -20,7 +20,7 @@ class Internal;
 // is measured as it goes into the file: a character outside Windows code page 1252 as "?".
 class FOLIVAR_API PDFFont final : public Object, public FaceUser {
  public:
-  PDFFont(const Internal&, std::shared_ptr<PDFFontInfo> face, std::weak_ptr<PDFFonts> owner);
+  PDFFont(const Internal&, std::shared_ptr<const PDFFontInfo> face, std::weak_ptr<PDFFonts> owner);
 
   // A font of its own with the same face, size and decorations.
   std::shared_ptr<PDFFont> Clone() const;
@@ -75,10 +75,12 @@ class FOLIVAR_API PDFFont final : public Object, public FaceUser {
   void ChangeStyle(bool isBold, bool isItalic, bool isWanted);
 
   // FaceUser
-  const std::shared_ptr<PDFFontInfo>& FontInfo(const Internal&) const override { return face_; }
+  const std::shared_ptr<const PDFFontInfo>& FontInfo(const Internal&) const override {
+    return face_;
+  }
   const std::weak_ptr<PDFFonts>& Owner(const Internal&) const override { return owner_; }
 
-  std::shared_ptr<PDFFontInfo> face_;
+  std::shared_ptr<const PDFFontInfo> face_;
   float size_ = 10;
   bool underline_ = false;
   bool strikeOut_ = false;

@@ -152,8 +152,9 @@ bool PDFFonts::MayBeEmbedded(const Text& faceName) const {
   }
 }
 
-std::shared_ptr<PDFFontInfo> PDFFonts::StyledFace(const Internal&, const PDFFontInfo& face,
-                                                  bool isBold, bool isItalic, IfAbsent ifAbsent) {
+std::shared_ptr<const PDFFontInfo> PDFFonts::StyledFace(const Internal&, const PDFFontInfo& face,
+                                                        bool isBold, bool isItalic,
+                                                        IfAbsent ifAbsent) {
   auto styled = FindFaceRecord(BaseFontNameOf(face.m_FontFace, isBold, isItalic), face.m_FontType);
   if (styled || ifAbsent == IfAbsent::kLeave) return styled;
   return AddTrueTypeFace({face.m_FontFace, isBold, isItalic, face.m_EmbedFont});
@@ -170,14 +171,14 @@ const PDFFonts::FaceList& PDFFonts::FacesOf(PDFFontType fontType) const {
                                " is neither fontType1 nor fontTrueType");
 }
 
-std::shared_ptr<PDFFontInfo> PDFFonts::FindFaceRecord(const Text& name,
-                                                      PDFFontType fontType) const {
+std::shared_ptr<const PDFFontInfo> PDFFonts::FindFaceRecord(const Text& name,
+                                                            PDFFontType fontType) const {
   const FaceList& faces = FacesOf(fontType);
   const Text key = KeyOf(name, fontType);
   return faces.KeyExists(key) ? faces.Item(key) : nullptr;
 }
 
-std::shared_ptr<PDFFontInfo> PDFFonts::AddStandardFace(const Text& faceName) {
+std::shared_ptr<const PDFFontInfo> PDFFonts::AddStandardFace(const Text& faceName) {
   auto standardFace = FindStandardFace(faceName);
   if (!standardFace) {
     standardFace = SubstituteFor(faceName);
@@ -191,7 +192,7 @@ std::shared_ptr<PDFFontInfo> PDFFonts::AddStandardFace(const Text& faceName) {
   return face;
 }
 
-std::shared_ptr<PDFFontInfo> PDFFonts::AddTrueTypeFace(const FaceWanted& wanted) {
+std::shared_ptr<const PDFFontInfo> PDFFonts::AddTrueTypeFace(const FaceWanted& wanted) {
   const auto selected = SelectFace(wanted);
   if (!selected) {
     throw Error::ActionNotSupported(
@@ -233,7 +234,7 @@ std::string PDFFonts::NextResourceName() const {
   return "/F" + std::to_string(type1_.Count() + trueType_.Count());
 }
 
-std::shared_ptr<PDFFont> PDFFonts::FontOf(std::shared_ptr<PDFFontInfo> face) {
+std::shared_ptr<PDFFont> PDFFonts::FontOf(std::shared_ptr<const PDFFontInfo> face) {
   return std::make_shared<PDFFont>(Internal(), std::move(face), Shared<PDFFonts>());
 }
 

@@ -66,27 +66,27 @@ class FOLIVAR_API PDFFonts final : public Object, public ObjectWriter {
   // The record of a TrueType face's style, for a font that changes to it: the one that is there,
   // else one that is made now; null when it is not there and must not be made.
   enum class IfAbsent { kMake, kLeave };
-  std::shared_ptr<PDFFontInfo> StyledFace(const Internal&, const PDFFontInfo& face, bool isBold,
-                                          bool isItalic, IfAbsent ifAbsent);
+  std::shared_ptr<const PDFFontInfo> StyledFace(const Internal&, const PDFFontInfo& face,
+                                                bool isBold, bool isItalic, IfAbsent ifAbsent);
 
  private:
   // ObjectWriter
   void NumberObjects(ObjectNumbers& numbers) override;
   void WriteObjects(SaveFile& file) override;
 
-  using FaceList = KeyedList<std::shared_ptr<PDFFontInfo>>;
+  using FaceList = KeyedList<std::shared_ptr<const PDFFontInfo>>;
 
   const FaceList& FacesOf(PDFFontType fontType) const;
-  std::shared_ptr<PDFFontInfo> FindFaceRecord(const Text& name, PDFFontType fontType) const;
+  std::shared_ptr<const PDFFontInfo> FindFaceRecord(const Text& name, PDFFontType fontType) const;
   std::vector<Text> TrueTypeFaceNames(bool embeddable) const;
   bool MayBeEmbedded(const Text& faceName) const;
-  std::shared_ptr<PDFFontInfo> AddStandardFace(const Text& faceName);
-  std::shared_ptr<PDFFontInfo> AddTrueTypeFace(const FaceWanted& wanted);
+  std::shared_ptr<const PDFFontInfo> AddStandardFace(const Text& faceName);
+  std::shared_ptr<const PDFFontInfo> AddTrueTypeFace(const FaceWanted& wanted);
   std::unique_ptr<SystemFace> SelectFace(const FaceWanted& wanted) const;
   void AddFaceRecord(const std::shared_ptr<PDFFontInfo>& face,
                      std::shared_ptr<ObjectWriter> writer);
   std::string NextResourceName() const;
-  std::shared_ptr<PDFFont> FontOf(std::shared_ptr<PDFFontInfo> face);
+  std::shared_ptr<PDFFont> FontOf(std::shared_ptr<const PDFFontInfo> face);
 
   std::shared_ptr<Warnings> warnings_;
   std::shared_ptr<SystemFonts> systemFonts_;
