@@ -26,16 +26,20 @@
 namespace folivar {
 namespace {
 
-// As the system wants them: the first letter in the low byte. The whole file is table 0.
+// The name of a table as the system wants it: other than in files, the first letter in the low
+// byte. The whole file is table 0.
 using Tag = DWORD;
-constexpr Tag kWholeFont = 0;
-constexpr Tag kWholeCollection = 0x66637474;  // "ttcf"
 
-Tag TagOf(std::string_view name) {
+constexpr Tag SystemTag(std::string_view name) {
   Tag tag = 0;
-  std::memcpy(&tag, name.data(), std::min(name.size(), sizeof tag));
+  for (std::size_t i = name.size(); i > 0; --i) {
+    tag = tag << 8 | static_cast<unsigned char>(name[i - 1]);
+  }
   return tag;
 }
+
+constexpr Tag kWholeFont = 0;
+constexpr Tag kWholeCollection = SystemTag("ttcf");
 
 // 0 for a table that the selected font lacks.
 std::size_t TableSize(HDC dc, Tag tag) {
@@ -99,7 +103,7 @@ class GdiFace final : public SystemFace {
     SetMapMode(dc_, previousMode_);
   }
 
-  bool HasTrueTypeOutlines() const { return TableSize(dc_, TagOf("glyf")) != 0; }
+  bool HasTrueTypeOutlines() const { return TableSize(dc_, SystemTag("glyf")) != 0; }
 
   Text Name() override {
     std::array<char, LF_FACESIZE> name = {};
@@ -108,7 +112,7 @@ class GdiFace final : public SystemFace {
   }
 
   void ReadTable(std::string_view tag, std::span<unsigned char> out) override {
-    CopyTable(dc_, TagOf(tag), 0, {reinterpret_cast<char*>(out.data()), out.size()});
+    CopyTable(dc_, SystemTag(tag), 0, {reinterpret_cast<char*>(out.data()), out.size()});
   }
 
   std::shared_ptr<const std::string> Program() override {
@@ -121,7 +125,8 @@ class GdiFace final : public SystemFace {
   TextMetrics Metrics() override {
     TEXTMETRICA text = {};
     GetTextMetricsA(dc_, &text);
-    // Asked for as well; nothing of it is kept.
+    // Which questions the system is asked is fixed, and this is one of them; what it answers here
+    // is in no field of a record.
     OUTLINETEXTMETRICA outline = {};
     GetOutlineTextMetricsA(dc_, sizeof outline, &outline);
     return {text.tmAscent, text.tmDescent, text.tmFirstChar, text.tmLastChar};
@@ -142,7 +147,7 @@ class GdiFace final : public SystemFace {
     CopyTable(dc_, whole, 0, start);
     std::string identity = std::to_string(TableSize(dc_, whole)) + '\0';
     identity.append(start.data(), start.size());
-    for (const std::string_view tag : kTellingTables) identity += WholeTable(dc_, TagOf(tag));
+    for (const std::string_view tag : kTellingTables) identity += WholeTable(dc_, SystemTag(tag));
     return identity;
   }
 
@@ -153,7 +158,7 @@ class GdiFace final : public SystemFace {
     const std::string name = Name().Utf8();
     std::array<std::string, kTellingTables.size()> wanted;
     std::transform(kTellingTables.begin(), kTellingTables.end(), wanted.begin(),
-                   [&](std::string_view tag) { return WholeTable(dc_, TagOf(tag)); });
+                   [&](std::string_view tag) { return WholeTable(dc_, SystemTag(tag)); });
     const std::uint32_t count = TrueTypeFontTables::FontCount(file, name);
     for (std::uint32_t index = 0; index < count; ++index) {
       const TrueTypeFontTables tables(file, name, index);
