@@ -9,6 +9,17 @@
 
 namespace folivar {
 
+// The name of a table as the number that it is in a file.
+constexpr std::uint32_t TagOf(std::string_view name) {
+  std::uint32_t tag = 0;
+  for (const char letter : name) tag = tag << 8 | static_cast<unsigned char>(letter);
+  return tag;
+}
+
+// A font begins with the list of its tables.
+inline constexpr std::uint32_t kFontHeader = 12;   // version, table count, three to search by
+inline constexpr std::uint32_t kTableRecord = 16;  // tag, checksum, offset, length
+
 // The tables of a TrueType font as far as they are read: as many bytes as hold the fields, which
 // are named here by their offsets. What a font lacks reads as zeros.
 

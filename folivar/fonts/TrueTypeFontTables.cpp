@@ -1,7 +1,6 @@
 #include "folivar/fonts/TrueTypeFontTables.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstddef>
 #include <cstdlib>
 #include <utility>
@@ -10,17 +9,12 @@
 #include "folivar/base/BigEndian.h"
 #include "folivar/base/Error.h"
 #include "folivar/file/FileHandle.h"
+#include "folivar/fonts/FontFileWriter.h"
 
 namespace folivar {
 namespace {
 
 using Bytes = std::vector<unsigned char>;
-
-constexpr std::uint32_t TagOf(std::string_view tag) {
-  std::uint32_t value = 0;
-  for (const char letter : tag) value = value << 8 | static_cast<unsigned char>(letter);
-  return value;
-}
 
 constexpr std::uint32_t kCollection = TagOf("ttcf");
 constexpr std::uint32_t kVersion1 = 0x00010000;
@@ -28,8 +22,6 @@ constexpr std::uint32_t kVersionApple = TagOf("true");
 constexpr std::uint32_t kVersionPostScript = TagOf("OTTO");
 
 constexpr std::size_t kCollectionHeader = 12;  // tag, version, count; then an offset for each font
-constexpr std::size_t kFontHeader = 12;        // version, table count, three numbers for searching
-constexpr std::size_t kTableRecord = 16;       // tag, checksum, offset, length
 
 // Without these tables, and as many bytes of them, nobody can draw the font. (No glyph needs to
 // have an outline.)
@@ -174,25 +166,6 @@ std::u16string NameIn(std::span<const unsigned char> bytes, bool isMacintosh) {
   return name;
 }
 
-void AppendU16(std::string& out, std::uint32_t value) {
-  out += static_cast<char>(value >> 8 & 0xFF);
-  out += static_cast<char>(value & 0xFF);
-}
-
-void AppendU32(std::string& out, std::uint32_t value) {
-  AppendU16(out, value >> 16);
-  AppendU16(out, value);
-}
-
-// The sum of the big-endian words; the bytes are a whole number of them.
-std::uint32_t Checksum(std::string_view bytes) {
-  const std::span<const unsigned char> words(reinterpret_cast<const unsigned char*>(bytes.data()),
-                                             bytes.size());
-  std::uint32_t sum = 0;
-  for (std::size_t i = 0; i + 4 <= words.size(); i += 4) sum += U32At(words, i);
-  return sum;
-}
-
 }  // namespace
 
 std::uint32_t TrueTypeFontTables::FontCount(ByteSource& file, const std::string& fileName) {
@@ -205,14 +178,22 @@ std::uint32_t TrueTypeFontTables::FontCount(ByteSource& file, const std::string&
 
 TrueTypeFontTables::TrueTypeFontTables(ByteSource& file, std::string fileName, std::uint32_t index)
     : file_(file), fileName_(std::move(fileName)) {
-  std::uint64_t start = 0;
-  const std::uint32_t fontCount = FontCount(file_, fileName_);
-  if (index >= fontCount) Refuse("it has no font " + std::to_string(index));
-  isInCollection_ = U32At(ReadBytes(file_, fileName_, 0, 4), 0) == kCollection;
-  if (isInCollection_) {
-    start = U32At(ReadBytes(file_, fileName_, kCollectionHeader + 4 * std::uint64_t{index}, 4), 0);
-  }
+  ListTables(StartOfFont(index));
+  CheckSizeOfTables();
+  if (HasTrueTypeOutlines()) CheckNeededTables();
+  ReadEmAndStyle();
+}
 
+std::uint64_t TrueTypeFontTables::StartOfFont(std::uint32_t index) {
+  if (index >= FontCount(file_, fileName_)) Refuse("it has no font " + std::to_string(index));
+  const auto numberAt = [this](std::uint64_t offset) {
+    return U32At(ReadBytes(file_, fileName_, offset, 4), 0);
+  };
+  isInCollection_ = numberAt(0) == kCollection;
+  return isInCollection_ ? numberAt(kCollectionHeader + 4 * std::uint64_t{index}) : 0;
+}
+
+void TrueTypeFontTables::ListTables(std::uint64_t start) {
   const Bytes header = ReadBytes(file_, fileName_, start, kFontHeader);
   version_ = U32At(header, 0);
   if (version_ != kVersion1 && version_ != kVersionApple && version_ != kVersionPostScript) {
@@ -225,23 +206,31 @@ TrueTypeFontTables::TrueTypeFontTables(ByteSource& file, std::string fileName, s
     tables_.push_back(
         {U32At(records, record), U32At(records, record + 8), U32At(records, record + 12)});
   }
+}
 
-  // Tables may share some bytes; but many that share all of them would make a small file large.
+// Tables may share some bytes; but many that share all of them would make a small file large.
+void TrueTypeFontTables::CheckSizeOfTables() const {
+  if (SizeOfTables() > 2 * file_.Size()) Refuse("its tables overlap");
+}
+
+std::uint64_t TrueTypeFontTables::SizeOfTables() const {
   std::uint64_t size = 0;
   for (const Table& table : tables_) size += IsInFile(table) ? table.length : 0;
-  if (size > 2 * file_.Size()) Refuse("its tables overlap");
+  return size;
+}
 
-  if (HasTrueTypeOutlines()) {
-    for (const NeededTable& needed : kNeededTables) {
-      const Table* table = Find(needed.tag);
-      if (!table) Refuse("it has no table '" + std::string(needed.tag) + "'");
-      Read(*table, 0);
-      if (table->length < needed.size) {
-        Refuse("its table '" + std::string(needed.tag) + "' is too short");
-      }
+void TrueTypeFontTables::CheckNeededTables() const {
+  for (const NeededTable& needed : kNeededTables) {
+    const Table* table = Find(needed.tag);
+    if (!table) Refuse("it has no table '" + std::string(needed.tag) + "'");
+    Read(*table, 0);
+    if (table->length < needed.size) {
+      Refuse("its table '" + std::string(needed.tag) + "' is too short");
     }
   }
+}
 
+void TrueTypeFontTables::ReadEmAndStyle() {
   const auto head = TableOf<HeadTable>(*this);
   unitsPerEm_ = head.UnitsPerEm();
   if (HasTrueTypeOutlines() && unitsPerEm_ == 0) Refuse("its table 'head' has an em of 0 units");
@@ -309,7 +298,7 @@ SystemFace::TextMetrics TrueTypeFontTables::Metrics() const {
   metrics.ascent = InThousandths(ascent);
   metrics.descent = InThousandths(descent);
 
-  constexpr std::uint16_t kFirst = 0x1E;
+  constexpr std::uint16_t kFirst = u' ' - 2;
   constexpr std::uint16_t kLast = 0xFF;
   metrics.firstCharacter = kFirst;
   metrics.lastCharacter = kLast;
@@ -320,8 +309,8 @@ SystemFace::TextMetrics TrueTypeFontTables::Metrics() const {
   if (os2_.HasSymbolCharacterSet() || (map && map->besideSymbols) || last == 0 || first > last) {
     return metrics;
   }
-  // Counted from where lines break, one for the break and one for what stands in for missing
-  // characters before it.
+  // As Windows counts: lines break at the font's first character, which is the blank; the character
+  // for those that are missing is the one below it, and the first of all is the one below that.
   if (first <= 1) {
     metrics.firstCharacter = first;
   } else if (first <= kLast) {
@@ -342,21 +331,23 @@ std::array<std::int32_t, 256> TrueTypeFontTables::Widths() const {
   const std::uint16_t glyphCount = TableOf<MaxpTable>(*this).GlyphCount();
   const std::optional<CharacterMap> map = FindCharacterMap();
   for (std::size_t code = 0; code < widths.size(); ++code) {
-    std::uint32_t glyph = 0;
-    if (map && (map->isSymbolic || os2_.HasSymbolCharacterSet())) {
-      constexpr std::uint32_t kSymbols = 0xF000;
-      const auto character = static_cast<std::uint32_t>(code);
-      glyph = GlyphOf(map->bytes, kSymbols + character);
-      if (glyph == 0 && map->isSymbolic) glyph = GlyphOf(map->bytes, character);
-    } else if (map && (!map->isMacintosh || code < 0x80)) {
-      // A Macintosh map has ASCII in common with Unicode.
-      glyph = GlyphOf(map->bytes, AnsiCharacter(static_cast<char>(code)));
-    }
+    std::uint32_t glyph = map ? GlyphOfCode(*map, static_cast<unsigned char>(code)) : 0;
     if (glyph >= glyphCount) glyph = 0;
     const std::size_t place = std::min<std::size_t>(glyph, widthCount - 1);
     widths[code] = InThousandths(U16At(hmtx, 4 * place));
   }
   return widths;
+}
+
+std::uint32_t TrueTypeFontTables::GlyphOfCode(const CharacterMap& map, unsigned char code) const {
+  if (map.isSymbolic || os2_.HasSymbolCharacterSet()) {
+    constexpr std::uint32_t kSymbols = 0xF000;
+    const std::uint32_t glyph = GlyphOf(map.bytes, kSymbols + code);
+    return glyph == 0 && map.isSymbolic ? GlyphOf(map.bytes, code) : glyph;
+  }
+  // A Macintosh map has ASCII in common with Unicode.
+  if (map.isMacintosh && code >= 0x80) return 0;
+  return GlyphOf(map.bytes, AnsiCharacter(static_cast<char>(code)));
 }
 
 std::string TrueTypeFontTables::Program() const {
@@ -366,51 +357,10 @@ std::string TrueTypeFontTables::Program() const {
   return bytes;
 }
 
-//   00 01 00 00  00 02  00 20 00 01 00 00         version, two tables, searching
-//   'g' 'l' 'y' 'f'  checksum  offset  length     a record for each table
-//   ...                                           the tables, filled up to whole words
 std::string TrueTypeFontTables::ProgramOfCollectionMember() const {
-  const auto inWords = [](std::size_t size) { return (size + 3) / 4 * 4; };
-  const std::size_t tablesStart = kFontHeader + kTableRecord * tables_.size();
-  std::size_t size = tablesStart;
-  for (const Table& table : tables_) size += inWords(table.length);
-
-  std::string font;
-  font.reserve(size);
-  const auto count = static_cast<std::uint32_t>(tables_.size());
-  const std::uint32_t searchRange = std::bit_floor(count) * 16;
-  AppendU32(font, version_);
-  AppendU16(font, count);
-  AppendU16(font, searchRange);
-  AppendU16(font, count == 0 ? 0 : static_cast<std::uint32_t>(std::bit_width(count)) - 1);
-  AppendU16(font, count * 16 - searchRange);
-  font.resize(tablesStart);
-
-  std::size_t adjustment = 0;
-  std::string records;
-  for (const Table& table : tables_) {
-    const std::size_t start = font.size();
-    const Bytes bytes = Read(table, table.length);
-    font.append(bytes.begin(), bytes.end());
-    font.resize(inWords(font.size()), '\0');
-    if (table.tag == TagOf(HeadTable::kTag) && bytes.size() >= HeadTable::kChecksumAdjustment + 4) {
-      // Counted as 0 in the sum itself.
-      adjustment = start + HeadTable::kChecksumAdjustment;
-      font.replace(adjustment, 4, 4, '\0');
-    }
-    AppendU32(records, table.tag);
-    AppendU32(records, Checksum(std::string_view(font).substr(start)));
-    AppendU32(records, static_cast<std::uint32_t>(start));
-    AppendU32(records, table.length);
-  }
-  font.replace(kFontHeader, records.size(), records);
-  if (adjustment != 0) {
-    constexpr std::uint32_t kWhole = 0xB1B0AFBA;
-    std::string value;
-    AppendU32(value, kWhole - Checksum(font));
-    font.replace(adjustment, value.size(), value);
-  }
-  return font;
+  FontFileWriter font(version_, tables_.size(), static_cast<std::size_t>(SizeOfTables()));
+  for (const Table& table : tables_) font.Add(table.tag, Read(table, table.length));
+  return std::move(font).Finish();
 }
 
 const TrueTypeFontTables::Table* TrueTypeFontTables::Find(std::string_view tag) const {

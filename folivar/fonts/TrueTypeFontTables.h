@@ -70,11 +70,21 @@ class TrueTypeFontTables {
     bool besideSymbols;  // there is such a map, this one or another
   };
 
+  // The parts of the constructor, in their order.
+  std::uint64_t StartOfFont(std::uint32_t index);
+  void ListTables(std::uint64_t start);
+  void CheckSizeOfTables() const;
+  void CheckNeededTables() const;
+  void ReadEmAndStyle();
+
+  std::uint64_t SizeOfTables() const;
   const Table* Find(std::string_view tag) const;
   bool IsInFile(const Table& table) const;
   Bytes Read(const Table& table, std::uint32_t limit) const;
   Bytes Read(std::string_view tag) const;
   std::optional<CharacterMap> FindCharacterMap() const;
+  // 0 for none.
+  std::uint32_t GlyphOfCode(const CharacterMap& map, unsigned char code) const;
   std::int32_t InThousandths(std::int32_t units) const;
   std::string ProgramOfCollectionMember() const;
   [[noreturn]] void Refuse(std::string_view what) const;
