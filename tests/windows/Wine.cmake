@@ -1,7 +1,5 @@
-# What tests under Wine share: FOLIVAR_NATIVE_BUILD, the programs of which they compare with, and the
-# fixture wine, which makes fonts and a prefix.
+# What tests under Wine share: the fixture wine, which makes fonts and a prefix.
 
-set(FOLIVAR_NATIVE_BUILD "" CACHE PATH "A build of the same sources for the system that builds")
 set(wine_folder "${CMAKE_CURRENT_BINARY_DIR}/wine")
 set(made_fonts "${wine_folder}/fonts")
 configure_file("${CMAKE_CURRENT_LIST_DIR}/fonts.conf.in" "${wine_folder}/fonts.conf" @ONLY)
