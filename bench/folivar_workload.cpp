@@ -46,13 +46,14 @@ class Document {
 
   void FillRect(bench::Color color, bench::Rect rect) {
     state_->SetFillColor(Packed(color));
-    page_->DrawRect(rect.left, rect.bottom, rect.width, rect.height, false, true);
+    page_->DrawRect(rect.left, rect.bottom, rect.width, rect.height, folivar::Paint::kFill);
   }
 
   void PaintRect(bench::Color stroke, bench::Color fill, bench::Rect rect) {
     state_->SetStrokeColor(Packed(stroke));
     state_->SetFillColor(Packed(fill));
-    page_->DrawRect(rect.left, rect.bottom, rect.width, rect.height, true, true);
+    page_->DrawRect(rect.left, rect.bottom, rect.width, rect.height,
+                    folivar::Paint::kStrokeAndFill);
   }
 
   std::shared_ptr<folivar::PDFImage> LoadPicture(const std::string& path) {
@@ -62,7 +63,8 @@ class Document {
   }
 
   void DrawPicture(const std::shared_ptr<folivar::PDFImage>& picture, bench::Rect rect) {
-    page_->DrawImage(picture, rect.left, rect.bottom, rect.width, rect.height, false);
+    page_->DrawImage(picture, rect.left, rect.bottom, rect.width, rect.height,
+                     folivar::AspectRatio::kStretch);
   }
 
   void EndPage() {}

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <tuple>
 #include <type_traits>
 #include <vector>
 
@@ -27,6 +28,18 @@ struct Flag {
 struct Single {
   const char* member;
   const VARIANT& given;
+};
+
+// Flags that the core has a type for.
+struct PaintFlags {
+  VARIANT_BOOL stroke;
+  VARIANT_BOOL fill;
+};
+struct RatioFlag {
+  VARIANT_BOOL maintain;
+};
+struct EmbedFlag {
+  VARIANT_BOOL embed;
 };
 
 // A value of an enumeration, whether listed or not.
@@ -59,11 +72,28 @@ inline Value Take(const Flag& flag) { return FlagFrom(flag.given); }
 inline std::optional<float> Take(const Single& number) {
   return SingleFrom(number.member, number.given);
 }
+inline Paint Take(const PaintFlags& flags) {
+  if (!Take(flags.stroke)) return Take(flags.fill) ? Paint::kFill : Paint::kNone;
+  return Take(flags.fill) ? Paint::kStrokeAndFill : Paint::kStroke;
+}
+inline AspectRatio Take(const RatioFlag& flag) {
+  return Take(flag.maintain) ? AspectRatio::kKeep : AspectRatio::kStretch;
+}
+inline Embedding Take(const EmbedFlag& flag) {
+  return Take(flag.embed) ? Embedding::kEmbed : Embedding::kNone;
+}
 inline Given Take(IUnknown* pointer) { return {ObjectBehind(pointer)}; }
 template <class Enumeration>
 requires std::is_enum_v<Enumeration> Choice Take(Enumeration value) {
   return {static_cast<std::int32_t>(value)};
 }
+
+// The numbers of an answer that a client gets one by one.
+inline auto Spread(const ClipBox& box) {
+  return std::tuple(box.left, box.bottom, box.right, box.top);
+}
+inline auto Spread(const Point& point) { return std::tuple(point.x, point.y); }
+inline auto Spread(const TextExtents& extents) { return std::tuple(extents.width, extents.height); }
 
 // Gives a client what the core answers; with an object goes the document that it belongs to.
 inline void Give(float* result, float number, const Document&) { *result = number; }
@@ -89,7 +119,7 @@ void Give(typename PeerOf<Core>::Interface** result, const Shared<Core>& object,
   *result = HandOut(object, document);
 }
 // A page or a template.
-inline void Give(IDispatch** result, const Shared<Object>& owner, const Document& document) {
+inline void Give(IDispatch** result, const Shared<Canvas>& owner, const Document& document) {
   if (auto page = std::dynamic_pointer_cast<PDFPage>(owner)) {
     *result = HandOut(page, document);
   } else {

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <tuple>
 #include <utility>
 
 #include "com/ComPrefix.h"
@@ -82,12 +83,12 @@ class Peer : public PeerOf<Core>::Interface, public PeerBase, public Extra... {
     });
   }
 
-  // Calls a member of the core that fills references; they are changed when it has succeeded.
-  template <class Member, class... Results>
-  HRESULT Fill(Member member, Results*... results) const noexcept {
+  // Reads several numbers at once of the core and gives each to the client.
+  template <class Read, class... Results>
+  HRESULT Fill(const Read& read, Results*... results) const noexcept {
     return Guard([&] {
       (RequirePointer(results), ...);
-      std::invoke(member, TheCore(), *results...);
+      std::tie(*results...) = Spread(std::invoke(read, TheCore()));
     });
   }
 };

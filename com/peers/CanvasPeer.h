@@ -43,12 +43,12 @@ class CanvasPeer : public TaggedPeer<Core, Extra...> {
   STDMETHODIMP GetCurPos(float* x, float* y) override { return this->Fill(&Core::GetCurPos, x, y); }
   STDMETHODIMP DrawRect(float left, float bottom, float width, float height, VARIANT_BOOL stroke,
                         VARIANT_BOOL fill) override {
-    return this->Call(&Core::DrawRect, left, bottom, width, height, stroke, fill);
+    return this->Call(&Core::DrawRect, left, bottom, width, height, PaintFlags{stroke, fill});
   }
   STDMETHODIMP DrawImage(_PDFImage* image, float x, float y, VARIANT width, VARIANT height,
                          VARIANT_BOOL maintainAspectRatio) override {
     return this->Call(&Core::DrawImage, image, x, y, Number{width}, Number{height},
-                      maintainAspectRatio);
+                      RatioFlag{maintainAspectRatio});
   }
 };
 

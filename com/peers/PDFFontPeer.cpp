@@ -15,9 +15,8 @@ class PDFFontPeer final : public Peer<PDFFont> {
     return Get(result, &PDFFont::FontType);
   }
   STDMETHODIMP GetTextExtents(BSTR text, float* width, float* height) override {
-    return Fill([&](const PDFFont& core, float& across,
-                    float& up) { core.GetTextExtents(ViewOf(text), across, up); },
-                width, height);
+    return Fill([&](const PDFFont& core) { return core.GetTextExtents(ViewOf(text)); }, width,
+                height);
   }
   STDMETHODIMP TextWidth(BSTR text, float* result) override {
     return Get(result, &PDFFont::TextWidth, text);

@@ -9,7 +9,7 @@ class PDFFontsPeer final : public Peer<PDFFonts> {
 
   STDMETHODIMP Add(BSTR faceName, ::PDFFontType fontType, VARIANT_BOOL embed,
                    _PDFFont** result) override {
-    return Get(result, &PDFFonts::Add, faceName, fontType, embed);
+    return Get(result, &PDFFonts::Add, faceName, fontType, EmbedFlag{embed});
   }
   STDMETHODIMP get_Item(VARIANT indexOrName, ::PDFFontType fontType, _PDFFont** result) override {
     return Get(result, &PDFFonts::Item, Index{indexOrName}, fontType);
@@ -22,7 +22,7 @@ class PDFFontsPeer final : public Peer<PDFFonts> {
   }
   STDMETHODIMP AvailableFonts(::PDFFontType fontType, VARIANT_BOOL embeddable,
                               SAFEARRAY** result) override {
-    return Get(result, &PDFFonts::AvailableFonts, fontType, embeddable);
+    return Get(result, &PDFFonts::AvailableFonts, fontType, EmbedFlag{embeddable});
   }
 };
 

@@ -8,7 +8,7 @@
 
 #include "common/Box.h"
 
-// What is drawn on pages and on templates alike; a Surface is one of both.
+// What is drawn on pages and on templates alike.
 
 struct TextStyle {
   std::shared_ptr<folivar::PDFFont> font;
@@ -17,38 +17,14 @@ struct TextStyle {
   float WidthOf(folivar::TextView text) const { return font->TextWidth(text); }
 };
 
-template <class Surface>
-void Fill(Surface& surface, const Box& box, std::int32_t color) {
-  surface.GraphicsState()->SetFillColor(color);
-  surface.DrawRect(box.left, box.bottom, box.width, box.height, false, true);
-}
+void Fill(folivar::Canvas& canvas, const Box& box, std::int32_t color);
 
-template <class Surface>
-void Outline(Surface& surface, const Box& box, float lineWidth, std::int32_t color) {
-  surface.GraphicsState()->SetLineWidth(lineWidth);
-  surface.GraphicsState()->SetStrokeColor(color);
-  surface.DrawRect(box.left, box.bottom, box.width, box.height);
-}
+void Outline(folivar::Canvas& canvas, const Box& box, float lineWidth, std::int32_t color);
 
 // Beginning, ending or centred at x.
-template <class Surface>
-void Write(Surface& surface, const TextStyle& style, folivar::TextView text, float x,
-           float baseline, folivar::PDFHorzTextAlignment alignment = folivar::htaLeft) {
-  surface.SetFont(style.font);
-  surface.GraphicsState()->SetFillColor(style.color);
-  surface.DrawTextAligned(text, x, baseline, 0, 0, alignment);
-}
+void Write(folivar::Canvas& canvas, const TextStyle& style, folivar::TextView text, float x,
+           float baseline, folivar::PDFHorzTextAlignment alignment = folivar::htaLeft);
 
 // Letter by letter around a centre, with the room between the letters that capitals want.
-template <class Surface>
-void WriteSpaced(Surface& surface, const TextStyle& style, const std::u16string& letters,
-                 float center, float baseline) {
-  const float room = 0.09F * style.font->Size();
-  const auto gaps = static_cast<float>(letters.size()) - 1;
-  float x = center - (style.WidthOf(letters) + gaps * room) / 2;
-  for (const char16_t unit : letters) {
-    const std::u16string letter(1, unit);
-    Write(surface, style, letter, x, baseline);
-    x += style.WidthOf(letter) + room;
-  }
-}
+void WriteSpaced(folivar::Canvas& canvas, const TextStyle& style, const std::u16string& letters,
+                 float center, float baseline);

@@ -15,6 +15,5 @@ std::shared_ptr<folivar::PDFFont> AddUpright(folivar::PDFDocument& document,
                                              const Typeface& typeface,
                                              std::string_view standardFace) {
   if (typeface.family.empty()) return document.Fonts()->Add(standardFace);
-  const bool embed = true;
-  return document.Fonts()->Add(typeface.family, folivar::fontTrueType, embed);
+  return document.Fonts()->Add(typeface.family, folivar::fontTrueType, folivar::Embedding::kEmbed);
 }

@@ -34,7 +34,7 @@ class PagePen {
 
   void FillBox(const Box& box, std::int32_t color) {
     UseColor(color);
-    page_->DrawRect(box.left, box.bottom, box.width, box.height, false, true);
+    page_->DrawRect(box.left, box.bottom, box.width, box.height, folivar::Paint::kFill);
   }
 
  private:

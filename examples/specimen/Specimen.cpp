@@ -152,8 +152,7 @@ SpecimenPage::SpecimenPage(PDFDocument& document, const Text& family)
   head_ = standard("Helvetica-Bold", 8);
   label_ = standard("Helvetica", 6);
   number_ = standard("Helvetica", 4.5F);
-  const bool embed = true;
-  face_ = fonts->Add(family, folivar::fontTrueType, embed);
+  face_ = fonts->Add(family, folivar::fontTrueType, folivar::Embedding::kEmbed);
   measures_ = MeasureFace();
   page_->SetPageExtents(kPageWidth, kPageHeight);
   page_->GraphicsState()->SetLineWidth(kHairline);
@@ -224,7 +223,7 @@ void SpecimenPage::DrawNameMeasures(const Placed& name) {
   };
   page_->GraphicsState()->SetFillColor(kBoxFill);
   page_->DrawRect(kLeft, name.Up(measures_.boxBottom), kContentWidth,
-                  name.Up(measures_.boxTop) - name.Up(measures_.boxBottom), false, true);
+                  name.Up(measures_.boxTop) - name.Up(measures_.boxBottom), folivar::Paint::kFill);
   draw(kStrong.box, "box", measures_.boxTop, htaRight);
   draw(kStrong.box, "box", measures_.boxBottom, htaRight);
   draw(kStrong.reach, "ascent", measures_.ascent, htaLeft);
@@ -310,7 +309,8 @@ void SpecimenPage::DrawCell(const CodedCharacter& character, const Placed& cell)
 
   page_->GraphicsState()->SetFillColor(kBoxFill);
   page_->GraphicsState()->SetStrokeColor(kFaint.box);
-  page_->DrawRect(left, bottom, right - left, cell.Up(measures_.boxTop) - bottom, true, true);
+  page_->DrawRect(left, bottom, right - left, cell.Up(measures_.boxTop) - bottom,
+                  folivar::Paint::kStrokeAndFill);
   DrawHorizontal(kFaint.reach, left, right, ascent);
   DrawHorizontal(kFaint.reach, left, right, descent);
   DrawHorizontal(kFaint.baseline, left, right, cell.y);

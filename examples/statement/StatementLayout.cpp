@@ -306,7 +306,7 @@ void StatementLayout::DrawBands(float top, std::size_t rowCount) {
   page_->GraphicsState()->SetFillColor(kBand);
   for (std::size_t row = 0; row < rowCount; row += 2) {
     const float bottom = top - static_cast<float>(row + 3) * rowHeight_;
-    page_->DrawRect(content_.left, bottom, content_.width, rowHeight_, false, true);
+    page_->DrawRect(content_.left, bottom, content_.width, rowHeight_, folivar::Paint::kFill);
   }
 }
 

@@ -7,7 +7,7 @@
 
 namespace folivar {
 
-// Numbers in font files: the high byte first. Bytes that are read must be there.
+// Numbers in fonts and pictures: the high byte first. Bytes that are read must be there.
 
 inline std::uint16_t U16At(std::span<const unsigned char> bytes, std::size_t offset) {
   return static_cast<std::uint16_t>(bytes[offset] << 8 | bytes[offset + 1]);

@@ -57,8 +57,7 @@ std::size_t FindEscape(std::string_view bytes, std::size_t from) {
     std::memcpy(&word, bytes.data() + place, sizeof word);
     if ((Escapes(word) & kHighBits) != 0) break;
   }
-  const auto isEscaped = [](char byte) { return byte == '\\' || byte == '(' || byte == ')'; };
-  while (place < bytes.size() && !isEscaped(bytes[place])) ++place;
+  while (place < bytes.size() && !NeedsEscape(bytes[place])) ++place;
   return place;
 }
 

@@ -15,6 +15,8 @@ struct ByteTraits {
 
 ByteTraits TraitsOf(std::string_view bytes);
 
+constexpr bool NeedsEscape(char byte) { return byte == '\\' || byte == '(' || byte == ')'; }
+
 // The first place from `from` on that a literal string escapes; the size of the text without one.
 std::size_t FindEscape(std::string_view bytes, std::size_t from);
 

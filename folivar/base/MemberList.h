@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "folivar/base/KeyedList.h"
+#include "folivar/base/Members.h"
 #include "folivar/base/Text.h"
 #include "folivar/base/Value.h"
 
@@ -55,20 +55,29 @@ class MemberList {
   // The member at a position (a number, 1 to count(), halves rounded to even) or with a key (a
   // text, compared without regard to case). Raises 5 for an unknown key, 9 for a position outside
   // the collection, 13 for what is neither, 94 for Null, 6 for a number beyond 32 bits.
-  std::shared_ptr<T> Item(const Value& indexOrKey) const { return members_.Item(indexOrKey); }
+  std::shared_ptr<T> Item(const Value& indexOrKey) const {
+    return std::static_pointer_cast<T>(members_.Item(indexOrKey));
+  }
 
   std::int32_t count() const { return static_cast<std::int32_t>(members_.Count()); }
 
   // Whether Item would succeed. Never raises.
   template <class IndexOrKey>
   bool KeyExists(const IndexOrKey& indexOrKey) const noexcept {
-    return members_.KeyExists(indexOrKey);
+    try {
+      const Value& value = indexOrKey;
+      return members_.KeyExists(value);
+    } catch (...) {
+      return false;
+    }
   }
 
   Iterator begin() const {
     std::vector<std::shared_ptr<T>> members;
     members.reserve(members_.Count());
-    members_.ForEach([&](const std::shared_ptr<T>& member) { members.push_back(member); });
+    for (Members::Member& member : members_.All()) {
+      members.push_back(std::static_pointer_cast<T>(std::move(member)));
+    }
     return Iterator(std::move(members));
   }
   std::default_sentinel_t end() const { return {}; }
@@ -76,6 +85,12 @@ class MemberList {
  protected:
   explicit MemberList(const char* name) : members_(name) {}
   ~MemberList() = default;
+
+  // visit(T&) for each in order; the members must not change meanwhile.
+  template <class Visit>
+  void ForEach(Visit visit) const {
+    members_.ForEach([&](Object& member) { visit(static_cast<T&>(member)); });
+  }
 
   // Takes the member with this key out through `remove`, the collection's own Remove, and puts it
   // back at the place named. Never raises: an unknown key changes nothing.
@@ -87,7 +102,7 @@ class MemberList {
       const Value name(key);
       const Value& beforePlace = before;
       const Value afterPlace = beforePlace.IsMissing() ? Value(after) : Value();
-      std::shared_ptr<T> member = members_.Item(name);
+      Members::Member member = members_.Item(name);
       remove(name);
       members_.Add(std::move(member), key, beforePlace, afterPlace);
     } catch (...) {
@@ -95,7 +110,7 @@ class MemberList {
     }
   }
 
-  KeyedList<std::shared_ptr<T>> members_;
+  Members members_;
 };
 
 }  // namespace folivar

@@ -68,7 +68,9 @@ const std::shared_ptr<PDFViewerPreferences>& PDFCatalog::ViewerPreferences() {
   return preferences_;
 }
 
-void PDFCatalog::NumberObjects(ObjectNumbers& numbers) { objectNumber_ = numbers.Take(); }
+void PDFCatalog::NumberObjects(const Internal&, ObjectNumbers& numbers) {
+  object_ = numbers.Take();
+}
 
 //   1 0 obj
 //   << /Type /Catalog
@@ -81,10 +83,10 @@ void PDFCatalog::NumberObjects(ObjectNumbers& numbers) { objectNumber_ = numbers
 //   >>
 //   >>
 //   endobj
-void PDFCatalog::WriteObjects(SaveFile& file) {
-  PDFText& text = file.BeginObject(objectNumber_);
-  text.Append("<< /Type /Catalog\n/Outlines ", Reference{outline_->ObjectNumber()}, "\n/Pages ",
-              Reference{pages_->TreeNodeNumber(Internal())}, "\n", PageLayoutLine(pageLayout_),
+void PDFCatalog::WriteObjects(const Internal& internal, SaveFile& file) {
+  PDFText& text = file.BeginObject(object_);
+  text.Append("<< /Type /Catalog\n/Outlines ", outline_->ObjectNumber(), "\n/Pages ",
+              pages_->ObjectNumber(internal), "\n", PageLayoutLine(pageLayout_),
               PageModeLine(pageMode_));
   AppendPreferences(text);
   text.Append(">>\n");

@@ -1,25 +1,27 @@
 #pragma once
 
-#include <cstdint>
 #include <memory>
 
 #include "folivar/base/Object.h"
 #include "folivar/document/PDFViewerPreferences.h"
-#include "folivar/file/ObjectWriter.h"
+#include "folivar/file/Reference.h"
 
 namespace folivar {
 
+class Internal;
+class ObjectNumbers;
 class PDFOutline;
 class PDFPages;
 class PDFText;
+class SaveFile;
 
 // The document catalog, always object 1: refers to the outline and the page tree and tells the
 // reader how to open the document. Made with the document.
-class PDFCatalog final : public Object, public ObjectWriter {
+class PDFCatalog final : public Object {
  public:
   PDFCatalog(std::shared_ptr<PDFOutline> outline, std::shared_ptr<PDFPages> pages);
 
-  std::int32_t ObjectNumber() const { return objectNumber_; }
+  Reference ObjectNumber() const { return object_; }
 
   PDFPageLayoutStyle PageLayout() const { return pageLayout_; }
   void SetPageLayout(PDFPageLayoutStyle layout) { pageLayout_ = layout; }
@@ -29,8 +31,8 @@ class PDFCatalog final : public Object, public ObjectWriter {
   // The same object each time.
   const std::shared_ptr<PDFViewerPreferences>& ViewerPreferences();
 
-  void NumberObjects(ObjectNumbers& numbers) override;
-  void WriteObjects(SaveFile& file) override;
+  void NumberObjects(const Internal&, ObjectNumbers& numbers);
+  void WriteObjects(const Internal&, SaveFile& file);
 
  private:
   void AppendPreferences(PDFText& text);
@@ -38,7 +40,7 @@ class PDFCatalog final : public Object, public ObjectWriter {
   std::shared_ptr<PDFOutline> outline_;
   std::shared_ptr<PDFPages> pages_;
   std::shared_ptr<PDFViewerPreferences> preferences_;
-  std::int32_t objectNumber_ = 0;
+  Reference object_;
   PDFPageLayoutStyle pageLayout_ = plsUserDefault;
   PDFPageModeStyle pageMode_ = pmsUserDefault;
 };

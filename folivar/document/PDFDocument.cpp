@@ -1,10 +1,9 @@
 #include "folivar/document/PDFDocument.h"
 
-#include <array>
 #include <cassert>
-#include <cstddef>
 #include <cstdint>
 #include <utility>
+#include <vector>
 
 #include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
@@ -12,7 +11,6 @@
 #include "folivar/document/PDFPages.h"
 #include "folivar/file/FileSink.h"
 #include "folivar/file/ObjectNumbers.h"
-#include "folivar/file/ObjectWriter.h"
 #include "folivar/file/SaveFile.h"
 #include "folivar/fonts/PDFFont.h"
 #include "folivar/fonts/PDFFonts.h"
@@ -60,26 +58,33 @@ void PDFDocument::SavePDFFile(TextView fileName) {
 
 void PDFDocument::Save(TextView fileName) {
   FileSink sink(fileName);
-  struct Step {
-    ObjectWriter& writer;
-    std::int32_t endNumber = 0;
+  const Internal internal;
+  // What becomes objects of the file, in their order there. A save walks them twice: first each
+  // takes numbers, then each writes its objects in the same order, exactly as many as it took.
+  const auto forEachWriter = [this](auto visit) {
+    visit(*catalog_);
+    visit(*outline_);
+    visit(*pages_);
+    visit(*templates_);
+    visit(*images_);
+    visit(*fonts_);
   };
-  // The order of the objects in the file.
-  std::array<Step, 6> steps = {
-      {{*catalog_}, {*outline_}, {*pages_}, {*templates_}, {*images_}, {*fonts_}}};
 
   ObjectNumbers numbers;
-  for (Step& step : steps) {
-    step.writer.NumberObjects(numbers);
-    step.endNumber = numbers.NextObjectNumber();
-  }
+  std::vector<std::int32_t> ends;
+  forEachWriter([&](auto& writer) {
+    writer.NumberObjects(internal, numbers);
+    ends.push_back(numbers.NextObjectNumber());
+  });
 
   SaveFile file(sink);
-  for (const Step& step : steps) {
-    step.writer.WriteObjects(file);
+  auto end = ends.begin();
+  forEachWriter([&](auto& writer) {
+    writer.WriteObjects(internal, file);
     // A writer that writes more or fewer objects than it numbered breaks the file: caught here.
-    assert(file.ObjectCount() + 1 == static_cast<std::size_t>(step.endNumber));
-  }
+    assert(std::cmp_equal(file.ObjectCount() + 1, *end));
+    ++end;
+  });
   file.Finish(catalog_->ObjectNumber());
   sink.Close();
 }

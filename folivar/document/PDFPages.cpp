@@ -4,18 +4,12 @@
 
 #include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
-#include "folivar/document/PDFDocument.h"
 #include "folivar/file/ObjectNumbers.h"
 #include "folivar/file/PDFText.h"
 #include "folivar/file/SaveFile.h"
 #include "folivar/fonts/PDFFont.h"
 
 namespace folivar {
-namespace {
-
-ObjectWriter& AsWriter(const std::shared_ptr<PDFPage>& page) { return *page; }
-
-}  // namespace
 
 PDFPages::PDFPages(const Internal&, std::weak_ptr<PDFDocument> document,
                    std::shared_ptr<PDFFont> defaultFont)
@@ -40,19 +34,17 @@ std::exception_ptr PDFPages::RemovePage(const Value& indexOrKey) {
   // Handlers may let go of the collection, and of what is given.
   const auto self = Shared<PDFPages>();
   const Value place = indexOrKey;  // NOLINT(performance-unnecessary-copy-initialization)
-  const std::shared_ptr<PDFPage> page =
-      InMember("PDFPages.Remove", [&] { return members_.Item(place); });
+  const std::shared_ptr<PDFPage> page = InMember("PDFPages.Remove", [&] { return Item(place); });
   std::exception_ptr thrown = page->RaisePageRemoved(Internal());
   // By now it may stand elsewhere, or be removed already.
-  members_.RemoveItem(page, place);
+  members_.RemoveMember(page, place);
   page->ForgetObjectNumber(Internal());
   return thrown;
 }
 
-void PDFPages::NumberObjects(ObjectNumbers& numbers) {
-  treeNodeNumber_ = numbers.Take();
-  members_.ForEach(
-      [&](const std::shared_ptr<PDFPage>& page) { AsWriter(page).NumberObjects(numbers); });
+void PDFPages::NumberObjects(const Internal& internal, ObjectNumbers& numbers) {
+  treeNode_ = numbers.Take();
+  ForEach([&](PDFPage& page) { page.NumberObjects(internal, numbers); });
 }
 
 //   3 0 obj
@@ -62,16 +54,13 @@ void PDFPages::NumberObjects(ObjectNumbers& numbers) {
 //   >>
 //   endobj
 // The tree is always flat.
-void PDFPages::WriteObjects(SaveFile& file) {
-  PDFText& text = file.BeginObject(treeNodeNumber_);
+void PDFPages::WriteObjects(const Internal& internal, SaveFile& file) {
+  PDFText& text = file.BeginObject(treeNode_);
   text.Append("<< /Type /Pages\n/Kids [");
-  members_.ForEach([&](const std::shared_ptr<PDFPage>& page) {
-    text.Append(" ", Reference{page->ObjectNumber(Internal())});
-  });
+  ForEach([&](PDFPage& page) { text.Append(" ", page.ObjectNumber(internal)); });
   text.Append("]\n/Count ", count(), "\n>>\n");
   file.EndObject();
-  members_.ForEach(
-      [&](const std::shared_ptr<PDFPage>& page) { AsWriter(page).WriteObjects(file); });
+  ForEach([&](PDFPage& page) { page.WriteObjects(internal, file, treeNode_); });
 }
 
 }  // namespace folivar

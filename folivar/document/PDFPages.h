@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <exception>
 #include <memory>
 
@@ -9,7 +8,7 @@
 #include "folivar/base/Object.h"
 #include "folivar/base/Text.h"
 #include "folivar/base/Value.h"
-#include "folivar/file/ObjectWriter.h"
+#include "folivar/file/Reference.h"
 #include "folivar/page/PDFPage.h"
 
 namespace folivar {
@@ -19,7 +18,7 @@ class PDFDocument;
 class PDFFont;
 
 // The pages of a document in reading order; reached through PDFDocument::Pages.
-class FOLIVAR_API PDFPages final : public Object, public ObjectWriter, public MemberList<PDFPage> {
+class FOLIVAR_API PDFPages final : public Object, public MemberList<PDFPage> {
  public:
   PDFPages(const Internal&, std::weak_ptr<PDFDocument> document,
            std::shared_ptr<PDFFont> defaultFont);
@@ -47,20 +46,20 @@ class FOLIVAR_API PDFPages final : public Object, public ObjectWriter, public Me
                [self = Shared<PDFPages>()](const Value& name) { self->RemovePage(name); });
   }
 
-  // The page tree's object number in the save in progress.
-  std::int32_t TreeNodeNumber(const Internal&) const { return treeNodeNumber_; }
+  // For the library
+
+  void NumberObjects(const Internal&, ObjectNumbers& numbers);
+  void WriteObjects(const Internal&, SaveFile& file);
+  // That of the page tree, as numbered by the save in progress.
+  Reference ObjectNumber(const Internal&) const { return treeNode_; }
 
  private:
   // Returns what the first handler threw that did.
   std::exception_ptr RemovePage(const Value& indexOrKey);
 
-  // ObjectWriter
-  void NumberObjects(ObjectNumbers& numbers) override;
-  void WriteObjects(SaveFile& file) override;
-
   std::weak_ptr<PDFDocument> document_;
   std::shared_ptr<PDFFont> defaultFont_;
-  std::int32_t treeNodeNumber_ = 0;
+  Reference treeNode_;
 };
 
 }  // namespace folivar

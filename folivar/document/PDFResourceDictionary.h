@@ -1,32 +1,27 @@
 #pragma once
 
-#include <algorithm>
 #include <memory>
-#include <vector>
 
 #include "folivar/document/KelCollection.h"
 #include "folivar/file/PDFText.h"
 
 namespace folivar {
 
-class FaceUser;
+class PDFFont;
 class PDFFontInfo;
 class XObject;
 
-// The resources that one page or template uses, each once, in the order of first use. Entries are
-// never removed.
+// The resources that one page or template uses, each once by its resource name, in the order of
+// first use. Entries are never removed.
 class PDFResourceDictionary {
  public:
-  // Lists the font's face under its resource name; doing so again is harmless.
-  void AddFontResource(const FaceUser& font);
-  // Whether that has been done: every text drawn asks.
-  bool HasFace(const PDFFontInfo& face) const {
-    return std::find(faces_.begin(), faces_.end(), &face) != faces_.end();
-  }
+  // Lists the font's face; doing so again is harmless, and costs nothing for the face of the last
+  // call: every text drawn calls this.
+  void AddFontResource(const PDFFont& font);
 
-  // List a template or an image under its resource name; doing so again is harmless.
-  void AddTemplateResource(const std::shared_ptr<XObject>& object);
-  void AddImageResource(const std::shared_ptr<XObject>& image);
+  // List a template or an image; doing so again is harmless.
+  void AddTemplateResource(const std::shared_ptr<const XObject>& placed);
+  void AddImageResource(const std::shared_ptr<const XObject>& image);
 
   // Appends the "/Resources" value, with the object numbers of the save in progress:
   //
@@ -42,11 +37,14 @@ class PDFResourceDictionary {
   void BuildResourceText(PDFText& text) const;
 
  private:
-  KelCollection fonts_;                    // PDFFontInfo objects, by resource name
-  std::vector<const PDFFontInfo*> faces_;  // the same, held by fonts_
-  // XObjects, by resource name; created on first use, because most pages have none.
-  std::unique_ptr<KelCollection> templates_;
-  std::unique_ptr<KelCollection> images_;
+  using Faces = KelCollection<std::shared_ptr<const PDFFontInfo>>;
+  using XObjects = KelCollection<std::shared_ptr<const XObject>>;
+
+  Faces fonts_{"PDFResourceDictionary"};
+  const PDFFontInfo* latestFace_ = nullptr;  // held by fonts_
+  // Made on first use: most pages have none.
+  std::unique_ptr<XObjects> templates_;
+  std::unique_ptr<XObjects> images_;
 };
 
 }  // namespace folivar

@@ -4,11 +4,12 @@ namespace folivar {
 
 // The part of a page or a template that shows: its edges in points, in any order.
 struct ClipBox {
-  float left;
-  float bottom;
-  float right;
-  float top;
+  float left = 0;
+  float bottom = 0;
+  float right = 0;
+  float top = 0;
 
+  // Moves the edges outwards as far as the point needs.
   void ExtendClipBox(float x, float y);
 };
 

@@ -49,17 +49,10 @@ class Operation {
   Surface& surface_;
   ClipBox* growing_;
   PDFTextPiece piece_;
-  Surface::Point curPos_;
+  Point curPos_;
   ClipBox clipBox_;
   bool isComplete_ = false;
 };
-
-// A content stream never names a face that its page does not list: the font's face may have changed
-// since it became current.
-void RegisterFace(Surface& surface, const PDFFont& font, const FontMetrics& metrics) {
-  PDFResourceDictionary& resources = surface.ResourceDictionary();
-  if (!resources.HasFace(metrics.Face())) resources.AddFontResource(font);
-}
 
 // Everything in a text object before its first line:
 //
@@ -111,22 +104,15 @@ void Decorate(Drawing& drawing, PDFText& content, const PDFFont& font, const Tex
 }
 
 // The box of DrawTextAligned with its edges in order.
-struct Box {
-  float left;
-  float bottom;
-  float right;
-  float top;
-};
-
-Box BoxOf(float left, float bottom, float width, float height) {
-  Box box{left, bottom, Finite(left + width), Finite(bottom + height)};
+ClipBox BoxOf(float left, float bottom, float width, float height) {
+  ClipBox box{left, bottom, Finite(left + width), Finite(bottom + height)};
   if (width < 0) std::swap(box.left, box.right);
   if (height < 0) std::swap(box.bottom, box.top);
   return box;
 }
 
 // Deliberate: the font's own size counts, also for sub- and superscript.
-float FirstBaseline(const Box& box, const FontMetrics& font, const TextLines& lines,
+float FirstBaseline(const ClipBox& box, const FontMetrics& font, const TextLines& lines,
                     PDFVertTextAlignment alignment) {
   const auto linesBelow = static_cast<float>(lines.Count() - 1);
   const auto firstHeight = [&] { return font.Scaled(font.Face().MeasureHeight(lines.First())); };
@@ -145,12 +131,26 @@ float FirstBaseline(const Box& box, const FontMetrics& font, const TextLines& li
 
 // Deliberate: the size that sub- or superscript is shown in is reduced once more for measuring its
 // lines; existing files are aligned so.
-float Indent(const Box& box, const FontMetrics& font, std::string_view line,
+float Indent(const ClipBox& box, const FontMetrics& font, std::string_view line,
              PDFHorzTextAlignment alignment) {
   if (alignment != htaRight && alignment != htaCenter) return 0;
   const float size = font.EffectiveSize(font.EffectiveSize());
   const float width = FontMetrics::Scaled(font.Face().MeasureWidth(line), size);
   return alignment == htaRight ? box.right - width - box.left : (box.right - box.left - width) / 2;
+}
+
+std::string_view PaintOp(Paint paint) {
+  switch (paint) {
+    case Paint::kStroke:
+      return "s\n";
+    case Paint::kFill:
+      return "f n\n";
+    case Paint::kStrokeAndFill:
+      return "b\n";
+    case Paint::kNone:
+      break;
+  }
+  return "n\n";
 }
 
 // Of an image that is drawn: what is given, or a point for each pixel.
@@ -163,6 +163,10 @@ double MeasureOf(const Value& given, double pixels) {
 }
 
 }  // namespace
+
+// A content stream never names a face that its page does not list: the font's face may have changed
+// since it became current.
+void Drawing::ListFace(const PDFFont& font) { surface_.ResourceDictionary().AddFontResource(font); }
 
 //   BT
 //   /F0 10  Tf
@@ -189,7 +193,7 @@ void Drawing::DrawText(TextView text, float x, float y) {
   EndText(content, metrics);
   if (growing_ != nullptr) ExtendByText(metrics, lines, isPlain, x, y);
   Decorate(*this, content, font, lines, x, y);
-  RegisterFace(surface_, font, metrics);
+  ListFace(font);
   operation.Complete();
 }
 
@@ -209,7 +213,7 @@ void Drawing::DrawTextAligned(TextView text, float left, float bottom, float wid
   const TextLines lines(ansi.Bytes(), ansi.Traits().hasControls);
   const bool isPlain = !ansi.Traits().hasEscapes;
   const FontMetrics metrics(font);
-  const Box box = BoxOf(left, bottom, width, height);
+  const ClipBox box = BoxOf(left, bottom, width, height);
   const float baseline = FirstBaseline(box, metrics, lines, vertAlignment);
   PDFText& content = surface_.Content();
 
@@ -230,7 +234,7 @@ void Drawing::DrawTextAligned(TextView text, float left, float bottom, float wid
   EndText(content, metrics);
   Extend(box.left, box.bottom);
   Extend(box.right, box.top);
-  RegisterFace(surface_, font, metrics);
+  ListFace(font);
   operation.Complete();
 }
 
@@ -260,7 +264,7 @@ void Drawing::DrawLine(float x1, float y1, float x2, float y2) {
 }
 
 void Drawing::DrawLineTo(float x, float y) {
-  const Surface::Point from = surface_.CurPos();
+  const Point from = surface_.CurPos();
   DrawLine(from.x, from.y, x, y);
 }
 
@@ -268,13 +272,11 @@ void Drawing::DrawLineTo(float x, float y) {
 //   0  0  100  50  re
 //   s
 // Deliberate: the "m" before "re" and the "n" after "f" change nothing; existing files have them.
-void Drawing::DrawRect(float left, float bottom, float width, float height, bool stroke,
-                       bool fill) {
+void Drawing::DrawRect(float left, float bottom, float width, float height, Paint paint) {
   const float right = Finite(left + width);
   const float top = Finite(bottom + height);
-  const std::string_view paint = stroke ? (fill ? "b\n" : "s\n") : (fill ? "f n\n" : "n\n");
   surface_.AppendContent(Real{left}, " ", Real{bottom}, " m\n", Real{left}, " ", Real{bottom}, " ",
-                         Real{width}, " ", Real{height}, " re\n", paint);
+                         Real{width}, " ", Real{height}, " re\n", PaintOp(paint));
   surface_.SetCurPos({right, top});
   Extend(left, bottom);
   Extend(right, top);
@@ -284,7 +286,8 @@ void Drawing::DrawRect(float left, float bottom, float width, float height, bool
 //   1 0 0 1 10 20  cm
 //   /T1 Do
 //   Q
-void Drawing::DrawTemplate(const std::shared_ptr<XObject>& placed, const Value& x, const Value& y) {
+void Drawing::DrawTemplate(const std::shared_ptr<const XObject>& placed, const Value& x,
+                           const Value& y) {
   surface_.CheckIsOfDocument(placed.get(), "template");
   const std::string_view name = placed->ResourceName(Internal());
   Operation operation(surface_, growing_);
@@ -303,23 +306,23 @@ void Drawing::DrawTemplate(const std::shared_ptr<XObject>& placed, const Value& 
 //   /I1 Do
 //   Q
 void Drawing::DrawImage(const std::shared_ptr<PDFImage>& image, float x, float y,
-                        const Value& width, const Value& height, bool maintainAspectRatio) {
+                        const Value& width, const Value& height, AspectRatio aspectRatio) {
   surface_.CheckIsOfDocument(image.get(), "image");
   const double pixelWidth = image->Width();
   const double pixelHeight = image->Height();
   double drawnWidth = MeasureOf(width, pixelWidth);
   double drawnHeight = MeasureOf(height, pixelHeight);
-  if (maintainAspectRatio) {
+  if (aspectRatio == AspectRatio::kKeep) {
     if (pixelWidth == 0 || pixelHeight == 0) {
       throw Error::DivisionByZero("has no pixels whose ratio could be kept")
-          .WithObject("image " + NameOf(*image));
+          .WithObject("image " + image->NameInErrors(Internal()));
     }
     const double scale = MinOf(drawnWidth / pixelWidth, drawnHeight / pixelHeight);
     drawnWidth = scale * pixelWidth;
     drawnHeight = scale * pixelHeight;
   }
 
-  const std::string_view name = static_cast<const XObject&>(*image).ResourceName(Internal());
+  const std::string_view name = image->ResourceName(Internal());
   Operation operation(surface_, growing_);
   surface_.AppendContent("q\n", Real{drawnWidth}, "0 0 ", Real{drawnHeight}, Real{x}, Real{y},
                          " cm\n", name, " Do\nQ\n");

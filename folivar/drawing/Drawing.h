@@ -4,12 +4,15 @@
 
 #include "folivar/base/Text.h"
 #include "folivar/base/Value.h"
+#include "folivar/drawing/AspectRatio.h"
 #include "folivar/drawing/ClipBox.h"
 #include "folivar/drawing/PDFTextAlignment.h"
+#include "folivar/drawing/Paint.h"
 
 namespace folivar {
 
 class FontMetrics;
+class PDFFont;
 class PDFImage;
 class Surface;
 class TextLines;
@@ -29,15 +32,16 @@ class Drawing {
                        PDFHorzTextAlignment horzAlignment, PDFVertTextAlignment vertAlignment);
   void DrawLine(float x1, float y1, float x2, float y2);
   void DrawLineTo(float x, float y);
-  void DrawRect(float left, float bottom, float width, float height, bool stroke, bool fill);
+  void DrawRect(float left, float bottom, float width, float height, Paint paint);
   void DrawImage(const std::shared_ptr<PDFImage>& image, float x, float y, const Value& width,
-                 const Value& height, bool maintainAspectRatio);
-  void DrawTemplate(const std::shared_ptr<XObject>& placed, const Value& x, const Value& y);
+                 const Value& height, AspectRatio aspectRatio);
+  void DrawTemplate(const std::shared_ptr<const XObject>& placed, const Value& x, const Value& y);
 
  private:
   void Extend(float x, float y) {
     if (growing_ != nullptr) growing_->ExtendClipBox(x, y);
   }
+  void ListFace(const PDFFont& font);
   void ExtendByText(const FontMetrics& font, const TextLines& lines, bool isPlain, float x,
                     float y);
 

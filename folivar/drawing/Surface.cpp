@@ -1,26 +1,18 @@
 #include "folivar/drawing/Surface.h"
 
-#include <cstddef>
 #include <string>
-#include <utility>
 
 #include "folivar/base/Error.h"
 #include "folivar/base/Internal.h"
-#include "folivar/file/SaveFile.h"
+#include "folivar/base/SameOwner.h"
+#include "folivar/file/ByteSink.h"
 #include "folivar/file/XObject.h"
 
 namespace folivar {
 namespace {
 
-// Also when the object is gone.
-template <class T>
-bool AreSame(const std::weak_ptr<T>& a, const std::weak_ptr<T>& b) {
-  return !a.owner_before(b) && !b.owner_before(a);
-}
-
-bool HaveSameOwner(const FaceUser& a, const FaceUser& b) {
-  return AreSame(a.Owner(Internal()), b.Owner(Internal()));
-}
+constexpr std::string_view kBegin = "q\n";
+constexpr std::string_view kEnd = "Q\n";
 
 }  // namespace
 
@@ -32,7 +24,7 @@ void Surface::SetFont(std::shared_ptr<PDFFont> font) {
 }
 
 void Surface::CheckIsOfDocument(const PDFFont& font) const {
-  if (!HaveSameOwner(font, *font_)) {
+  if (!AreSame(font.Owner(Internal()), font_->Owner(Internal()))) {
     throw Error::InvalidArgument("belongs to another document")
         .WithObject("font '" + font.FontFace().Utf8() + "'");
   }
@@ -46,27 +38,24 @@ void Surface::CheckIsOfDocument(const XObject* object, std::string_view kind) co
   if (object == nullptr) throw Error::ObjectNotSet("no " + std::string(kind) + " is given");
   if (!AreSame(object->ParentDocument(Internal()), document_)) {
     throw Error::InvalidArgument("belongs to another document")
-        .WithObject(std::string(kind) + " " + NameOf(*object));
+        .WithObject(std::string(kind) + " " + object->NameInErrors(Internal()));
   }
 }
 
-//   /Length 0000000004 >>
-//   stream
+std::size_t Surface::StreamLength(std::string_view textBoxes) const {
+  return kBegin.size() + content_.Size() + kEnd.size() + textBoxes.size();
+}
+
 //   q
+//   ...
 //   Q
 //   % Begin Textbox
 //   ...
-//   endstream
-void Surface::WriteStream(SaveFile& file, std::string_view textBoxes) const {
-  constexpr std::string_view kBegin = "q\n";
-  constexpr std::string_view kEnd = "Q\n";
-  const std::string_view content = content_.Bytes();
-  const std::size_t length = kBegin.size() + content.size() + kEnd.size() + textBoxes.size();
-  file.OpenObject().Append("/Length ", TenDigits{length}, " >>\nstream\n", kBegin);
-  file.AppendBytes(content);
-  file.AppendBytes(kEnd);
-  file.AppendBytes(textBoxes);
-  file.AppendBytes("endstream\n");
+void Surface::WriteStream(ByteSink& out, std::string_view textBoxes) const {
+  out.Write(kBegin);
+  out.Write(content_.Bytes());
+  out.Write(kEnd);
+  out.Write(textBoxes);
 }
 
 }  // namespace folivar

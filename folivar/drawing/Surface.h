@@ -1,22 +1,27 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string_view>
 #include <utility>
 
 #include "folivar/document/PDFResourceDictionary.h"
+#include "folivar/drawing/Point.h"
 #include "folivar/file/PDFText.h"
 #include "folivar/fonts/PDFFont.h"
+#include "folivar/page/GRAPHICS_STATE.h"
+#include "folivar/page/Stack.h"
 
 namespace folivar {
 
+class ByteSink;
 class PDFDocument;
-class SaveFile;
 class XObject;
 
-// What is drawn on: the content of one page or template, the resources it uses, its current font
-// and its pen. Shared by its owner and the owner's graphics state, so that either may outlive the
-// other. A text box has one too, without a font, for what its graphics state writes.
+// What is drawn on: the content of one page or template, the resources it uses, its current font,
+// its pen and the values of its graphics state. Shared by its owner and the owner's graphics state,
+// so that either may outlive the other. A text box has one too, without a font, for what its
+// graphics state writes.
 class Surface {
  public:
   explicit Surface(std::weak_ptr<PDFDocument> document) : document_(std::move(document)) {}
@@ -36,9 +41,9 @@ class Surface {
   // For operations of several pieces.
   PDFText& Content() { return content_; }
 
-  // Puts the content into the open object, from the length that ends its dictionary on; behind it
-  // what draws the text boxes.
-  void WriteStream(SaveFile& file, std::string_view textBoxes) const;
+  // The content between "q" and "Q", and behind it what draws the text boxes.
+  std::size_t StreamLength(std::string_view textBoxes) const;
+  void WriteStream(ByteSink& out, std::string_view textBoxes) const;
 
   PDFResourceDictionary& ResourceDictionary() { return resources_; }
 
@@ -50,11 +55,12 @@ class Surface {
   // `kind` stands in the error's text: "template".
   void CheckIsOfDocument(const XObject* object, std::string_view kind) const;
 
+  // What the graphics state remembers of the values set, and what it has saved of them.
+  GRAPHICS_STATE& State() { return state_; }
+  const GRAPHICS_STATE& State() const { return state_; }
+  Stack<GRAPHICS_STATE>& SavedStates() { return savedStates_; }
+
   // The pen: where DrawLineTo starts. 0, 0 at first.
-  struct Point {
-    float x = 0;
-    float y = 0;
-  };
   Point CurPos() const { return curPos_; }
   void SetCurPos(Point position) { curPos_ = position; }
 
@@ -64,6 +70,8 @@ class Surface {
   PDFResourceDictionary resources_;
   std::shared_ptr<PDFFont> font_;
   Point curPos_;
+  GRAPHICS_STATE state_;
+  Stack<GRAPHICS_STATE> savedStates_;
 };
 
 }  // namespace folivar

@@ -6,11 +6,11 @@
 
 namespace folivar {
 
-std::int32_t ObjectNumbers::Take() {
+Reference ObjectNumbers::Take() {
   if (next_ == std::numeric_limits<std::int32_t>::max()) {
     throw Error::Overflow("the document has more objects than 32 bits can number");
   }
-  return next_++;
+  return Reference(next_++);
 }
 
 }  // namespace folivar

@@ -6,6 +6,7 @@
 #include <new>
 
 #include "folivar/base/AnsiText.h"
+#include "folivar/base/ByteTraits.h"
 #include "folivar/base/Error.h"
 #include "folivar/base/HexDigits.h"
 
@@ -18,8 +19,6 @@ constexpr std::size_t kLongest = std::numeric_limits<std::int32_t>::max();
 // left over in a long one.
 constexpr std::size_t kFirstCapacity = 256;
 constexpr std::size_t kLargeText = 4096;
-
-bool NeedsEscape(char byte) { return byte == '\\' || byte == '(' || byte == ')'; }
 
 // The texts of all colour shares, each in a word of its own. A byte divided by 255 is never near a
 // half of the last decimal, so that rounding needs no care.

@@ -11,19 +11,15 @@
 
 #include "folivar/base/Decimal.h"
 #include "folivar/document/Global.h"
+#include "folivar/file/Reference.h"
 
 namespace folivar {
 
-// What can be appended to a PDFText besides bytes and whole numbers:
+// What can be appended to a PDFText besides bytes, whole numbers and References:
 
 // A real, as FormatReal writes it, its own blank included: Real{612} is "612 ".
 struct Real {
   double value;
-};
-
-// A reference to an object: Reference{7} is "7 0 R".
-struct Reference {
-  std::int32_t objectNumber;
 };
 
 // The shares of red, green and blue of a colour 0x00BBGGRR: Rgb{0x8000FF} is "1 0 0.502 ".
@@ -122,7 +118,7 @@ class PDFText {
   static char* Put(char* out, Rgb rgb);
   static char* Put(char* out, const ColorOp& set) { return Put(Put(out, Rgb{set.color}), set.op); }
   static char* Put(char* out, Reference reference) {
-    return Put(Put(out, reference.objectNumber), " 0 R");
+    return Put(Put(out, reference.Number()), " 0 R");
   }
   static char* Put(char* out, TenDigits number) { return WriteTenDigits(out, number.value); }
   static char* Put(char* out, const Escaped& text) {

@@ -18,22 +18,25 @@ constexpr std::size_t kLarge = std::size_t{64} * 1024;   // not worth a copy
 
 SaveFile::SaveFile(ByteSink& sink) : sink_(sink) { gathered_.Append(kHeader); }
 
-PDFText& SaveFile::BeginObject(std::int32_t number) {
+PDFText& SaveFile::BeginObject(Reference object) {
   assert(!isObjectOpen_);
-  assert(static_cast<std::size_t>(number) == objectLengths_.size() + 1);
+  assert(static_cast<std::size_t>(object.Number()) == objectLengths_.size() + 1);
   isObjectOpen_ = true;
   objectStart_ = Position();
-  gathered_.Append(number, " 0 obj\n");
+  gathered_.Append(object.Number(), " 0 obj\n");
   return gathered_;
 }
 
-PDFText& SaveFile::OpenObject() {
+void SaveFile::BeginStream() {
   assert(isObjectOpen_);
-  return gathered_;
+  gathered_.Append(">>\nstream\n");
+}
+
+void SaveFile::EndStream(StreamKind kind) {
+  gathered_.Append(kind == StreamKind::kData ? "\nendstream\n" : "endstream\n");
 }
 
 void SaveFile::AppendBytes(std::string_view bytes) {
-  assert(isObjectOpen_);
   if (bytes.size() >= kLarge || gathered_.Size() + bytes.size() > kFull) Flush();
   if (bytes.size() < kLarge) {
     gathered_.Append(bytes);
@@ -59,7 +62,7 @@ void SaveFile::EndObject() {
   FlushWhenFull();
 }
 
-void SaveFile::Finish(std::int32_t catalogNumber) {
+void SaveFile::Finish(Reference catalog) {
   const auto size = static_cast<std::int32_t>(objectLengths_.size() + 1);
   gathered_.Append("xref\n0 ", size, "\n0000000000 65535 f \n");
   std::uint64_t offset = kHeader.size();
@@ -68,8 +71,8 @@ void SaveFile::Finish(std::int32_t catalogNumber) {
     offset += static_cast<std::uint64_t>(length);
     FlushWhenFull();
   }
-  gathered_.Append("trailer\n<< /Size ", size, "\n/Root ", Reference{catalogNumber},
-                   "\n>>\nstartxref\n", std::string_view(std::to_string(offset)), "\n%%EOF\n");
+  gathered_.Append("trailer\n<< /Size ", size, "\n/Root ", catalog, "\n>>\nstartxref\n",
+                   std::string_view(std::to_string(offset)), "\n%%EOF\n");
   Flush();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -7,39 +8,59 @@
 
 #include "folivar/file/ByteSink.h"
 #include "folivar/file/PDFText.h"
+#include "folivar/file/Reference.h"
 
 namespace folivar {
 
+// What a stream holds: text ends with a line feed of its own, behind data one is put that does not
+// count.
+enum class StreamKind { kText, kData };
+
 // The file of one save: header, objects one after another, cross-reference table and trailer. Opens
-// and closes every object, and keeps their lengths, from which the table is made; nothing is read
-// back. Bytes are gathered and reach the sink in large pieces.
+// and closes every object and every stream, and keeps the objects' lengths, from which the table is
+// made; nothing is read back. Bytes are gathered and reach the sink in large pieces.
 class SaveFile {
  public:
   // Writes the header: "%PDF-1.3\n%\xE2\xE3\xCF\xD3\n".
   explicit SaveFile(ByteSink& sink);
+  SaveFile(const SaveFile&) = delete;
+  SaveFile& operator=(const SaveFile&) = delete;
 
   // "7 0 obj\n". What is appended to the text returned, up to EndObject, is the object's own.
-  PDFText& BeginObject(std::int32_t number);
+  PDFText& BeginObject(Reference object);
 
-  // The same text, as long as the object is open.
-  PDFText& OpenObject();
+  // Ends the open object's dictionary, which tells the stream's length, and puts the stream behind
+  // it:
+  //
+  //   >>
+  //   stream
+  //   ...
+  //   endstream
+  //
+  // `write(ByteSink&)` writes exactly `length` bytes.
+  template <class Write>
+  void WriteStream(StreamKind kind, std::uint64_t length, Write write) {
+    BeginStream();
+    const std::uint64_t start = Position();
+    write(static_cast<ByteSink&>(stream_));
+    assert(Position() - start == length);
+    (void)start, (void)length;
+    EndStream(kind);
+  }
 
-  // An empty text for what must be known as a whole before it is put into the open object; what was
-  // in it before is gone.
+  // "endobj\n". Raises 6 for an object longer than 2^31 - 1 bytes.
+  void EndObject();
+
+  // An empty text for what must be known as a whole before it is put into a stream; what was in it
+  // before is gone.
   PDFText& Draft() {
     draft_.Truncate(0);
     return draft_;
   }
 
-  // Puts bytes of any size into the open object; large ones are not copied.
-  void AppendBytes(std::string_view bytes);
-
-  // "endobj\n". Raises 6 for an object longer than 2^31 - 1 bytes.
-  void EndObject();
-
   std::size_t ObjectCount() const { return objectLengths_.size(); }
 
-  // The cross-reference table and the trailer, whose "/Root" is the catalog's object number.
+  // The cross-reference table and the trailer, whose "/Root" is the catalog.
   //
   //   xref
   //   0 3
@@ -53,14 +74,29 @@ class SaveFile {
   //   startxref
   //   130
   //   %%EOF
-  void Finish(std::int32_t catalogNumber);
+  void Finish(Reference catalog);
 
  private:
+  // The bytes of the open stream on their way into the file.
+  class StreamSink final : public ByteSink {
+   public:
+    explicit StreamSink(SaveFile& file) : file_(file) {}
+    void Write(std::string_view bytes) override { file_.AppendBytes(bytes); }
+
+   private:
+    SaveFile& file_;
+  };
+
+  void BeginStream();
+  void EndStream(StreamKind kind);
+  // Bytes of any size; large ones are not copied.
+  void AppendBytes(std::string_view bytes);
   std::uint64_t Position() const { return flushed_ + gathered_.Size(); }
   void Flush();
   void FlushWhenFull();
 
   ByteSink& sink_;
+  StreamSink stream_{*this};
   PDFText gathered_;
   PDFText draft_;
   std::uint64_t flushed_ = 0;  // bytes that the sink has

@@ -1,36 +1,49 @@
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <string>
 
 #include "folivar/base/Api.h"
-#include "folivar/base/Tagged.h"
+#include "folivar/base/MemberKey.h"
 #include "folivar/base/Text.h"
+#include "folivar/file/Reference.h"
 
 namespace folivar {
 
 class Internal;
+class ObjectNumbers;
 class PDFDocument;
 
-// Role of what is painted by name: a template or an image. The library asks it for what a resource
-// dictionary lists, and for the document in whose file it will be.
-class FOLIVAR_API XObject : public Tagged {
+// What templates and images have in common: they are in the file once, and painted by name.
+class FOLIVAR_API XObject {
  public:
   // The key given when it was added; empty without one.
-  virtual const Text& Key() const = 0;
+  const Text& Key() const { return key_.AsText(); }
+
+  // For the library
 
   // "/T1" or "/I1", the slash included; never changes.
-  virtual const std::string& ResourceName(const Internal&) const = 0;
+  const std::string& ResourceName(const Internal&) const { return resourceName_; }
   // As numbered by the save in progress.
-  virtual std::int32_t ObjectNumber(const Internal&) const = 0;
-  virtual const std::weak_ptr<PDFDocument>& ParentDocument(const Internal&) const = 0;
+  Reference ObjectNumber(const Internal&) const { return object_; }
+  // In whose file it will be.
+  const std::weak_ptr<PDFDocument>& ParentDocument(const Internal&) const { return document_; }
+  // For the text of an error: its key in quotes, else its resource name.
+  std::string NameInErrors(const Internal&) const;
 
  protected:
-  XObject() = default;
-};
+  XObject(std::weak_ptr<PDFDocument> document, TextView key, std::string resourceName);
+  ~XObject() = default;
+  XObject(const XObject&) = delete;
+  XObject& operator=(const XObject&) = delete;
 
-// For the text of an error: its key in quotes, else its resource name.
-std::string NameOf(const XObject& object);
+  void TakeNumber(ObjectNumbers& numbers);
+
+ private:
+  std::weak_ptr<PDFDocument> document_;
+  MemberKey key_;
+  std::string resourceName_;
+  Reference object_;
+};
 
 }  // namespace folivar

@@ -4,14 +4,11 @@
 
 #include "folivar/base/Internal.h"
 #include "folivar/base/Numbers.h"
-#include "folivar/fonts/FaceUser.h"
 
 namespace folivar {
 namespace {
 
-const PDFFontInfo& FaceOf(const PDFFont& font) {
-  return *static_cast<const FaceUser&>(font).FontInfo(Internal());
-}
+const PDFFontInfo& FaceOf(const PDFFont& font) { return *font.FontInfo(Internal()); }
 
 }  // namespace
 

@@ -29,17 +29,13 @@ std::shared_ptr<PDFFont> PDFFont::Clone() const {
 Text PDFFont::FontFace() const { return face_->m_FontFace; }
 PDFFontType PDFFont::FontType() const { return face_->m_FontType; }
 
-void PDFFont::GetTextExtents(TextView text, float& width, float& height) const {
-  InMember("PDFFont.GetTextExtents", [&] {
-    const AnsiText ansi(text);
-    float rawWidth = 0;
-    float rawHeight = 0;
-    face_->MeasureExtents(ansi.Bytes(), rawWidth, rawHeight);
+TextExtents PDFFont::GetTextExtents(TextView text) const {
+  return InMember("PDFFont.GetTextExtents", [&] {
+    const TextExtents raw = face_->MeasureExtents(AnsiText(text).Bytes());
     const FontMetrics metrics(*this);
     const float size = metrics.EffectiveSize();
-    const float scaledWidth = FontMetrics::Scaled(rawWidth, size);
-    height = FontMetrics::Scaled(metrics.Rise() + rawHeight, size);
-    width = scaledWidth;
+    return TextExtents{FontMetrics::Scaled(raw.width, size),
+                       FontMetrics::Scaled(metrics.Rise() + raw.height, size)};
   });
 }
 

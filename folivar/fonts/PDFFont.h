@@ -6,19 +6,21 @@
 #include "folivar/base/Api.h"
 #include "folivar/base/Object.h"
 #include "folivar/base/Text.h"
-#include "folivar/fonts/FaceUser.h"
 #include "folivar/fonts/PDFFontType.h"
+#include "folivar/fonts/TextExtents.h"
 
 namespace folivar {
 
 class Internal;
+class PDFFontInfo;
+class PDFFonts;
 
 // A face at a size, with decorations; made by PDFFonts::Add or by Clone. Pages and templates
 // refer to the font object: what is changed here shows in the text drawn from then on.
 //
 // Measures are in points, computed in single precision; one that is beyond a single raises 6. Text
 // is measured as it goes into the file: a character outside Windows code page 1252 as "?".
-class FOLIVAR_API PDFFont final : public Object, public FaceUser {
+class FOLIVAR_API PDFFont final : public Object {
  public:
   PDFFont(const Internal&, std::shared_ptr<const PDFFontInfo> face, std::weak_ptr<PDFFonts> owner);
 
@@ -35,7 +37,7 @@ class FOLIVAR_API PDFFont final : public Object, public FaceUser {
 
   // Width and height of a text as drawn with the decorations of this font. Deliberate: for sub- and
   // superscript the rise, in points, is added to the height in thousandths before that is scaled.
-  void GetTextExtents(TextView text, float& width, float& height) const;
+  TextExtents GetTextExtents(TextView text) const;
   float TextWidth(TextView text) const;
   // From the lowest to the highest point of the text's glyphs, the baseline included; without a
   // text the height of the face's box.
@@ -71,14 +73,15 @@ class FOLIVAR_API PDFFont final : public Object, public FaceUser {
   bool Superscript() const { return superscript_; }
   void SetSuperscript(bool superscript) { superscript_ = superscript; }
 
+  // For the library
+
+  // The face's record.
+  const std::shared_ptr<const PDFFontInfo>& FontInfo(const Internal&) const { return face_; }
+  // The collection that the record belongs to.
+  const std::weak_ptr<PDFFonts>& Owner(const Internal&) const { return owner_; }
+
  private:
   void ChangeStyle(bool isBold, bool isItalic, bool isWanted);
-
-  // FaceUser
-  const std::shared_ptr<const PDFFontInfo>& FontInfo(const Internal&) const override {
-    return face_;
-  }
-  const std::weak_ptr<PDFFonts>& Owner(const Internal&) const override { return owner_; }
 
   std::shared_ptr<const PDFFontInfo> face_;
   float size_ = 10;

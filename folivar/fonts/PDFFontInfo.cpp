@@ -23,9 +23,8 @@ float PDFFontInfo::MeasureHeight(std::string_view bytes) const {
   return top - bottom;
 }
 
-void PDFFontInfo::MeasureExtents(std::string_view bytes, float& width, float& height) const {
-  width = MeasureWidth(bytes);
-  height = MeasureHeight(bytes);
+TextExtents PDFFontInfo::MeasureExtents(std::string_view bytes) const {
+  return {MeasureWidth(bytes), MeasureHeight(bytes)};
 }
 
 Text BaseFontNameOf(const Text& faceName, bool isBold, bool isItalic) {

@@ -6,11 +6,12 @@
 #include <string_view>
 #include <utility>
 
-#include "folivar/base/Object.h"
 #include "folivar/base/Text.h"
+#include "folivar/file/Reference.h"
 #include "folivar/fonts/CharacterTable.h"
 #include "folivar/fonts/FontBox.h"
 #include "folivar/fonts/PDFFontType.h"
+#include "folivar/fonts/TextExtents.h"
 
 namespace folivar {
 
@@ -18,7 +19,7 @@ namespace folivar {
 // font collection. It is filled once, by LoadStandardMetrics or LoadTrueTypeMetrics, gets its
 // resource name from the collection, and then stays as it is. All measures are thousandths of the
 // em; PDFFont scales them to its size.
-class PDFFontInfo final : public Object {
+class PDFFontInfo final {
  public:
   float m_CapHeight = 0;
   float m_ItalicAngle = 0;
@@ -71,15 +72,15 @@ class PDFFontInfo final : public Object {
   float MeasureHeight(std::string_view bytes) const;
   // The height of the face's box.
   float MeasureHeight() const { return own_.box.top - own_.box.bottom; }
-  void MeasureExtents(std::string_view bytes, float& width, float& height) const;
+  TextExtents MeasureExtents(std::string_view bytes) const;
 
   // The name in "/BaseFont", which is also the face's key in the collection: for a TrueType face
   // without its blanks and with its style, "TimesNewRoman,Bold".
   Text BaseFontName() const;
 
   // As numbered by the save in progress.
-  std::int32_t ObjectNumber() const { return objectNumber_; }
-  void SetObjectNumber(std::int32_t number) { objectNumber_ = number; }
+  Reference ObjectNumber() const { return object_; }
+  void SetObjectNumber(Reference object) { object_ = object; }
 
  private:
   const CharacterMetrics& Metrics(char byte) const {
@@ -87,7 +88,7 @@ class PDFFontInfo final : public Object {
   }
 
   Private own_;
-  std::int32_t objectNumber_ = 0;
+  Reference object_;
 };
 
 // The name in "/BaseFont" of a face in a style.

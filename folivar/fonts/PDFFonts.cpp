@@ -12,6 +12,7 @@
 #include "folivar/base/Internal.h"
 #include "folivar/base/Warnings.h"
 #include "folivar/document/Global.h"
+#include "folivar/document/KelCollection.h"
 #include "folivar/fonts/FontFiles.h"
 #include "folivar/fonts/PDFFont.h"
 #include "folivar/fonts/PDFFontInfo.h"
@@ -91,14 +92,18 @@ PDFFonts::PDFFonts(const Internal&, std::shared_ptr<Warnings> warnings,
                    std::shared_ptr<SystemFonts> systemFonts, std::shared_ptr<FontFiles> fontFiles)
     : warnings_(std::move(warnings)),
       systemFonts_(std::move(systemFonts)),
-      fontFiles_(std::move(fontFiles)) {}
+      fontFiles_(std::move(fontFiles)),
+      type1_(std::make_unique<FaceList>("PDFFonts")),
+      trueType_(std::make_unique<FaceList>("PDFFonts")) {}
 
 PDFFonts::~PDFFonts() = default;
 
-std::shared_ptr<PDFFont> PDFFonts::Add(TextView faceName, PDFFontType fontType, bool embed) {
+std::shared_ptr<PDFFont> PDFFonts::Add(TextView faceName, PDFFontType fontType,
+                                       Embedding embedding) {
   return InMember("PDFFonts.Add", [&] {
     const Text name(faceName);
     if (auto face = FindFaceRecord(name, fontType)) return FontOf(std::move(face));
+    const bool embed = embedding == Embedding::kEmbed;
     return FontOf(fontType == fontType1 ? AddStandardFace(name)
                                         : AddTrueTypeFace({name, false, false, embed}));
   });
@@ -122,9 +127,10 @@ bool PDFFonts::FontExists(TextView faceName, PDFFontType fontType) const {
                   [&] { return FindFaceRecord(Text(faceName), fontType) != nullptr; });
 }
 
-std::vector<Text> PDFFonts::AvailableFonts(PDFFontType fontType, bool embeddable) const {
+std::vector<Text> PDFFonts::AvailableFonts(PDFFontType fontType, Embedding embedding) const {
   return InMember("PDFFonts.AvailableFonts", [&] {
-    return &FacesOf(fontType) == &type1_ ? StandardFaceNames() : TrueTypeFaceNames(embeddable);
+    return &FacesOf(fontType) == type1_.get() ? StandardFaceNames()
+                                              : TrueTypeFaceNames(embedding == Embedding::kEmbed);
   });
 }
 
@@ -163,9 +169,9 @@ std::shared_ptr<const PDFFontInfo> PDFFonts::StyledFace(const Internal&, const P
 const PDFFonts::FaceList& PDFFonts::FacesOf(PDFFontType fontType) const {
   switch (fontType) {
     case fontType1:
-      return type1_;
+      return *type1_;
     case fontTrueType:
-      return trueType_;
+      return *trueType_;
   }
   throw Error::InvalidArgument("FontType " + std::to_string(fontType) +
                                " is neither fontType1 nor fontTrueType");
@@ -188,7 +194,7 @@ std::shared_ptr<const PDFFontInfo> PDFFonts::AddStandardFace(const Text& faceNam
     if (auto face = FindFaceRecord(Text(substitute), fontType1)) return face;
   }
   auto face = LoadStandardMetrics(*standardFace);
-  AddFaceRecord(face, std::make_shared<StandardFaceWriter>(face));
+  AddFaceRecord(face, std::make_unique<StandardFaceWriter>(face));
   return face;
 }
 
@@ -203,7 +209,7 @@ std::shared_ptr<const PDFFontInfo> PDFFonts::AddTrueTypeFace(const FaceWanted& w
   auto face = LoadTrueTypeMetrics(wanted, *selected, *warnings_);
   // What the system put in the place of the face wanted may be here already.
   if (auto existing = FindFaceRecord(face->BaseFontName(), fontTrueType)) return existing;
-  AddFaceRecord(face, std::make_shared<TrueTypeFaceWriter>(face));
+  AddFaceRecord(face, std::make_unique<TrueTypeFaceWriter>(face));
   return face;
 }
 
@@ -221,28 +227,28 @@ std::unique_ptr<SystemFace> PDFFonts::SelectFace(const FaceWanted& wanted) const
 
 // The face gets its name only here: a host's warnings may have added others while it was loaded.
 void PDFFonts::AddFaceRecord(const std::shared_ptr<PDFFontInfo>& face,
-                             std::shared_ptr<ObjectWriter> writer) {
+                             std::unique_ptr<FaceWriter> writer) {
   face->m_PDFName = NextResourceName();
   if (writers_.size() == writers_.capacity()) writers_.reserve(2 * writers_.size() + 1);
-  FaceList& faces = face->m_FontType == fontType1 ? type1_ : trueType_;
-  faces.Add(face, face->BaseFontName(), {}, {});
+  FaceList& faces = face->m_FontType == fontType1 ? *type1_ : *trueType_;
+  faces.Add(face, face->BaseFontName());
   writers_.push_back(std::move(writer));
 }
 
 // "/F0" for the first face.
 std::string PDFFonts::NextResourceName() const {
-  return "/F" + std::to_string(type1_.Count() + trueType_.Count());
+  return "/F" + std::to_string(type1_->Count() + trueType_->Count());
 }
 
 std::shared_ptr<PDFFont> PDFFonts::FontOf(std::shared_ptr<const PDFFontInfo> face) {
   return std::make_shared<PDFFont>(Internal(), std::move(face), Shared<PDFFonts>());
 }
 
-void PDFFonts::NumberObjects(ObjectNumbers& numbers) {
+void PDFFonts::NumberObjects(const Internal&, ObjectNumbers& numbers) {
   for (const auto& writer : writers_) writer->NumberObjects(numbers);
 }
 
-void PDFFonts::WriteObjects(SaveFile& file) {
+void PDFFonts::WriteObjects(const Internal&, SaveFile& file) {
   for (const auto& writer : writers_) writer->WriteObjects(file);
 }
 

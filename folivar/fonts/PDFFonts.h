@@ -6,29 +6,33 @@
 #include <vector>
 
 #include "folivar/base/Api.h"
-#include "folivar/base/KeyedList.h"
 #include "folivar/base/Object.h"
 #include "folivar/base/Text.h"
 #include "folivar/base/Value.h"
-#include "folivar/file/ObjectWriter.h"
+#include "folivar/fonts/Embedding.h"
 #include "folivar/fonts/PDFFontType.h"
 
 namespace folivar {
 
 struct FaceWanted;
+class FaceWriter;
 class FontFiles;
 class Internal;
+class ObjectNumbers;
 class PDFFont;
 class PDFFontInfo;
+class SaveFile;
 class SystemFace;
 class SystemFonts;
 class Warnings;
+template <class T>
+class KelCollection;
 
 // The faces that a document uses; reached through PDFDocument::Fonts. It keeps one record for each
 // face and hands out fonts, which share it. Faces are found by name without regard to case; names
 // of TrueType faces without regard to blanks too, followed by their style:
 // "TimesNewRoman,BoldItalic" is "Times New Roman,BoldItalic". A font type that is neither raises 5.
-class FOLIVAR_API PDFFonts final : public Object, public ObjectWriter {
+class FOLIVAR_API PDFFonts final : public Object {
  public:
   PDFFonts(const Internal&, std::shared_ptr<Warnings> warnings,
            std::shared_ptr<SystemFonts> systemFonts, std::shared_ptr<FontFiles> fontFiles);
@@ -41,11 +45,11 @@ class FOLIVAR_API PDFFonts final : public Object, public ObjectWriter {
   //
   // A TrueType face is taken from the document's font files, else from the system's fonts, which
   // may put another in its place, with a warning. Raises 445 when there is no TrueType font at all.
-  // With `embed` the font's file goes into the PDF, unless the font forbids it, which gives a
+  // Embedded, the font's file goes into the PDF, unless the font forbids it, which gives a
   // warning. Deliberate: a face that the document has already stays as it was added, embedded or
   // not. Raises 321 and the file errors (52, 53, 70, 75, 76) for a font file that cannot be read.
   std::shared_ptr<PDFFont> Add(TextView faceName, PDFFontType fontType = fontType1,
-                               bool embed = false);
+                               Embedding embedding = Embedding::kNone);
 
   // A new font of size 10 in the face at a position (from 1, in the order of creation) or with a
   // name, among the faces of this type. Raises 5 for an unknown name, 9 for a position outside 1 to
@@ -59,9 +63,15 @@ class FOLIVAR_API PDFFonts final : public Object, public ObjectWriter {
   bool FontExists(TextView faceName, PDFFontType fontType) const;
 
   // The faces that can be added, sorted by name: for fontType1 the fourteen standard names, for
-  // fontTrueType the families of the document's font files and of the system, each once; with
-  // `embeddable` only those whose upright face may be embedded.
-  std::vector<Text> AvailableFonts(PDFFontType fontType, bool embeddable = false) const;
+  // fontTrueType the families of the document's font files and of the system, each once; to be
+  // embedded, only those whose upright face may be.
+  std::vector<Text> AvailableFonts(PDFFontType fontType,
+                                   Embedding embedding = Embedding::kNone) const;
+
+  // For the library
+
+  void NumberObjects(const Internal&, ObjectNumbers& numbers);
+  void WriteObjects(const Internal&, SaveFile& file);
 
   // The record of a TrueType face's style, for a font that changes to it: the one that is there,
   // else one that is made now; null when it is not there and must not be made.
@@ -70,11 +80,7 @@ class FOLIVAR_API PDFFonts final : public Object, public ObjectWriter {
                                                 bool isBold, bool isItalic, IfAbsent ifAbsent);
 
  private:
-  // ObjectWriter
-  void NumberObjects(ObjectNumbers& numbers) override;
-  void WriteObjects(SaveFile& file) override;
-
-  using FaceList = KeyedList<std::shared_ptr<const PDFFontInfo>>;
+  using FaceList = KelCollection<std::shared_ptr<const PDFFontInfo>>;
 
   const FaceList& FacesOf(PDFFontType fontType) const;
   std::shared_ptr<const PDFFontInfo> FindFaceRecord(const Text& name, PDFFontType fontType) const;
@@ -83,17 +89,16 @@ class FOLIVAR_API PDFFonts final : public Object, public ObjectWriter {
   std::shared_ptr<const PDFFontInfo> AddStandardFace(const Text& faceName);
   std::shared_ptr<const PDFFontInfo> AddTrueTypeFace(const FaceWanted& wanted);
   std::unique_ptr<SystemFace> SelectFace(const FaceWanted& wanted) const;
-  void AddFaceRecord(const std::shared_ptr<PDFFontInfo>& face,
-                     std::shared_ptr<ObjectWriter> writer);
+  void AddFaceRecord(const std::shared_ptr<PDFFontInfo>& face, std::unique_ptr<FaceWriter> writer);
   std::string NextResourceName() const;
   std::shared_ptr<PDFFont> FontOf(std::shared_ptr<const PDFFontInfo> face);
 
   std::shared_ptr<Warnings> warnings_;
   std::shared_ptr<SystemFonts> systemFonts_;
   std::shared_ptr<FontFiles> fontFiles_;
-  FaceList type1_{"PDFFonts"};
-  FaceList trueType_{"PDFFonts"};
-  std::vector<std::shared_ptr<ObjectWriter>> writers_;  // of all faces, in the order of creation
+  std::unique_ptr<FaceList> type1_;
+  std::unique_ptr<FaceList> trueType_;
+  std::vector<std::unique_ptr<FaceWriter>> writers_;  // of all faces, in the order of creation
 };
 
 }  // namespace folivar

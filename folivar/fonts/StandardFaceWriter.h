@@ -2,13 +2,13 @@
 
 #include <memory>
 
-#include "folivar/file/ObjectWriter.h"
+#include "folivar/fonts/FaceWriter.h"
 #include "folivar/fonts/PDFFontInfo.h"
 
 namespace folivar {
 
 // Writes a standard face: one object, because readers have these faces themselves.
-class StandardFaceWriter final : public ObjectWriter {
+class StandardFaceWriter final : public FaceWriter {
  public:
   explicit StandardFaceWriter(std::shared_ptr<PDFFontInfo> face);
 

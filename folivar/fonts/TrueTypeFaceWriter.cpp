@@ -15,8 +15,8 @@ TrueTypeFaceWriter::TrueTypeFaceWriter(std::shared_ptr<PDFFontInfo> face)
 
 void TrueTypeFaceWriter::NumberObjects(ObjectNumbers& numbers) {
   face_->SetObjectNumber(numbers.Take());
-  numbers.Take();
-  if (face_->Program()) numbers.Take();
+  descriptor_ = numbers.Take();
+  if (face_->Program()) programFile_ = numbers.Take();
 }
 
 void TrueTypeFaceWriter::WriteObjects(SaveFile& file) {
@@ -41,12 +41,12 @@ void TrueTypeFaceWriter::WriteFont(SaveFile& file) const {
   const Text name = face_->BaseFontName();
   PDFText& text = file.BeginObject(face_->ObjectNumber());
   text.Append("<< /Type /Font\n/Subtype /TrueType\n/Name ", std::string_view(face_->m_PDFName),
-              "\n/BaseFont /", Name{AnsiText(name).Bytes()}, "\n/FirstChar ", face_->FirstCharacter(),
-              "\n/LastChar ", face_->LastCharacter(), "\n/Widths [ ");
+              "\n/BaseFont /", Name{AnsiText(name).Bytes()}, "\n/FirstChar ",
+              face_->FirstCharacter(), "\n/LastChar ", face_->LastCharacter(), "\n/Widths [ ");
   for (std::uint32_t code = face_->FirstCharacter(); code <= face_->LastCharacter(); ++code) {
     text.Append(Real{face_->Characters()[code].width});
   }
-  text.Append(" ]\n/FontDescriptor ", Reference{face_->ObjectNumber() + 1}, "\n");
+  text.Append(" ]\n/FontDescriptor ", descriptor_, "\n");
   if (!face_->m_IsSymbolic) text.Append("/Encoding /WinAnsiEncoding\n");
   text.Append(">>\n");
   file.EndObject();
@@ -73,13 +73,14 @@ void TrueTypeFaceWriter::WriteFontDescriptor(SaveFile& file) const {
   const int flags = (face_->m_IsSymbolic ? kSymbolicFlag : kNonsymbolicFlag) +
                     (face_->m_IsItalic ? kItalicFlag : 0);
   const Text name = face_->BaseFontName();
-  PDFText& text = file.BeginObject(face_->ObjectNumber() + 1);
-  text.Append("<<\n/Type /FontDescriptor\n/FontName /", Name{AnsiText(name).Bytes()}, "\n/FontBBox [ ",
-              Real{face_->FontBoxLeft()}, Real{face_->FontBoxBottom()}, Real{face_->FontBoxRight()},
-              Real{face_->FontBoxTop()}, " ]\n/Ascent ", Real{face_->m_Ascender}, "\n/Descent ",
-              Real{face_->m_Descender}, "\n/CapHeight ", Real{face_->m_CapHeight},
-              "\n/ItalicAngle ", Real{face_->m_ItalicAngle}, "\n/Flags ", flags, "\n/StemV 70\n");
-  if (face_->Program()) text.Append("/FontFile2 ", Reference{face_->ObjectNumber() + 2}, "\n");
+  PDFText& text = file.BeginObject(descriptor_);
+  text.Append("<<\n/Type /FontDescriptor\n/FontName /", Name{AnsiText(name).Bytes()},
+              "\n/FontBBox [ ", Real{face_->FontBoxLeft()}, Real{face_->FontBoxBottom()},
+              Real{face_->FontBoxRight()}, Real{face_->FontBoxTop()}, " ]\n/Ascent ",
+              Real{face_->m_Ascender}, "\n/Descent ", Real{face_->m_Descender}, "\n/CapHeight ",
+              Real{face_->m_CapHeight}, "\n/ItalicAngle ", Real{face_->m_ItalicAngle}, "\n/Flags ",
+              flags, "\n/StemV 70\n");
+  if (face_->Program()) text.Append("/FontFile2 ", programFile_, "\n");
   text.Append(">>\n");
   file.EndObject();
 }
@@ -95,11 +96,9 @@ void TrueTypeFaceWriter::WriteFontDescriptor(SaveFile& file) const {
 //   endobj
 void TrueTypeFaceWriter::WriteFontProgram(SaveFile& file) const {
   const std::string& program = *face_->Program();
-  PDFText& text = file.BeginObject(face_->ObjectNumber() + 2);
   const auto length = static_cast<std::uint32_t>(program.size());
-  text.Append("<<\n/Length ", length, "\n/Length1 ", length, "\n>>\nstream\n");
-  file.AppendBytes(program);
-  text.Append("\nendstream\n");
+  file.BeginObject(programFile_).Append("<<\n/Length ", length, "\n/Length1 ", length, "\n");
+  file.WriteStream(StreamKind::kData, length, [&](ByteSink& out) { out.Write(program); });
   file.EndObject();
 }
 

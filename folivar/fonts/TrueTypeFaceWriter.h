@@ -3,13 +3,13 @@
 #include <memory>
 #include <string>
 
-#include "folivar/file/ObjectWriter.h"
+#include "folivar/fonts/FaceWriter.h"
 #include "folivar/fonts/PDFFontInfo.h"
 
 namespace folivar {
 
 // Writes a TrueType face: the font, its descriptor, and its program when it is embedded.
-class TrueTypeFaceWriter final : public ObjectWriter {
+class TrueTypeFaceWriter final : public FaceWriter {
  public:
   explicit TrueTypeFaceWriter(std::shared_ptr<PDFFontInfo> face);
 
@@ -22,6 +22,8 @@ class TrueTypeFaceWriter final : public ObjectWriter {
   void WriteFontProgram(SaveFile& file) const;
 
   std::shared_ptr<PDFFontInfo> face_;
+  Reference descriptor_;
+  Reference programFile_;  // of an embedded face
 };
 
 }  // namespace folivar

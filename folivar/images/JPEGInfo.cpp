@@ -5,8 +5,10 @@
 #include <cstddef>
 #include <limits>
 #include <memory>
+#include <span>
 #include <string>
 
+#include "folivar/base/BigEndian.h"
 #include "folivar/base/Error.h"
 #include "folivar/file/ByteSink.h"
 #include "folivar/images/ImageFile.h"
@@ -25,14 +27,14 @@ class Walk {
  public:
   explicit Walk(ImageFile& file) : file_(file) {}
 
-  // The next bytes, valid until the next call; null when the file ends before.
-  const char* Take(std::size_t count) {
+  // The next bytes, valid until the next call; none when the file ends before.
+  std::span<const unsigned char> Take(std::size_t count) {
     if (position_ + count > start_ + size_) {
       start_ = position_;
-      size_ = file_.Read(start_, piece_);
-      if (size_ < count) return nullptr;
+      size_ = file_.Read(start_, {reinterpret_cast<char*>(piece_.data()), piece_.size()});
+      if (size_ < count) return {};
     }
-    const char* bytes = piece_.data() + (position_ - start_);
+    const std::span bytes(piece_.data() + (position_ - start_), count);
     position_ += count;
     return bytes;
   }
@@ -41,16 +43,11 @@ class Walk {
 
  private:
   ImageFile& file_;
-  std::array<char, 4096> piece_;
+  std::array<unsigned char, 4096> piece_;
   std::uint64_t start_ = 0;  // of the piece in the file
   std::size_t size_ = 0;
   std::uint64_t position_ = 0;
 };
-
-std::uint8_t Byte(char byte) { return static_cast<std::uint8_t>(byte); }
-std::uint16_t BigEndian(const char* bytes) {
-  return static_cast<std::uint16_t>(Byte(bytes[0]) * 256 + Byte(bytes[1]));
-}
 
 std::int16_t Pixels(std::uint16_t number, const char* what, const ImageFile& file) {
   if (number > std::numeric_limits<std::int16_t>::max()) {
@@ -72,19 +69,19 @@ struct Frame {
 // False when there is no frame header, or what comes before it is cut short or has no length.
 bool FindFrame(ImageFile& file, Frame& frame) {
   Walk walk(file);
-  while (const char* marker = walk.Take(2)) {
-    const std::uint8_t code = Byte(marker[1]);
-    if (Byte(marker[0]) != kMarker || code == kStartOfImage) continue;
+  for (auto marker = walk.Take(2); !marker.empty(); marker = walk.Take(2)) {
+    const std::uint8_t code = marker[1];
+    if (marker[0] != kMarker || code == kStartOfImage) continue;
     if (code >= kFirstFrameHeader && code <= kLastFrameHeader) {
-      const char* header = walk.Take(7);
-      if (header == nullptr || BigEndian(header) < kShortestSegment) return false;
-      frame.height = Pixels(BigEndian(header + 3), "height", file);
-      frame.width = Pixels(BigEndian(header + 5), "width", file);
+      const auto header = walk.Take(7);
+      if (header.empty() || U16At(header, 0) < kShortestSegment) return false;
+      frame.height = Pixels(U16At(header, 3), "height", file);
+      frame.width = Pixels(U16At(header, 5), "width", file);
       return true;
     }
-    const char* length = walk.Take(2);
-    if (length == nullptr || BigEndian(length) < kShortestSegment) return false;
-    walk.Skip(BigEndian(length) - kShortestSegment);
+    const auto length = walk.Take(2);
+    if (length.empty() || U16At(length, 0) < kShortestSegment) return false;
+    walk.Skip(U16At(length, 0) - kShortestSegment);
   }
   return false;
 }

@@ -1,7 +1,6 @@
 #include "folivar/images/PDFImage.h"
 
 #include <array>
-#include <cassert>
 #include <cstddef>
 #include <string_view>
 #include <utility>
@@ -9,11 +8,11 @@
 #include "folivar/base/CaseFold.h"
 #include "folivar/base/Error.h"
 #include "folivar/base/InMember.h"
+#include "folivar/base/Internal.h"
 #include "folivar/document/Global.h"
 #include "folivar/file/ByteSink.h"
 #include "folivar/file/FileHandle.h"
 #include "folivar/file/FileSource.h"
-#include "folivar/file/ObjectNumbers.h"
 #include "folivar/file/PDFText.h"
 #include "folivar/file/SaveFile.h"
 #include "folivar/images/BMPInfo.h"
@@ -64,28 +63,11 @@ FileSource Open(const Text& fileName) {
   }
 }
 
-// The image data on their way into the file.
-class StreamSink final : public ByteSink {
- public:
-  explicit StreamSink(SaveFile& file) : file_(file) {}
-
-  void Write(std::string_view bytes) override {
-    file_.AppendBytes(bytes);
-    written_ += bytes.size();
-  }
-
-  std::size_t Written() const { return written_; }
-
- private:
-  SaveFile& file_;
-  std::size_t written_ = 0;
-};
-
 }  // namespace
 
 PDFImage::PDFImage(const Internal&, std::weak_ptr<PDFDocument> document, TextView key,
                    std::string resourceName)
-    : document_(std::move(document)), key_(key), resourceName_(std::move(resourceName)) {}
+    : XObject(std::move(document), key, std::move(resourceName)) {}
 
 PDFImage::~PDFImage() = default;
 
@@ -113,21 +95,20 @@ void PDFImage::SetFileName(TextView fileName) {
 std::int32_t PDFImage::Width() const { return reader_ ? reader_->Width() : 0; }
 std::int32_t PDFImage::Height() const { return reader_ ? reader_->Height() : 0; }
 
-void PDFImage::NumberObjects(ObjectNumbers& numbers) {
+void PDFImage::NumberObjects(const Internal& internal, ObjectNumbers& numbers) {
   if (!reader_) {
-    throw Error::ObjectNotSet("was never given a file").WithObject("image " + NameOf(*this));
+    throw Error::ObjectNotSet("was never given a file")
+        .WithObject("image " + NameInErrors(internal));
   }
-  objectNumber_ = numbers.Take();
+  TakeNumber(numbers);
 }
 
-void PDFImage::WriteObjects(SaveFile& file) {
+void PDFImage::WriteObjects(const Internal& internal, SaveFile& file) const {
   FileSource source = Open(fileName_);
   ImageFile imageFile(source, fileName_.Utf8());
-  AppendDictionary(file.BeginObject(objectNumber_));
-  StreamSink stream(file);
-  reader_->WriteImageStream(imageFile, stream);
-  assert(std::cmp_equal(stream.Written(), reader_->ImageStreamSize()));
-  file.AppendBytes("\nendstream\n");
+  AppendDictionary(file.BeginObject(ObjectNumber(internal)));
+  file.WriteStream(StreamKind::kData, static_cast<std::uint64_t>(reader_->ImageStreamSize()),
+                   [&](ByteSink& out) { reader_->WriteImageStream(imageFile, out); });
   OfObject([&] { return FileNamed(fileName_.Utf8()); }, [&] { file.EndObject(); });
 }
 
@@ -148,12 +129,12 @@ void PDFImage::WriteObjects(SaveFile& file) {
 //   endobj
 // Width and height end with a blank. Without a filter its line is empty.
 void PDFImage::AppendDictionary(PDFText& text) const {
-  text.Append("<< /Type /XObject\n/Subtype /Image\n/Name ", std::string_view(resourceName_),
-              "\n/Width ", Real{static_cast<double>(reader_->Width())}, "\n/Height ",
+  text.Append("<< /Type /XObject\n/Subtype /Image\n/Name ",
+              std::string_view(ResourceName(Internal())), "\n/Width ",
+              Real{static_cast<double>(reader_->Width())}, "\n/Height ",
               Real{static_cast<double>(reader_->Height())}, "\n/ColorSpace ", reader_->ColorSpace(),
               "\n/BitsPerComponent ", reader_->BitsPerComponent(), "\n/Interpolate ",
-              PdfBool(interpolate_), "\n", filter_, "\n/Length ", reader_->ImageStreamSize(),
-              " >>\nstream\n");
+              PdfBool(interpolate_), "\n", filter_, "\n/Length ", reader_->ImageStreamSize(), " ");
 }
 
 }  // namespace folivar

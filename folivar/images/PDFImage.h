@@ -6,19 +6,19 @@
 #include <string_view>
 
 #include "folivar/base/Api.h"
-#include "folivar/base/MemberKey.h"
+#include "folivar/base/Tagged.h"
 #include "folivar/base/Text.h"
-#include "folivar/file/ObjectWriter.h"
 #include "folivar/file/XObject.h"
 
 namespace folivar {
 
 class ImageReader;
 class PDFText;
+class SaveFile;
 
 // A picture that the document holds once, to be drawn any number of times (PDFPage::DrawImage) or
 // shown as a page's thumbnail: made by PDFImages::Add, and then given a file.
-class FOLIVAR_API PDFImage final : public XObject, public ObjectWriter {
+class FOLIVAR_API PDFImage final : public Tagged, public XObject {
  public:
   PDFImage(const Internal&, std::weak_ptr<PDFDocument> document, TextView key,
            std::string resourceName);
@@ -27,9 +27,6 @@ class FOLIVAR_API PDFImage final : public XObject, public ObjectWriter {
   // Whether readers smooth the picture where it is drawn larger than it is; false at first.
   bool Interpolate() const { return interpolate_; }
   void SetInterpolate(bool interpolate) { interpolate_ = interpolate; }
-
-  // The key given to PDFImages::Add; empty without one.
-  const Text& Key() const override { return key_.AsText(); }
 
   // The picture's file, empty at first. Its extension tells its format, without regard to case:
   // "jpg" and "jpeg" are JPEG files, "bmp" are uncompressed Windows bitmaps of 1, 4, 8 or 24 bits a
@@ -57,27 +54,18 @@ class FOLIVAR_API PDFImage final : public XObject, public ObjectWriter {
   std::int32_t Width() const;
   std::int32_t Height() const;
 
- private:
-  // XObject
-  const std::string& ResourceName(const Internal&) const override { return resourceName_; }
-  std::int32_t ObjectNumber(const Internal&) const override { return objectNumber_; }
-  const std::weak_ptr<PDFDocument>& ParentDocument(const Internal&) const override {
-    return document_;
-  }
-  // ObjectWriter
-  void NumberObjects(ObjectNumbers& numbers) override;
-  void WriteObjects(SaveFile& file) override;
+  // For the library
 
+  void NumberObjects(const Internal&, ObjectNumbers& numbers);
+  void WriteObjects(const Internal&, SaveFile& file) const;
+
+ private:
   void AppendDictionary(PDFText& text) const;
 
-  std::weak_ptr<PDFDocument> document_;
-  MemberKey key_;
-  std::string resourceName_;
   Text fileName_;
   std::string_view filter_;              // "/Filter /DCTDecode", or empty
   std::unique_ptr<ImageReader> reader_;  // null without a file
   bool interpolate_ = false;
-  std::int32_t objectNumber_ = 0;
 };
 
 }  // namespace folivar

@@ -7,11 +7,6 @@
 #include "folivar/base/Internal.h"
 
 namespace folivar {
-namespace {
-
-ObjectWriter& AsWriter(const std::shared_ptr<PDFImage>& image) { return *image; }
-
-}  // namespace
 
 PDFImages::PDFImages(const Internal&, std::weak_ptr<PDFDocument> document)
     : MemberList("PDFImages"), document_(std::move(document)) {}
@@ -26,14 +21,12 @@ std::shared_ptr<PDFImage> PDFImages::Add(TextView key, const Value& before, cons
   });
 }
 
-void PDFImages::NumberObjects(ObjectNumbers& numbers) {
-  members_.ForEach(
-      [&](const std::shared_ptr<PDFImage>& image) { AsWriter(image).NumberObjects(numbers); });
+void PDFImages::NumberObjects(const Internal& internal, ObjectNumbers& numbers) {
+  ForEach([&](PDFImage& image) { image.NumberObjects(internal, numbers); });
 }
 
-void PDFImages::WriteObjects(SaveFile& file) {
-  members_.ForEach(
-      [&](const std::shared_ptr<PDFImage>& image) { AsWriter(image).WriteObjects(file); });
+void PDFImages::WriteObjects(const Internal& internal, SaveFile& file) const {
+  ForEach([&](const PDFImage& image) { image.WriteObjects(internal, file); });
 }
 
 }  // namespace folivar

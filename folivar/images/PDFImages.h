@@ -7,7 +7,6 @@
 #include "folivar/base/Object.h"
 #include "folivar/base/Text.h"
 #include "folivar/base/Value.h"
-#include "folivar/file/ObjectWriter.h"
 #include "folivar/images/PDFImage.h"
 
 namespace folivar {
@@ -16,9 +15,7 @@ class Internal;
 class PDFDocument;
 
 // The images of a document; reached through PDFDocument::Images. An image is never taken out.
-class FOLIVAR_API PDFImages final : public Object,
-                                    public ObjectWriter,
-                                    public MemberList<PDFImage> {
+class FOLIVAR_API PDFImages final : public Object, public MemberList<PDFImage> {
  public:
   PDFImages(const Internal&, std::weak_ptr<PDFDocument> document);
 
@@ -29,11 +26,12 @@ class FOLIVAR_API PDFImages final : public Object,
   std::shared_ptr<PDFImage> Add(TextView key = {}, const Value& before = {},
                                 const Value& after = {});
 
- private:
-  // ObjectWriter
-  void NumberObjects(ObjectNumbers& numbers) override;
-  void WriteObjects(SaveFile& file) override;
+  // For the library
 
+  void NumberObjects(const Internal&, ObjectNumbers& numbers);
+  void WriteObjects(const Internal&, SaveFile& file) const;
+
+ private:
   std::weak_ptr<PDFDocument> document_;
 };
 

@@ -40,12 +40,12 @@ void PDFBookmark::BuildBookmarkText(const Internal& internal, PDFText& text,
                                     const OutlinePlace& place,
                                     const std::weak_ptr<PDFPages>& pages) const {
   // Deliberate: the title is not escaped; hosts pass titles that are, or have them escaped.
-  text.Append("<< /Title (", Ansi{title_.Utf16()}, ")\n/Parent ", Reference{place.parent}, "\n");
-  if (place.previous != 0) text.Append("/Prev ", Reference{place.previous}, "\n");
-  if (place.next != 0) text.Append("/Next ", Reference{place.next}, "\n");
-  if (place.first != 0) {
+  text.Append("<< /Title (", Ansi{title_.Utf16()}, ")\n/Parent ", place.parent, "\n");
+  if (!place.previous.IsNone()) text.Append("/Prev ", place.previous, "\n");
+  if (!place.next.IsNone()) text.Append("/Next ", place.next, "\n");
+  if (!place.first.IsNone()) {
     // Deliberate: no line end behind the count; what follows stands on the same line.
-    text.Append("/First ", Reference{place.first}, "\n/Last ", Reference{place.last}, "\n/Count ",
+    text.Append("/First ", place.first, "\n/Last ", place.last, "\n/Count ",
                 expanded_ ? place.visibleCount : -place.visibleCount);
   }
   OfObject([&] { return "PDFBookmark '" + title_.Utf8() + "'"; },

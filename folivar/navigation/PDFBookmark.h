@@ -42,6 +42,8 @@ class FOLIVAR_API PDFBookmark final : public Tagged {
   // The key given to PDFBookmarks::Add; empty without one.
   const Text& Key() const { return key_.AsText(); }
 
+  // For the library
+
   // Null before first use.
   const std::shared_ptr<PDFBookmarks>& MadeSubBookmarks(const Internal&) const {
     return subBookmarks_;

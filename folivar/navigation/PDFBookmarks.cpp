@@ -24,11 +24,11 @@ PDFBookmarks::~PDFBookmarks() {
 // The collections right below `from` that end with it, with `others` behind them.
 std::shared_ptr<PDFBookmarks> PDFBookmarks::TakeDoomed(PDFBookmarks& from,
                                                        std::shared_ptr<PDFBookmarks> others) {
-  from.members_.ForEach([&](const std::shared_ptr<PDFBookmark>& bookmark) {
-    const std::shared_ptr<PDFBookmarks>& below = bookmark->MadeSubBookmarks(Internal());
-    if (bookmark.use_count() > 1 || !below || below.use_count() > 1) return;
+  from.ForEach([&](PDFBookmark& bookmark) {
+    const std::shared_ptr<PDFBookmarks>& below = bookmark.MadeSubBookmarks(Internal());
+    if (bookmark.weak_from_this().use_count() > 1 || !below || below.use_count() > 1) return;
     below->nextDoomed_ = std::move(others);
-    others = bookmark->TakeSubBookmarks(Internal());
+    others = bookmark.TakeSubBookmarks(Internal());
   });
   return others;
 }

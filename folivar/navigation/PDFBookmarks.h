@@ -39,10 +39,12 @@ class FOLIVAR_API PDFBookmarks final : public Object, public MemberList<PDFBookm
     MoveMember(key, before, after, [this](const Value& name) { Remove(name); });
   }
 
-  // visit(const std::shared_ptr<PDFBookmark>&) for each in order.
+  // For the library
+
+  // visit(PDFBookmark&) for each in order.
   template <class Visit>
-  void ForEach(const Internal&, Visit visit) const {
-    members_.ForEach(visit);
+  void ForEachBookmark(const Internal&, Visit visit) const {
+    ForEach(visit);
   }
 
  private:

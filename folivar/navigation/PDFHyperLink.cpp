@@ -5,7 +5,8 @@
 #include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
 #include "folivar/base/KeyedName.h"
-#include "folivar/file/PDFText.h"
+#include "folivar/file/ObjectNumbers.h"
+#include "folivar/file/SaveFile.h"
 
 namespace folivar {
 namespace {
@@ -40,6 +41,16 @@ void PDFHyperLink::SetBorderDashPattern(float dashOn, float dashOff) {
   dashOff_ = dashOff;
 }
 
+void PDFHyperLink::NumberObjects(const Internal&, ObjectNumbers& numbers) {
+  object_ = numbers.Take();
+}
+
+void PDFHyperLink::WriteObjects(const Internal&, SaveFile& file,
+                                const std::weak_ptr<PDFPages>& pages) const {
+  AppendAnnotation(file.BeginObject(object_), pages);
+  file.EndObject();
+}
+
 //   << /Type /Annot
 //   /Subtype /Link
 //   /H /I
@@ -48,14 +59,13 @@ void PDFHyperLink::SetBorderDashPattern(float dashOn, float dashOff) {
 //   /Border [0 0 2  [3 2 ]]
 //   /C [1 0 0 ]
 //   >>
-void PDFHyperLink::BuildAnnotationText(const Internal& internal, PDFText& text,
-                                       const std::weak_ptr<PDFPages>& pages) const {
+void PDFHyperLink::AppendAnnotation(PDFText& text, const std::weak_ptr<PDFPages>& pages) const {
   OfObject([&] { return KeyedName("PDFHyperLink", Key()); },
            [&] {
              text.Append("<< /Type /Annot\n/Subtype /Link\n", HighlightLine(highlight_), "/Rect [ ",
                          Real{Left()}, " ", Real{Bottom()}, " ", Real{Right()}, " ", Real{Top()},
                          " ]\n");
-             destination_.AppendDestination(internal, text, pages);
+             destination_.AppendDestination(Internal(), text, pages);
              AppendBorder(text);
            });
   // Deliberate: black is 0, which stands for the reader's own choice, and that is black.

@@ -7,6 +7,7 @@
 #include "folivar/base/MemberKey.h"
 #include "folivar/base/Tagged.h"
 #include "folivar/base/Text.h"
+#include "folivar/file/Reference.h"
 #include "folivar/navigation/PDFLinkDestination.h"
 #include "folivar/navigation/PDFLinkHighlightAction.h"
 #include "folivar/navigation/Region.h"
@@ -14,8 +15,10 @@
 namespace folivar {
 
 class Internal;
+class ObjectNumbers;
 class PDFPages;
 class PDFText;
+class SaveFile;
 
 // A rectangle on a page that leads to a place in the document when it is clicked; made by
 // PDFHyperLinks::Add. Its region is on its own page. A number that PDF cannot hold raises 6 when
@@ -46,11 +49,16 @@ class FOLIVAR_API PDFHyperLink final : public Tagged, public Region<PDFHyperLink
   // The key given to PDFHyperLinks::Add; empty without one.
   const Text& Key() const { return key_.AsText(); }
 
-  // Appends the annotation's dictionary; destinations lead to `pages`.
-  void BuildAnnotationText(const Internal&, PDFText& text,
-                           const std::weak_ptr<PDFPages>& pages) const;
+  // For the library
+
+  void NumberObjects(const Internal&, ObjectNumbers& numbers);
+  // Destinations lead to `pages`.
+  void WriteObjects(const Internal&, SaveFile& file, const std::weak_ptr<PDFPages>& pages) const;
+  // As numbered by the save in progress.
+  Reference ObjectNumber(const Internal&) const { return object_; }
 
  private:
+  void AppendAnnotation(PDFText& text, const std::weak_ptr<PDFPages>& pages) const;
   void AppendBorder(PDFText& text) const;
 
   MemberKey key_;
@@ -60,6 +68,7 @@ class FOLIVAR_API PDFHyperLink final : public Tagged, public Region<PDFHyperLink
   float borderWidth_ = 1;
   float dashOn_ = 1;
   float dashOff_ = 0;
+  Reference object_;
 };
 
 }  // namespace folivar

@@ -4,9 +4,7 @@
 
 #include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
-#include "folivar/file/ObjectNumbers.h"
 #include "folivar/file/PDFText.h"
-#include "folivar/file/SaveFile.h"
 
 namespace folivar {
 
@@ -24,26 +22,20 @@ std::shared_ptr<PDFHyperLink> PDFHyperLinks::Add(TextView key, const Value& befo
 
 void PDFHyperLinks::Remove(const Value& indexOrKey) { members_.Remove(indexOrKey); }
 
-// The links' numbers follow each other, so that the first is all there is to know.
-void PDFHyperLinks::NumberObjects(ObjectNumbers& numbers) {
-  firstNumber_ = numbers.NextObjectNumber();
-  for (std::int32_t i = 0; i < count(); ++i) numbers.Take();
+void PDFHyperLinks::NumberObjects(const Internal& internal, ObjectNumbers& numbers) {
+  ForEach([&](PDFHyperLink& link) { link.NumberObjects(internal, numbers); });
 }
 
 //   /Annots [ 12 0 R 13 0 R ]
-void PDFHyperLinks::AppendAnnots(const Internal&, PDFText& text) const {
+void PDFHyperLinks::AppendAnnots(const Internal& internal, PDFText& text) const {
   if (count() == 0) return;
   text.Append("/Annots [ ");
-  for (std::int32_t i = 0; i < count(); ++i) text.Append(Reference{firstNumber_ + i}, " ");
+  ForEach([&](const PDFHyperLink& link) { text.Append(link.ObjectNumber(internal), " "); });
   text.Append("]\n");
 }
 
-void PDFHyperLinks::WriteObjects(SaveFile& file) {
-  std::int32_t number = firstNumber_;
-  members_.ForEach([&](const std::shared_ptr<PDFHyperLink>& link) {
-    link->BuildAnnotationText(Internal(), file.BeginObject(number++), pages_);
-    file.EndObject();
-  });
+void PDFHyperLinks::WriteObjects(const Internal& internal, SaveFile& file) const {
+  ForEach([&](const PDFHyperLink& link) { link.WriteObjects(internal, file, pages_); });
 }
 
 }  // namespace folivar

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <memory>
 
 #include "folivar/base/Api.h"
@@ -8,7 +7,6 @@
 #include "folivar/base/Object.h"
 #include "folivar/base/Text.h"
 #include "folivar/base/Value.h"
-#include "folivar/file/ObjectWriter.h"
 #include "folivar/navigation/PDFHyperLink.h"
 
 namespace folivar {
@@ -19,9 +17,7 @@ class PDFText;
 
 // The links of one page; reached through PDFPage::HyperLinks. Where links overlap, readers follow
 // the later one.
-class FOLIVAR_API PDFHyperLinks final : public Object,
-                                        public ObjectWriter,
-                                        public MemberList<PDFHyperLink> {
+class FOLIVAR_API PDFHyperLinks final : public Object, public MemberList<PDFHyperLink> {
  public:
   PDFHyperLinks(const Internal&, std::weak_ptr<PDFPages> pages);
 
@@ -35,17 +31,16 @@ class FOLIVAR_API PDFHyperLinks final : public Object,
   // Takes a link off the page; who holds it may still use it. Raises as Item.
   void Remove(const Value& indexOrKey);
 
+  // For the library
+
+  void NumberObjects(const Internal&, ObjectNumbers& numbers);
+  void WriteObjects(const Internal&, SaveFile& file) const;
   // Appends "/Annots " and the references to the links as an entry of a dictionary, if there are
   // links.
   void AppendAnnots(const Internal&, PDFText& text) const;
 
  private:
-  // ObjectWriter
-  void NumberObjects(ObjectNumbers& numbers) override;
-  void WriteObjects(SaveFile& file) override;
-
   std::weak_ptr<PDFPages> pages_;
-  std::int32_t firstNumber_ = 0;
 };
 
 }  // namespace folivar

@@ -27,7 +27,7 @@ void PDFLinkDestination::SetPage(const std::shared_ptr<PDFPage>& page) {
 void PDFLinkDestination::AppendDestination(const Internal& internal, PDFText& text,
                                            const std::weak_ptr<PDFPages>& pages) const {
   if (!pageRemoved_.IsSubscribed() || !page_->IsNumberedIn(internal, pages)) return;
-  const Reference page{page_->ObjectNumber(internal)};
+  const Reference page = page_->ObjectNumber(internal);
   OfObject([] { return "Destination"; },
            [&] {
              switch (destinationMode_) {

@@ -44,6 +44,8 @@ class FOLIVAR_API PDFLinkDestination final : public Object, public Region<PDFLin
   float Zoom() const { return zoom_; }
   void SetZoom(float zoom) { zoom_ = zoom; }
 
+  // For the library
+
   // Appends "/Dest " and the destination as an entry of a dictionary, if it leads to one of
   // `pages`.
   void AppendDestination(const Internal&, PDFText& text,

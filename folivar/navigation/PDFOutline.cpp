@@ -1,7 +1,7 @@
 #include "folivar/navigation/PDFOutline.h"
 
 #include <algorithm>
-#include <cstddef>
+#include <cstdint>
 #include <utility>
 
 #include "folivar/base/Internal.h"
@@ -19,38 +19,38 @@ const std::shared_ptr<PDFBookmarks>& PDFOutline::Bookmarks() {
 }
 
 // The bookmarks are laid out in a row, so that nothing depends on how deep they lie.
-void PDFOutline::NumberObjects(ObjectNumbers& numbers) {
+void PDFOutline::NumberObjects(const Internal& internal, ObjectNumbers& numbers) {
   struct Waiting {
     const PDFBookmark* bookmark;
-    std::int32_t parent;
+    Reference parent;
   };
   std::vector<Waiting> waiting;  // the next one last
-  const auto wait = [&](const std::shared_ptr<PDFBookmarks>& bookmarks, std::int32_t parent) {
+  const auto wait = [&](const std::shared_ptr<PDFBookmarks>& bookmarks, Reference parent) {
     if (!bookmarks) return;
     const std::size_t start = waiting.size();
-    bookmarks->ForEach(Internal(), [&](const std::shared_ptr<PDFBookmark>& bookmark) {
-      waiting.push_back({bookmark.get(), parent});
+    bookmarks->ForEachBookmark(internal, [&](const PDFBookmark& bookmark) {
+      waiting.push_back({&bookmark, parent});
     });
     std::reverse(waiting.begin() + static_cast<std::ptrdiff_t>(start), waiting.end());
   };
 
-  objectNumber_ = numbers.Take();
-  numbered_.assign(1, {});
-  wait(bookmarks_, objectNumber_);
+  object_ = numbers.Take();
+  numbered_.assign(1, {.object = object_});
+  wait(bookmarks_, object_);
   while (!waiting.empty()) {
-    const auto [bookmark, parentNumber] = waiting.back();
+    const auto [bookmark, parent] = waiting.back();
     waiting.pop_back();
-    const std::int32_t number = numbers.Take();
-    OutlinePlace& parent = At(parentNumber).place;
-    const std::int32_t previous = std::exchange(parent.last, number);
-    if (previous == 0) {
-      parent.first = number;
+    const Reference object = numbers.Take();
+    OutlinePlace& above = At(parent).place;
+    const Reference previous = std::exchange(above.last, object);
+    if (previous.IsNone()) {
+      above.first = object;
     } else {
-      At(previous).place.next = number;
+      At(previous).place.next = object;
     }
     numbered_.push_back(
-        {bookmark, {.parent = parentNumber, .previous = previous}, bookmark->Expanded()});
-    wait(bookmark->MadeSubBookmarks(Internal()), number);
+        {bookmark, object, {.parent = parent, .previous = previous}, bookmark->Expanded()});
+    wait(bookmark->MadeSubBookmarks(internal), object);
   }
 
   // From the last to the first, so that those below a bookmark are counted before it is.
@@ -68,22 +68,21 @@ void PDFOutline::NumberObjects(ObjectNumbers& numbers) {
 //   /Count 4
 //   >>
 //   endobj
-void PDFOutline::WriteObjects(SaveFile& file) {
+void PDFOutline::WriteObjects(const Internal& internal, SaveFile& file) {
   const std::vector<Numbered> numbered = std::exchange(numbered_, {});
   const OutlinePlace& root = numbered.front().place;
-  PDFText& text = file.BeginObject(objectNumber_);
+  PDFText& text = file.BeginObject(object_);
   text.Append("<< /Type /Outlines\n");
-  if (root.first != 0) {
-    text.Append("/First ", Reference{root.first}, "\n/Last ", Reference{root.last}, "\n/Count ",
-                root.visibleCount, "\n");
+  if (!root.first.IsNone()) {
+    text.Append("/First ", root.first, "\n/Last ", root.last, "\n/Count ", root.visibleCount, "\n");
   }
   text.Append(">>\n");
   file.EndObject();
 
-  std::int32_t number = objectNumber_;
   for (std::size_t i = 1; i < numbered.size(); ++i) {
-    numbered[i].bookmark->BuildBookmarkText(Internal(), file.BeginObject(++number),
-                                            numbered[i].place, pages_);
+    const Numbered& written = numbered[i];
+    written.bookmark->BuildBookmarkText(internal, file.BeginObject(written.object), written.place,
+                                        pages_);
     file.EndObject();
   }
 }

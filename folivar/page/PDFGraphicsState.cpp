@@ -30,25 +30,31 @@ bool GrayAsColor(float gray, std::int32_t& color) {
 
 PDFGraphicsState::PDFGraphicsState(const Internal&, std::shared_ptr<Surface> surface)
     : surface_(std::move(surface)) {
-  current_.LineWidth = 1;
-  current_.LineDashOn = 1;
+  surface_->State().LineWidth = 1;
+  surface_->State().LineDashOn = 1;
 }
+
+std::int32_t PDFGraphicsState::FillColor() const { return surface_->State().FillColor; }
+std::int32_t PDFGraphicsState::StrokeColor() const { return surface_->State().StrokeColor; }
+float PDFGraphicsState::LineWidth() const { return surface_->State().LineWidth; }
+float PDFGraphicsState::LineDashOn() const { return surface_->State().LineDashOn; }
+float PDFGraphicsState::LineDashOff() const { return surface_->State().LineDashOff; }
 
 void PDFGraphicsState::SetFillColor(std::int32_t color) {
   EmitToOwner(*surface_, "PDFGraphicsState.FillColor", FillColorOp(color));
-  current_.FillColor = color;
+  surface_->State().FillColor = color;
 }
 
 void PDFGraphicsState::SetStrokeColor(std::int32_t color) {
   EmitToOwner(*surface_, "PDFGraphicsState.StrokeColor", StrokeColorOp(color));
-  current_.StrokeColor = color;
+  surface_->State().StrokeColor = color;
 }
 
 void PDFGraphicsState::SetFillGrayColor(float gray) {
   std::int32_t color = 0;
   if (!GrayAsColor(gray, color)) return;
   EmitToOwner(*surface_, "PDFGraphicsState.FillGrayColor", Real{gray}, "g\n");
-  current_.FillColor = color;
+  surface_->State().FillColor = color;
 }
 
 void PDFGraphicsState::SetStrokeGrayColor(float gray) {
@@ -56,38 +62,40 @@ void PDFGraphicsState::SetStrokeGrayColor(float gray) {
   if (!GrayAsColor(gray, color)) return;
   EmitToOwner(*surface_, "PDFGraphicsState.StrokeGrayColor", Real{gray}, "G\n");
   // Deliberate: the stroke's gray is reported as the fill colour; existing hosts rely on it.
-  current_.FillColor = color;
+  surface_->State().FillColor = color;
 }
 
 void PDFGraphicsState::SetLineWidth(float width) {
   EmitToOwner(*surface_, "PDFGraphicsState.LineWidth", Real{width}, " w\n");
-  current_.LineWidth = width;
+  surface_->State().LineWidth = width;
 }
 
 void PDFGraphicsState::SetLineDashPattern(float dashOn, float dashOff) {
   EmitToOwner(*surface_, "PDFGraphicsState.SetLineDashPattern", "[", Real{dashOn}, Real{dashOff},
               "] 0 d\n");
-  current_.LineDashOn = dashOn;
-  current_.LineDashOff = dashOff;
+  surface_->State().LineDashOn = dashOn;
+  surface_->State().LineDashOff = dashOff;
 }
 
 void PDFGraphicsState::Push() {
-  stack_.Push(current_);
+  Stack<GRAPHICS_STATE>& saved = surface_->SavedStates();
+  saved.Push(surface_->State());
   try {
     EmitToOwner(*surface_, "PDFGraphicsState.Push", "q\n");
   } catch (...) {
-    stack_.Pop();
+    saved.Pop();
     throw;
   }
   // Deliberate: the new record is empty, so the getters report 0 until a setter is used.
-  current_ = {};
+  surface_->State() = {};
 }
 
 bool PDFGraphicsState::Pop() {
-  const GRAPHICS_STATE saved = InMember("PDFGraphicsState.Pop", [&] { return stack_.Peek(); });
+  Stack<GRAPHICS_STATE>& saved = surface_->SavedStates();
+  const GRAPHICS_STATE before = InMember("PDFGraphicsState.Pop", [&] { return saved.Peek(); });
   EmitToOwner(*surface_, "PDFGraphicsState.Pop", "Q\n");
-  current_ = saved;
-  stack_.Pop();
+  surface_->State() = before;
+  saved.Pop();
   // Deliberate: always false; the answer says nothing about the stack.
   return false;
 }

@@ -5,8 +5,6 @@
 
 #include "folivar/base/Api.h"
 #include "folivar/base/Object.h"
-#include "folivar/page/GRAPHICS_STATE.h"
-#include "folivar/page/Stack.h"
 
 namespace folivar {
 
@@ -25,9 +23,9 @@ class FOLIVAR_API PDFGraphicsState final : public Object {
   PDFGraphicsState(const Internal&, std::shared_ptr<Surface> surface);
 
   // Black at first.
-  std::int32_t FillColor() const { return current_.FillColor; }
+  std::int32_t FillColor() const;
   void SetFillColor(std::int32_t color);
-  std::int32_t StrokeColor() const { return current_.StrokeColor; }
+  std::int32_t StrokeColor() const;
   void SetStrokeColor(std::int32_t color);
 
   // Gray levels from 0 (black) to 1 (white); any other value is ignored without an error. Both
@@ -36,12 +34,12 @@ class FOLIVAR_API PDFGraphicsState final : public Object {
   void SetStrokeGrayColor(float gray);
 
   // Points; 1 at first.
-  float LineWidth() const { return current_.LineWidth; }
+  float LineWidth() const;
   void SetLineWidth(float width);
 
   // Points of line and of gap; 1 and 0, a solid line, at first.
-  float LineDashOn() const { return current_.LineDashOn; }
-  float LineDashOff() const { return current_.LineDashOff; }
+  float LineDashOn() const;
+  float LineDashOff() const;
   void SetLineDashPattern(float dashOn, float dashOff);
 
   // Saves the state and restores the state saved last. After Push the getters report 0 until the
@@ -61,8 +59,6 @@ class FOLIVAR_API PDFGraphicsState final : public Object {
 
  private:
   std::shared_ptr<Surface> surface_;
-  GRAPHICS_STATE current_;
-  Stack<GRAPHICS_STATE> stack_;
 };
 
 }  // namespace folivar

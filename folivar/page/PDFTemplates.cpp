@@ -8,11 +8,6 @@
 #include "folivar/fonts/PDFFont.h"
 
 namespace folivar {
-namespace {
-
-ObjectWriter& AsWriter(const std::shared_ptr<PDFTemplate>& member) { return *member; }
-
-}  // namespace
 
 PDFTemplates::PDFTemplates(const Internal&, std::weak_ptr<PDFDocument> document,
                            std::shared_ptr<PDFFont> defaultFont)
@@ -31,14 +26,12 @@ std::shared_ptr<PDFTemplate> PDFTemplates::Add(TextView key, const Value& before
   });
 }
 
-void PDFTemplates::NumberObjects(ObjectNumbers& numbers) {
-  members_.ForEach(
-      [&](const std::shared_ptr<PDFTemplate>& member) { AsWriter(member).NumberObjects(numbers); });
+void PDFTemplates::NumberObjects(const Internal& internal, ObjectNumbers& numbers) {
+  ForEach([&](PDFTemplate& member) { member.NumberObjects(internal, numbers); });
 }
 
-void PDFTemplates::WriteObjects(SaveFile& file) {
-  members_.ForEach(
-      [&](const std::shared_ptr<PDFTemplate>& member) { AsWriter(member).WriteObjects(file); });
+void PDFTemplates::WriteObjects(const Internal& internal, SaveFile& file) {
+  ForEach([&](PDFTemplate& member) { member.WriteObjects(internal, file); });
 }
 
 }  // namespace folivar

@@ -7,7 +7,6 @@
 #include "folivar/base/Object.h"
 #include "folivar/base/Text.h"
 #include "folivar/base/Value.h"
-#include "folivar/file/ObjectWriter.h"
 #include "folivar/page/PDFTemplate.h"
 
 namespace folivar {
@@ -18,9 +17,7 @@ class PDFFont;
 
 // The templates of a document; reached through PDFDocument::Templates. All of them are written,
 // also those that no page shows; none can be taken out.
-class FOLIVAR_API PDFTemplates final : public Object,
-                                       public ObjectWriter,
-                                       public MemberList<PDFTemplate> {
+class FOLIVAR_API PDFTemplates final : public Object, public MemberList<PDFTemplate> {
  public:
   PDFTemplates(const Internal&, std::weak_ptr<PDFDocument> document,
                std::shared_ptr<PDFFont> defaultFont);
@@ -32,11 +29,12 @@ class FOLIVAR_API PDFTemplates final : public Object,
   std::shared_ptr<PDFTemplate> Add(TextView key = {}, const Value& before = {},
                                    const Value& after = {});
 
- private:
-  // ObjectWriter
-  void NumberObjects(ObjectNumbers& numbers) override;
-  void WriteObjects(SaveFile& file) override;
+  // For the library
 
+  void NumberObjects(const Internal&, ObjectNumbers& numbers);
+  void WriteObjects(const Internal&, SaveFile& file);
+
+ private:
   std::weak_ptr<PDFDocument> document_;
   std::shared_ptr<PDFFont> defaultFont_;
 };

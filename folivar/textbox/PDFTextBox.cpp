@@ -105,7 +105,7 @@ void PDFTextBox::AutoSizeNow() {
 // the box.
 void PDFTextBox::AutoSizeBox() {
   const AnsiText ansi(text_->Text());
-  const TextExtents extents = TextLayout(ansi.Bytes(), text_->Runs(), geometry_).Measure();
+  const AllExtents extents = TextLayout(ansi.Bytes(), text_->Runs(), geometry_).Measure();
   const float textWidth = geometry_.wordWrap ? geometry_.width : extents.width;
   const float width = Finite(geometry_.marginLeft + textWidth + geometry_.marginRight);
   SetHeight(
@@ -236,9 +236,8 @@ std::shared_ptr<PDFGraphicsState> PDFTextBox::GraphicsState() {
 
 void PDFTextBox::RegisterFaces(const Internal&) const {
   PDFResourceDictionary& resources = parentSurface_->ResourceDictionary();
-  text_->Runs().ForEach([&](const TEXT_FORMAT_RANGE& run) {
-    if (!resources.HasFace(FontMetrics(*run.Font).Face())) resources.AddFontResource(*run.Font);
-  });
+  text_->Runs().ForEach(
+      [&](const TEXT_FORMAT_RANGE& run) { resources.AddFontResource(*run.Font); });
 }
 
 void PDFTextBox::RenderTextBox(const Internal&, PDFText& content) {

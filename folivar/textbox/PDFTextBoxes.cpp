@@ -28,22 +28,21 @@ std::shared_ptr<PDFTextBox> PDFTextBoxes::Add(TextView key, const Value& before,
 void PDFTextBoxes::Remove(const Value& indexOrKey) { members_.Remove(indexOrKey); }
 
 void PDFTextBoxes::ExtendClipBox(const Internal&, ClipBox& clipBox) const {
-  members_.ForEach([&](const std::shared_ptr<PDFTextBox>& box) {
-    OfObject([&] { return KeyedName("PDFTextBox", box->Key()); },
+  ForEach([&](const PDFTextBox& box) {
+    OfObject([&] { return KeyedName("PDFTextBox", box.Key()); },
              [&] {
-               clipBox.ExtendClipBox(box->Left(), box->Bottom());
-               clipBox.ExtendClipBox(box->Right(), box->Top());
+               clipBox.ExtendClipBox(box.Left(), box.Bottom());
+               clipBox.ExtendClipBox(box.Right(), box.Top());
              });
   });
 }
 
 void PDFTextBoxes::RegisterFaces(const Internal& internal) const {
-  members_.ForEach([&](const std::shared_ptr<PDFTextBox>& box) { box->RegisterFaces(internal); });
+  ForEach([&](const PDFTextBox& box) { box.RegisterFaces(internal); });
 }
 
 void PDFTextBoxes::Render(const Internal& internal, PDFText& content) const {
-  members_.ForEach(
-      [&](const std::shared_ptr<PDFTextBox>& box) { box->RenderTextBox(internal, content); });
+  ForEach([&](PDFTextBox& box) { box.RenderTextBox(internal, content); });
 }
 
 }  // namespace folivar

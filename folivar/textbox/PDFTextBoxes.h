@@ -41,6 +41,8 @@ class FOLIVAR_API PDFTextBoxes final : public Object, public MemberList<PDFTextB
     MoveMember(key, before, after, [this](const Value& name) { Remove(name); });
   }
 
+  // For the library
+
   // Grows a box of edges over every text box. Raises 6 for an edge beyond a single.
   void ExtendClipBox(const Internal&, ClipBox& clipBox) const;
   // Lists the faces of all boxes among the owner's resources.

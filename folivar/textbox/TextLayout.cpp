@@ -40,12 +40,10 @@ LineMeasures TextLayout::MeasureLine(std::size_t start, std::size_t end) const {
   LineMeasures line;
   ForEachPiece(start, end, [&](std::string_view piece, const LaidFormat& format) {
     const FontMetrics font = format.Metrics();
-    float width = 0;
-    float height = 0;
-    font.Face().MeasureExtents(piece, width, height);
-    line.width += FontMetrics::Scaled(width, font.EffectiveSize());
+    const TextExtents extents = font.Face().MeasureExtents(piece);
+    line.width += FontMetrics::Scaled(extents.width, font.EffectiveSize());
     line.height =
-        MaxOf(line.height, FontMetrics::Scaled(font.Rise() + height, font.EffectiveSize()));
+        MaxOf(line.height, FontMetrics::Scaled(font.Rise() + extents.height, font.EffectiveSize()));
     line.leading = MaxOf(line.leading, font.Leading());
     line.bottom = MinOf(line.bottom, font.Scaled(font.Face().FontBoxBottom()));
   });
@@ -125,8 +123,8 @@ std::optional<TextLine> TextLayout::NextLine() {
   return line;
 }
 
-TextExtents TextLayout::Measure() {
-  TextExtents extents;
+AllExtents TextLayout::Measure() {
+  AllExtents extents;
   for (std::size_t start = 0; start < bytes_.size();) {
     BeginLine(start);
     const std::size_t end = FindLineEnd(start);

@@ -21,7 +21,7 @@ struct LineMeasures {
 };
 
 // The measures of all lines together.
-struct TextExtents {
+struct AllExtents {
   float width = 0;     // of the widest line
   float leadings = 0;  // of all lines
   float bottom = 0;    // of the last line
@@ -74,7 +74,7 @@ class TextLayout {
   }
 
   // Of all lines.
-  TextExtents Measure();
+  AllExtents Measure();
 
  private:
   using Cursor = LaidRuns::Iterator;

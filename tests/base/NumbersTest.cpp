@@ -37,7 +37,8 @@ TEST(Finite, GivesASumAsItIsOrRaises6) {
   EXPECT_EQ(Finite(-1.5F), -1.5F);
   EXPECT_EQ(Finite(kLargest), kLargest);
   EXPECT_EQ(ErrorNumberOf([] { Finite(kLargest + kLargest); }), Error::kOverflow);
-  EXPECT_EQ(ErrorNumberOf([] { Finite(std::numeric_limits<float>::quiet_NaN()); }), Error::kOverflow);
+  EXPECT_EQ(ErrorNumberOf([] { Finite(std::numeric_limits<float>::quiet_NaN()); }),
+            Error::kOverflow);
 }
 
 TEST(DigitsOf, TellsSixDigits) {

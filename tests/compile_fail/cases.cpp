@@ -12,18 +12,16 @@
 
 void Host(folivar::PDFPage& page, [[maybe_unused]] folivar::PDFTemplate& drawn,
           [[maybe_unused]] folivar::ObjectNumbers& numbers) {
-  [[maybe_unused]] folivar::ObjectWriter& writer = page;
   page.SetWidth(100);
 
 #if defined(CASE_NumberPage)
-  page.NumberObjects(numbers);
+  page.NumberObjects({}, numbers);
 #elif defined(CASE_MakeObjectNumbers)
   folivar::ObjectNumbers own;
-  writer.NumberObjects(own);
-#elif defined(CASE_NumberFromInteger)
-  writer.NumberObjects(4);
-#elif defined(CASE_NumberFromBraces)
-  writer.NumberObjects({});
+#elif defined(CASE_MakeCanvas)
+  folivar::Canvas canvas;
+#elif defined(CASE_SurfaceOfACanvas)
+  page.TheSurface();
 #elif defined(CASE_MakePage)
   std::make_shared<folivar::PDFPage>();
 #elif defined(CASE_MakeInternal)
@@ -31,8 +29,9 @@ void Host(folivar::PDFPage& page, [[maybe_unused]] folivar::PDFTemplate& drawn,
 #elif defined(CASE_InternalFromBraces)
   page.ObjectNumber({});
 #elif defined(CASE_FaceOfAFont)
-  folivar::FaceUser& user = *page.Font();
-  user.FontInfo({});
+  page.Font()->FontInfo({});
+#elif defined(CASE_OwnerOfAFont)
+  page.Font()->Owner({});
 #elif defined(CASE_StyledFace)
   using folivar::PDFFonts;
   const auto fonts = folivar::PDFDocument::Create()->Fonts();
@@ -41,23 +40,21 @@ void Host(folivar::PDFPage& page, [[maybe_unused]] folivar::PDFTemplate& drawn,
 #elif defined(CASE_MakeImage)
   std::make_shared<folivar::PDFImage>();
 #elif defined(CASE_NumberImage)
-  page.Thumbnail()->NumberObjects(numbers);
+  page.Thumbnail()->NumberObjects({}, numbers);
 #elif defined(CASE_NumberImages)
-  page.ParentDocument()->Images()->NumberObjects(numbers);
+  page.ParentDocument()->Images()->NumberObjects({}, numbers);
 #elif defined(CASE_NameOfAnImage)
-  folivar::XObject& object = *page.Thumbnail();
-  object.ResourceName({});
+  page.Thumbnail()->ResourceName({});
 #elif defined(CASE_RemoveImage)
   page.ParentDocument()->Images()->Remove(1);
 #elif defined(CASE_MakeTemplate)
   std::make_shared<folivar::PDFTemplate>();
 #elif defined(CASE_NumberTemplate)
-  drawn.NumberObjects(numbers);
+  drawn.NumberObjects({}, numbers);
 #elif defined(CASE_NumberTemplates)
-  page.ParentDocument()->Templates()->NumberObjects(numbers);
+  page.ParentDocument()->Templates()->NumberObjects({}, numbers);
 #elif defined(CASE_NameOfATemplate)
-  folivar::XObject& object = drawn;
-  object.ResourceName({});
+  drawn.ResourceName({});
 #elif defined(CASE_PlaceOnATemplate)
   drawn.DrawTemplate(nullptr);
 #elif defined(CASE_RemoveTemplate)
@@ -73,7 +70,7 @@ void Host(folivar::PDFPage& page, [[maybe_unused]] folivar::PDFTemplate& drawn,
 #elif defined(CASE_MakeHyperLink)
   std::make_shared<folivar::PDFHyperLink>();
 #elif defined(CASE_NumberHyperLinks)
-  page.HyperLinks()->NumberObjects(numbers);
+  page.HyperLinks()->NumberObjects({}, numbers);
 #elif defined(CASE_ReOrderHyperLinks)
   page.HyperLinks()->ReOrder("key");
 #elif defined(CASE_RaisePageRemoved)

@@ -253,7 +253,8 @@ TEST(FileExists, IsFalseForWhatIsNoPath) {
 }
 
 TEST(CeilDiv, Raises6ForAQuotientThatDoesNotFit) {
-  EXPECT_EQ(ErrorNumberOf([] { CeilDiv(std::numeric_limits<std::int64_t>::min(), -1); }), Error::kOverflow);
+  EXPECT_EQ(ErrorNumberOf([] { CeilDiv(std::numeric_limits<std::int64_t>::min(), -1); }),
+            Error::kOverflow);
 }
 
 TEST(CeilDiv, IsTheQuotientRoundedUp) {
@@ -395,7 +396,8 @@ TEST(SortStrings, Raises9ForAPlaceOutsideTheVectorAndSortsNothing) {
   EXPECT_EQ(ErrorNumberOf([&] { SortStrings(texts, 0, 3); }), Error::kSubscriptOutOfRange);
   EXPECT_EQ(ErrorNumberOf([&] { SortStrings(texts, 3, 2); }), Error::kSubscriptOutOfRange);
   EXPECT_EQ(ErrorNumberOf([&] { SortStrings(texts, -2, 2); }), Error::kSubscriptOutOfRange);
-  EXPECT_EQ(ErrorNumberOf([&] { SortStrings(texts, 0, 2'000'000'000); }), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(ErrorNumberOf([&] { SortStrings(texts, 0, 2'000'000'000); }),
+            Error::kSubscriptOutOfRange);
   EXPECT_EQ(StringsOf(texts), (std::vector<std::string>{"c", "b", "a"}));
 }
 

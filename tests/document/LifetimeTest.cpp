@@ -276,7 +276,7 @@ TEST(Lifetime, ImagesAndPagesThatShowThemMayOutliveEachOther) {
   document.reset();
   page->DrawImage(image, 0, 0);
   page->SetThumbnail(image);
-  page->DrawImage(images->Add(), 0, 0, 1, 1, false);
+  page->DrawImage(images->Add(), 0, 0, 1, 1, AspectRatio::kStretch);
   images.reset();
   page->DrawImage(image, 10, 10);
   const std::weak_ptr<PDFImage> watch = image;

@@ -64,9 +64,9 @@ TEST(PDFDocument, Drawing) {
   state->Pop();
 
   state->SetFillColor(0x80C000);
-  page->DrawRect(72, 340, 60, 40, true, true);
+  page->DrawRect(72, 340, 60, 40, Paint::kStrokeAndFill);
   state->SetFillGrayColor(0.75F);
-  page->DrawRect(152, 340, 60, 40, false, true);
+  page->DrawRect(152, 340, 60, 40, Paint::kFill);
 
   state->Push();
   state->Translate(300, 300);
@@ -140,7 +140,7 @@ TEST(PDFDocument, GraphicsState) {
   const auto page = document->Pages()->Add();
   const auto state = page->GraphicsState();
   const auto square = [&](float left, float bottom) {
-    page->DrawRect(left, bottom, 50, 50, true, true);
+    page->DrawRect(left, bottom, 50, 50, Paint::kStrokeAndFill);
   };
   state->SetFillColor(0x3399FF);
   state->SetStrokeColor(0x993300);

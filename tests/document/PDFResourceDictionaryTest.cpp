@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "folivar/document/PDFResourceDictionary.h"
+#include "folivar/file/ObjectNumbers.h"
 #include "folivar/file/XObject.h"
 #include "folivar/folivar.h"
 #include "tests/support/SavedDocument.h"
@@ -23,22 +24,14 @@ std::string TextOf(const PDFResourceDictionary& resources) {
 class NumberedObject final : public XObject {
  public:
   NumberedObject(std::string resourceName, std::int32_t number)
-      : resourceName_(std::move(resourceName)), number_(number) {}
-
-  const Text& Key() const override { return key_; }
-  void SetNumber(std::int32_t number) { number_ = number; }
-
- private:
-  const std::string& ResourceName(const Internal&) const override { return resourceName_; }
-  std::int32_t ObjectNumber(const Internal&) const override { return number_; }
-  const std::weak_ptr<PDFDocument>& ParentDocument(const Internal&) const override {
-    return document_;
+      : XObject({}, "", std::move(resourceName)) {
+    SetNumber(number);
   }
 
-  Text key_;
-  std::string resourceName_;
-  std::int32_t number_;
-  std::weak_ptr<PDFDocument> document_;
+  void SetNumber(std::int32_t number) {
+    ObjectNumbers numbers(number);
+    TakeNumber(numbers);
+  }
 };
 
 TEST(PDFResourceDictionary, FontsEntryIsThereEvenWhenEmpty) {
@@ -97,8 +90,8 @@ TEST(PDFResourceDictionary, NumbersAreThoseOfTheSaveInProgress) {
   const auto letterhead = std::make_shared<NumberedObject>("/T1", 7);
   PDFResourceDictionary resources;
   resources.AddTemplateResource(letterhead);
-  letterhead->SetNumber(2147483647);
-  EXPECT_EQ(TextOf(resources), "<< \n/Font << >>\n/XObject << /T1 2147483647 0 R\n >>\n>>\n");
+  letterhead->SetNumber(2147483646);
+  EXPECT_EQ(TextOf(resources), "<< \n/Font << >>\n/XObject << /T1 2147483646 0 R\n >>\n>>\n");
 }
 
 }  // namespace

@@ -136,16 +136,12 @@ TEST(DrawText, DecorationsLeaveThePenAtTheirEnd) {
   ContentAfter([](PDFPage& page) {
     page.SetCurPos(1, 2);
     page.DrawText("plain", 50, 60);
-    float x = 0;
-    float y = 0;
-    page.GetCurPos(x, y);
-    EXPECT_EQ(x, 1);
-    EXPECT_EQ(y, 2);
+    EXPECT_EQ(page.GetCurPos().x, 1);
+    EXPECT_EQ(page.GetCurPos().y, 2);
     Decorated(page)->SetUnderline(true);
     page.DrawText("A", 100, 200);
-    page.GetCurPos(x, y);
-    EXPECT_FLOAT_EQ(x, 106.67F);
-    EXPECT_EQ(y, 199);
+    EXPECT_FLOAT_EQ(page.GetCurPos().x, 106.67F);
+    EXPECT_EQ(page.GetCurPos().y, 199);
   });
 }
 
@@ -157,9 +153,7 @@ TEST(DrawText, FailedDecorationLeavesNothingBehind) {
               EXPECT_EQ(ErrorNumberOf(
                             [&] { page.DrawText("AAAAAAAAAAAAAAAAAAAAAAA", 2147483520.0F, 0); }),
                         Error::kOverflow);
-              float x = 0;
-              float y = 0;
-              page.GetCurPos(x, y);
+              const auto [x, y] = page.GetCurPos();
               EXPECT_EQ(x, 3);
               EXPECT_EQ(y, 4);
               EXPECT_EQ(page.GraphicsState()->LineWidth(), 1);
@@ -388,9 +382,7 @@ TEST(DrawLine, FailureDoesNotMoveThePen) {
 TEST(SetCurPos, AppendsNothingAndIsRead) {
   EXPECT_EQ(ContentAfter([](PDFPage& page) {
               page.SetCurPos(7.5F, -3);
-              float x = 0;
-              float y = 0;
-              page.GetCurPos(x, y);
+              const auto [x, y] = page.GetCurPos();
               EXPECT_EQ(x, 7.5F);
               EXPECT_EQ(y, -3);
             }),
@@ -399,16 +391,16 @@ TEST(SetCurPos, AppendsNothingAndIsRead) {
 
 // Deliberate: the "m" before "re" and the "n" after "f" change nothing.
 TEST(DrawRect, DeliberateMoveBeforeTheRectangleAndEndAfterFilling) {
-  const auto paint = [](bool stroke, bool fill) {
+  const auto operators = [](Paint paint) {
     const std::string content =
-        ContentAfter([&](PDFPage& page) { page.DrawRect(1, 2, 30, 40, stroke, fill); });
+        ContentAfter([&](PDFPage& page) { page.DrawRect(1, 2, 30, 40, paint); });
     EXPECT_TRUE(content.starts_with("1  2  m\n1  2  30  40  re\n")) << content;
     return content.substr(content.find("re\n") + 3);
   };
-  EXPECT_EQ(paint(true, true), "b\n");
-  EXPECT_EQ(paint(true, false), "s\n");
-  EXPECT_EQ(paint(false, true), "f n\n");
-  EXPECT_EQ(paint(false, false), "n\n");
+  EXPECT_EQ(operators(Paint::kStrokeAndFill), "b\n");
+  EXPECT_EQ(operators(Paint::kStroke), "s\n");
+  EXPECT_EQ(operators(Paint::kFill), "f n\n");
+  EXPECT_EQ(operators(Paint::kNone), "n\n");
 }
 
 TEST(DrawRect, StrokesByDefault) {
@@ -448,7 +440,7 @@ std::string ContentWithImage(
 TEST(DrawImage, IsAsLargeAsItsPixelsByDefault) {
   EXPECT_EQ(ContentWithImage([](PDFPage& page, const auto& image) {
               page.DrawImage(image, 72, 600.5F);
-              page.DrawImage(image, 0, 0, {}, {}, false);
+              page.DrawImage(image, 0, 0, {}, {}, AspectRatio::kStretch);
             }),
             "q\n400 0 0 100 72 600.5  cm\n/I1 Do\nQ\n"
             "q\n400 0 0 100 0 0  cm\n/I1 Do\nQ\n");
@@ -470,7 +462,7 @@ TEST(DrawImage, SquareOf400PixelsIn200By100) {
               const auto image = page.ParentDocument()->Images()->Add();
               image->SetFileName(WriteBlankBmp("square.bmp", 400, 400).u8string());
               page.DrawImage(image, 0, 0, 200, 100);
-              page.DrawImage(image, 0, 0, 200, 100, false);
+              page.DrawImage(image, 0, 0, 200, 100, AspectRatio::kStretch);
             }),
             "q\n100 0 0 100 0 0  cm\n/I1 Do\nQ\n"
             "q\n200 0 0 100 0 0  cm\n/I1 Do\nQ\n");
@@ -482,8 +474,8 @@ TEST(DrawImage, OneMeasureMayBeLeftOut) {
               page.DrawImage(image, 0, 0, 200);
               page.DrawImage(image, 0, 0, 2000);
               page.DrawImage(image, 0, 0, {}, 25);
-              page.DrawImage(image, 0, 0, 200, {}, false);
-              page.DrawImage(image, 0, 0, {}, 25, false);
+              page.DrawImage(image, 0, 0, 200, {}, AspectRatio::kStretch);
+              page.DrawImage(image, 0, 0, {}, 25, AspectRatio::kStretch);
             }),
             "q\n200 0 0 50 0 0  cm\n/I1 Do\nQ\n"
             "q\n400 0 0 100 0 0  cm\n/I1 Do\nQ\n"
@@ -495,7 +487,7 @@ TEST(DrawImage, OneMeasureMayBeLeftOut) {
 // As singles 5000.0002 and 5000.0004 would be 5000 and 5000.0005.
 TEST(DrawImage, MeasuresAreNotRoundedToSingles) {
   EXPECT_EQ(ContentWithImage([](PDFPage& page, const auto& image) {
-              page.DrawImage(image, 0, 0, 5000.0002, 5000.0004, false);
+              page.DrawImage(image, 0, 0, 5000.0002, 5000.0004, AspectRatio::kStretch);
               page.DrawImage(image, 0, 0, 5000.0004, 9000);
             }),
             "q\n5000.0002 0 0 5000.0004 0 0  cm\n/I1 Do\nQ\n"
@@ -506,7 +498,7 @@ TEST(DrawImage, MeasuresOf0AndBelowAreTakenAsTheyAre) {
   EXPECT_EQ(ContentWithImage([](PDFPage& page, const auto& image) {
               page.DrawImage(image, 0, 0, 0, 0);
               page.DrawImage(image, 0, 0, 200, -100);
-              page.DrawImage(image, 0, 0, -200, 100, false);
+              page.DrawImage(image, 0, 0, -200, 100, AspectRatio::kStretch);
             }),
             "q\n0 0 0 0 0 0  cm\n/I1 Do\nQ\n"
             "q\n-400 0 0 -100 0 0  cm\n/I1 Do\nQ\n"
@@ -582,7 +574,7 @@ TEST(DrawImage, ImageWithoutAFileHasNoRatio) {
                         Error::kDivisionByZero);
               EXPECT_EQ(ErrorNumberOf([&] { page.DrawImage(image, 0, 0, 10, 10); }),
                         Error::kDivisionByZero);
-              page.DrawImage(image, 0, 0, 10, 20, false);
+              page.DrawImage(image, 0, 0, 10, 20, AspectRatio::kStretch);
               image->SetFileName(WriteBlankBmp("late.bmp", 1, 1).u8string());
             }),
             "q\n10 0 0 20 0 0  cm\n/I1 Do\nQ\n");

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "folivar/base/Internal.h"
 #include "folivar/file/XObject.h"
 #include "folivar/folivar.h"
 
@@ -8,8 +9,8 @@ namespace {
 
 TEST(XObject, IsNamedByItsKeyElseByItsResourceName) {
   const auto document = PDFDocument::Create();
-  EXPECT_EQ(NameOf(*document->Templates()->Add("Logo \u00E9")), "'Logo \u00E9'");
-  EXPECT_EQ(NameOf(*document->Templates()->Add()), "/T2");
+  EXPECT_EQ(document->Templates()->Add("Logo \u00E9")->NameInErrors(Internal()), "'Logo \u00E9'");
+  EXPECT_EQ(document->Templates()->Add()->NameInErrors(Internal()), "/T2");
 }
 
 }  // namespace

@@ -78,13 +78,13 @@ std::vector<Picture> PicturesOf(const std::filesystem::path& pdf, const Style& s
 
 // One page in Liberation Sans; `indent` moves the second line to the right.
 std::filesystem::path WriteLines(const Strings& lines, const Style& style, const std::string& name,
-                                 bool embed = true, float indent = 0) {
+                                 Embedding embedding = Embedding::kEmbed, float indent = 0) {
   const auto document = PDFDocument::Create();
   for (const Style& each : kStyles) {
     const std::string file = std::string("liberation/LiberationSans-") + each.name + ".ttf";
     document->FontFiles()->AddFile(PackagedFont(file).u8string());
   }
-  const auto font = document->Fonts()->Add("Liberation Sans", fontTrueType, embed);
+  const auto font = document->Fonts()->Add("Liberation Sans", fontTrueType, embedding);
   if (style.isBold) font->SetBold(true);
   if (style.isItalic) font->SetItalic(true);
   font->SetSize(14);
@@ -124,7 +124,7 @@ TEST_P(EmbeddedText, IsInAnEmbeddedFont) {
   };
   EXPECT_EQ(rowOf(WriteLines(kLines, GetParam(), "embedded.pdf")),
             (Strings{"TrueType", "WinAnsi", "yes"}));
-  EXPECT_EQ(rowOf(WriteLines(kLines, GetParam(), "named.pdf", false)),
+  EXPECT_EQ(rowOf(WriteLines(kLines, GetParam(), "named.pdf", Embedding::kNone)),
             (Strings{"TrueType", "WinAnsi", "no"}));
 }
 
@@ -148,7 +148,7 @@ TEST_P(EmbeddedText, WouldBeSeenToDifferByOneWrongGlyphOrHalfAPoint) {
   const auto right = PicturesOf(WriteLines(kLines, GetParam(), "right.pdf"), GetParam());
   for (const auto& pdf : {WriteLines(with("cr\u00E9me", "cr\u00E8me"), GetParam(), "accent.pdf"),
                           WriteLines(with("\u201DZ", "\u201CZ"), GetParam(), "quotation-mark.pdf"),
-                          WriteLines(kLines, GetParam(), "shifted.pdf", true, 0.5F)}) {
+                          WriteLines(kLines, GetParam(), "shifted.pdf", Embedding::kEmbed, 0.5F)}) {
     const auto wrong = PicturesOf(pdf, GetParam());
     for (const auto& ours : right) {
       for (const auto& other : wrong) {

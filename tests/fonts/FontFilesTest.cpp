@@ -21,7 +21,7 @@ namespace {
 
 using std::filesystem::path;
 
-const PDFFontInfo& RecordOf(const FaceUser& font) { return *font.FontInfo(Internal()); }
+const PDFFontInfo& RecordOf(const PDFFont& font) { return *font.FontInfo(Internal()); }
 
 const path& Regular() {
   static const path file = PackagedFont("liberation/LiberationSans-Regular.ttf");
@@ -162,7 +162,8 @@ TEST_F(FontFilesOfADocument, ARelativeNameStaysGoodWhenTheWorkingFolderChanges) 
   std::filesystem::current_path(file.parent_path());
   files_->AddFile("sans.ttf");
   std::filesystem::current_path(before);
-  EXPECT_EQ(fonts_->Add("Liberation Sans", fontTrueType, true)->FontFace(), "Liberation Sans");
+  EXPECT_EQ(fonts_->Add("Liberation Sans", fontTrueType, Embedding::kEmbed)->FontFace(),
+            "Liberation Sans");
 }
 
 TEST_F(FontFilesOfADocument, NamesThatNoFileCanHaveRaise52) {
@@ -195,7 +196,7 @@ TEST_F(FontFilesOfADocument, AFamilyWhoseFileHasGoneIsNotListedAsEmbeddable) {
   files_->AddFile(file.u8string());
   files_->AddFile(PackagedFont("dejavu/DejaVuSans.ttf").u8string());
   remove(file);
-  const std::vector<Text> names = fonts_->AvailableFonts(fontTrueType, true);
+  const std::vector<Text> names = fonts_->AvailableFonts(fontTrueType, Embedding::kEmbed);
   ASSERT_EQ(names.size(), 1U);
   EXPECT_EQ(names[0], "DejaVu Sans");
 }
@@ -217,7 +218,7 @@ TEST_F(FontFilesOfADocument, AFileThatIsGoneWhenItsFaceIsAddedRaises53AndNamesIt
   copy_file(Regular(), file);
   files_->AddFile(file.u8string());
   remove(file);
-  const auto add = [&] { fonts_->Add("Liberation Sans", fontTrueType, true); };
+  const auto add = [&] { fonts_->Add("Liberation Sans", fontTrueType, Embedding::kEmbed); };
   EXPECT_EQ(ErrorNumberOf(add), Error::kFileNotFound);
   EXPECT_NE(ErrorTextOf(add).find("'" + file.string() + "'"), std::string::npos);
   EXPECT_EQ(fonts_->count(fontTrueType), 0);
@@ -236,10 +237,10 @@ TEST_F(FontFilesOfADocument, AFontThatForbidsEmbeddingWarnsAndIsNotEmbedded) {
   WriteBytes(file, bytes);
   files_->AddFile(file.u8string());
 
-  EXPECT_TRUE(fonts_->AvailableFonts(fontTrueType, true).empty());
+  EXPECT_TRUE(fonts_->AvailableFonts(fontTrueType, Embedding::kEmbed).empty());
   EXPECT_EQ(fonts_->AvailableFonts(fontTrueType).size(), 1U);
   const auto page = document_->Pages()->Add();
-  page->SetFont(fonts_->Add("Liberation Sans", fontTrueType, true));
+  page->SetFont(fonts_->Add("Liberation Sans", fontTrueType, Embedding::kEmbed));
   page->DrawText("Not embedded", 72, 700);
   EXPECT_EQ(warnings_, std::vector<std::string>{"WARNING: Font Liberation Sans is not licensed for "
                                                 "embedding.  The font will not be embedded in the "
@@ -250,7 +251,7 @@ TEST_F(FontFilesOfADocument, AFontThatForbidsEmbeddingWarnsAndIsNotEmbedded) {
 
 TEST_F(FontFilesOfADocument, TheEmbeddedProgramIsTheFileItself) {
   files_->AddFile(Regular().u8string());
-  fonts_->Add("Liberation Sans", fontTrueType, true);
+  fonts_->Add("Liberation Sans", fontTrueType, Embedding::kEmbed);
   const SavedDocument saved = Save(*document_, "embedded.pdf");
   // Catalog, outline, page tree, Helvetica; then face, descriptor and program.
   EXPECT_EQ(saved.pdf.Stream(7), ReadBytes(Regular()));

@@ -21,11 +21,9 @@ TEST(PDFFontInfo, MeasuresNothingOfAnEmptyText) {
   const auto info = Loaded("Helvetica");
   EXPECT_EQ(info->MeasureWidth(""), 0);
   EXPECT_EQ(info->MeasureHeight(""), 0);
-  float width = 1;
-  float height = 1;
-  info->MeasureExtents("", width, height);
-  EXPECT_EQ(width, 0);
-  EXPECT_EQ(height, 0);
+  const TextExtents extents = info->MeasureExtents("");
+  EXPECT_EQ(extents.width, 0);
+  EXPECT_EQ(extents.height, 0);
 }
 
 TEST(PDFFontInfo, TheFacesHeightIsThatOfItsBox) {
@@ -75,9 +73,7 @@ TEST_P(PDFFontInfos, MeasureEveryGlyphAsInTheirFiles) {
     const AfmFile::Glyph glyph =
         row == expected.glyphs.end() ? AfmFile::Glyph{0, {0, 0, 0, 0}} : row->second;
     const std::string text(1, static_cast<char>(code));
-    float width = 0;
-    float height = 0;
-    info->MeasureExtents(text, width, height);
+    const auto [width, height] = info->MeasureExtents(text);
     EXPECT_EQ(width, glyph.width) << code;
     EXPECT_EQ(height, std::max(0.0F, glyph.box[3]) - std::min(0.0F, glyph.box[1])) << code;
     EXPECT_EQ(info->MeasureWidth(text), width) << code;
@@ -90,9 +86,9 @@ INSTANTIATE_TEST_SUITE_P(StandardFaces, PDFFontInfos, testing::ValuesIn(kStandar
 
 TEST(PDFFontInfo, HasANumberForTheSave) {
   const auto info = Loaded("Courier");
-  EXPECT_EQ(info->ObjectNumber(), 0);
-  info->SetObjectNumber(7);
-  EXPECT_EQ(info->ObjectNumber(), 7);
+  EXPECT_TRUE(info->ObjectNumber().IsNone());
+  info->SetObjectNumber(Reference(7));
+  EXPECT_EQ(info->ObjectNumber().Number(), 7);
 }
 
 TEST(PDFFontInfo, BaseFontNamesHaveNoBlanksAndEndWithTheStyle) {

@@ -18,7 +18,7 @@
 namespace folivar::test {
 namespace {
 
-const PDFFontInfo* RecordOf(const FaceUser& font) { return font.FontInfo(Internal()).get(); }
+const PDFFontInfo* RecordOf(const PDFFont& font) { return font.FontInfo(Internal()).get(); }
 
 class PDFFontsOfADocument : public testing::Test {
  protected:

@@ -24,7 +24,7 @@ TEST(StandardFaceWriter, NumbersTheRecordInEverySave) {
   ObjectNumbers numbers;
   for (const int expected : {1, 2}) {
     writer.NumberObjects(numbers);
-    EXPECT_EQ(face->ObjectNumber(), expected);
+    EXPECT_EQ(face->ObjectNumber().Number(), expected);
   }
   EXPECT_EQ(numbers.NextObjectNumber(), 3);
 }

@@ -73,7 +73,7 @@ TEST_F(TrueTypeFaceWriters, NumbersTheRecordInEverySave) {
   ObjectNumbers numbers;
   for (const int expected : {1, 4}) {
     writer.NumberObjects(numbers);
-    EXPECT_EQ(face->ObjectNumber(), expected);
+    EXPECT_EQ(face->ObjectNumber().Number(), expected);
   }
   EXPECT_EQ(numbers.NextObjectNumber(), 7);
 }

@@ -17,7 +17,7 @@
 namespace folivar::test {
 namespace {
 
-const PDFFontInfo& RecordOf(const FaceUser& font) { return *font.FontInfo(Internal()); }
+const PDFFontInfo& RecordOf(const PDFFont& font) { return *font.FontInfo(Internal()); }
 
 // A document on a system with the families "Test Sans" (four styles) and "Plain" (one).
 class TrueTypeFaces : public testing::Test {
@@ -40,12 +40,14 @@ class TrueTypeFaces : public testing::Test {
 
   FakeFace& Plain() { return system_->faces["Plain"]; }
 
-  std::shared_ptr<PDFFont> Add(TextView name, bool embed = false) {
-    return fonts_->Add(name, fontTrueType, embed);
+  std::shared_ptr<PDFFont> Add(TextView name, Embedding embedding = Embedding::kNone) {
+    return fonts_->Add(name, fontTrueType, embedding);
   }
 
   // The record of the family "Plain", once it is as the test wants it.
-  const PDFFontInfo& PlainRecord(bool embed = false) { return RecordOf(*Add("Plain", embed)); }
+  const PDFFontInfo& PlainRecord(Embedding embedding = Embedding::kNone) {
+    return RecordOf(*Add("Plain", embedding));
+  }
 
   std::shared_ptr<FakeFonts> system_ = std::make_shared<FakeFonts>();
   std::vector<std::string> warnings_;
@@ -64,13 +66,13 @@ TEST_F(TrueTypeFaces, ATextHasNoHeightButTheFaceHas) {
 
 TEST_F(TrueTypeFaces, AFaceThatMayNotBeEmbeddedWarnsOnceAndIsWrittenWithoutItsProgram) {
   Plain().SetU16("OS/2", 8, 2);
-  const PDFFontInfo& record = PlainRecord(true);
+  const PDFFontInfo& record = PlainRecord(Embedding::kEmbed);
   EXPECT_FALSE(record.m_Embeddable);
   EXPECT_FALSE(record.m_EmbedFont);
   EXPECT_EQ(warnings_, std::vector<std::string>{
                            "WARNING: Font Plain is not licensed for embedding.  The font will not "
                            "be embedded in the PDF file."});
-  Add("Plain", true);
+  Add("Plain", Embedding::kEmbed);
   EXPECT_EQ(warnings_.size(), 1U) << "the second time it is there already";
   EXPECT_EQ(Save(*document_, "restricted.pdf").pdf.Count(), 6U);
 }
@@ -127,7 +129,7 @@ TEST_F(TrueTypeFaces, NamesAreFoundWithoutRegardToBlanks) {
 // Deliberate: the face keeps what it was added with.
 TEST_F(TrueTypeFaces, DeliberateAddingAgainWithEmbedDoesNotEmbed) {
   Add("Plain");
-  EXPECT_FALSE(RecordOf(*Add("Plain", true)).m_EmbedFont);
+  EXPECT_FALSE(RecordOf(*Add("Plain", Embedding::kEmbed)).m_EmbedFont);
 }
 
 TEST_F(TrueTypeFaces, ResourceNamesCountBothTypesTogether) {
@@ -139,7 +141,7 @@ TEST_F(TrueTypeFaces, ResourceNamesCountBothTypesTogether) {
 }
 
 TEST_F(TrueTypeFaces, BoldAndItalicChangeToTheStyledFace) {
-  const auto font = Add("Test Sans", true);
+  const auto font = Add("Test Sans", Embedding::kEmbed);
   const PDFFontInfo& upright = RecordOf(*font);
   font->SetSize(17);
   font->SetUnderline(true);
@@ -204,7 +206,7 @@ TEST_F(TrueTypeFaces, AFamilyWithoutTheStyleGetsARecordOfItsOwn) {
 
 TEST_F(TrueTypeFaces, AStyleOfAFaceThatMayNotBeEmbeddedIsNotTriedAgain) {
   Plain().SetU16("OS/2", 8, 2);
-  const auto font = Add("Plain", true);
+  const auto font = Add("Plain", Embedding::kEmbed);
   font->SetBold(true);
   EXPECT_EQ(warnings_.size(), 1U);
   EXPECT_FALSE(RecordOf(*font).m_EmbedFont);
@@ -236,7 +238,7 @@ TEST_F(TrueTypeFaces, WhatAWarningThrowsLeavesFontAndDocumentAsTheyWere) {
   const auto fonts = document->Fonts();
   EXPECT_THROW(fonts->Add("Arial", fontTrueType), std::logic_error);
   EXPECT_EQ(fonts->count(fontTrueType), 0);
-  const auto font = fonts->Add("Plain", fontTrueType, true);
+  const auto font = fonts->Add("Plain", fontTrueType, Embedding::kEmbed);
   system_->faces["Plain,Bold"] = Plain();
   system_->faces["Plain,Bold"].SetU16("OS/2", 8, 2);
   EXPECT_THROW(font->SetBold(true), std::logic_error);
@@ -251,16 +253,17 @@ TEST_F(TrueTypeFaces, AvailableFontsAreSortedAndEachComesOnce) {
   // The upright face decides.
   system_->faces["Beta,Bold"] = system_->faces["Zapf"];
   system_->faces["Beta,Bold"].name = "Beta";
-  const auto names = [&](bool embeddable) {
+  const auto names = [&](Embedding embedding) {
     std::vector<std::string> utf8;
-    for (const Text& name : fonts_->AvailableFonts(fontTrueType, embeddable)) {
+    for (const Text& name : fonts_->AvailableFonts(fontTrueType, embedding)) {
       utf8.push_back(name.Utf8());
     }
     return utf8;
   };
-  EXPECT_EQ(names(false),
+  EXPECT_EQ(names(Embedding::kNone),
             (std::vector<std::string>{"arial", "Beta", "Plain", "Test Sans", "Zapf"}));
-  EXPECT_EQ(names(true), (std::vector<std::string>{"arial", "Beta", "Plain", "Test Sans"}));
+  EXPECT_EQ(names(Embedding::kEmbed),
+            (std::vector<std::string>{"arial", "Beta", "Plain", "Test Sans"}));
   EXPECT_TRUE(warnings_.empty());
   EXPECT_EQ(fonts_->count(fontTrueType), 0);
 }
@@ -276,7 +279,7 @@ TEST_F(TrueTypeFaces, FaceDescriptorAndProgramAreWrittenAsSpecified) {
   face.SetU16("head", 40, 1050);
   face.SetU16("head", 42, 910);
   face.SetU16("PCLT", 16, 1409);
-  const auto font = Add("Test Sans", true);
+  const auto font = Add("Test Sans", Embedding::kEmbed);
   font->SetBold(true);
   const SavedDocument saved = Save(*document_, "faces.txt", Check::kForm);
   // Catalog, outline, page tree, Helvetica, then three objects for each face.
@@ -364,7 +367,7 @@ TEST_F(TrueTypeFaces, AnAwkwardNameStaysOneName) {
 
 TEST_F(TrueTypeFaces, AProgramThatCannotBeHadIsNotWritten) {
   Plain().program.clear();
-  Add("Plain", true);
+  Add("Plain", Embedding::kEmbed);
   EXPECT_EQ(Save(*document_, "none.pdf").pdf.Count(), 6U);
 }
 

@@ -125,7 +125,7 @@ TEST_F(PDFImageInADocument, Golden) {
   page->SetThumbnail(grey);
   page->DrawImage(indexed, 72, 600, 60, 60);
   page->DrawImage(image_, 72, 500, 90, 90);
-  page->DrawImage(image_, 72, 400, 90, 90, false);
+  page->DrawImage(image_, 72, 400, 90, 90, AspectRatio::kStretch);
   page->DrawImage(grey, 72.5F, 300.25F);
   document_->Pages()->Add()->DrawImage(image_, 0, 0);
   ExpectGolden("images.pdf", Save(*document_, "images.pdf").bytes);

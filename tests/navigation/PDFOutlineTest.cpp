@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "folivar/base/Internal.h"
 #include "folivar/file/ObjectNumbers.h"
 #include "folivar/file/SaveFile.h"
 #include "folivar/folivar.h"
@@ -155,12 +156,12 @@ void Build(const Forest& forest, PDFBookmarks& bookmarks) {
 // The objects of an outline that is numbered from 1.
 StrictPdf WrittenAlone(PDFOutline& outline) {
   ObjectNumbers numbers;
-  outline.NumberObjects(numbers);
+  outline.NumberObjects(Internal(), numbers);
   MemorySink sink;
   SaveFile file(sink);
-  outline.WriteObjects(file);
+  outline.WriteObjects(Internal(), file);
   EXPECT_EQ(numbers.NextObjectNumber(), static_cast<int>(file.ObjectCount()) + 1);
-  file.Finish(1);
+  file.Finish(Reference(1));
   return StrictPdf(sink.Bytes());
 }
 

@@ -26,11 +26,7 @@ TEST(PDFPage, StartsAsLetterInTheDefaultFontWithoutAClipBox) {
   EXPECT_EQ(page->Font()->Size(), 10);
   EXPECT_EQ(page->ParentDocument(), document);
   EXPECT_TRUE(page->Tag().IsEmpty());
-  float left = 0;
-  float bottom = 0;
-  float right = 0;
-  float top = 0;
-  page->GetClipBox(left, bottom, right, top);
+  const auto [left, bottom, right, top] = page->GetClipBox();
   EXPECT_EQ(left, -1);
   EXPECT_EQ(bottom, -1);
   EXPECT_EQ(right, -1);

@@ -27,18 +27,9 @@ constexpr float kInfinity = std::numeric_limits<float>::infinity();
 constexpr float kNotANumber = std::numeric_limits<float>::quiet_NaN();
 constexpr float kLargest = std::numeric_limits<float>::max();
 
-struct Edges {
-  float left = 0;
-  float bottom = 0;
-  float right = 0;
-  float top = 0;
-};
+using Edges = ClipBox;
 
-Edges EdgesOf(const PDFTemplate& drawn) {
-  Edges edges;
-  drawn.GetClipBox(edges.left, edges.bottom, edges.right, edges.top);
-  return edges;
-}
+Edges EdgesOf(const PDFTemplate& drawn) { return drawn.GetClipBox(); }
 
 void ExpectEdges(const PDFTemplate& drawn, const Edges& expected) {
   const Edges edges = EdgesOf(drawn);
@@ -89,11 +80,8 @@ TEST(PDFTemplate, StartsEmptyInTheDefaultFont) {
   EXPECT_TRUE(drawn->Tag().IsEmpty());
   EXPECT_EQ(drawn->GraphicsState(), drawn->GraphicsState());
   EXPECT_EQ(drawn->GraphicsState()->LineWidth(), 1);
-  float x = 1;
-  float y = 1;
-  drawn->GetCurPos(x, y);
-  EXPECT_EQ(x, 0);
-  EXPECT_EQ(y, 0);
+  EXPECT_EQ(drawn->GetCurPos().x, 0);
+  EXPECT_EQ(drawn->GetCurPos().y, 0);
 }
 
 TEST(PDFTemplate, EmptyTemplateIsOneObject) {
@@ -231,7 +219,7 @@ TEST(PDFTemplate, MovingThePenGrowsNothing) {
 
 TEST(PDFTemplate, RectanglesGrowTheBoxByTwoCorners) {
   ExpectBoxAround([](PDFTemplate& drawn) { drawn.DrawRect(10, 20, 100, 50); }, {10, 20, 110, 70});
-  ExpectBoxAround([](PDFTemplate& drawn) { drawn.DrawRect(10, 20, -100, -50, false, false); },
+  ExpectBoxAround([](PDFTemplate& drawn) { drawn.DrawRect(10, 20, -100, -50, Paint::kNone); },
                   {-90, -30, 10, 20});
 }
 
@@ -249,10 +237,14 @@ TEST(PDFTemplate, ImagesGrowTheBoxByTwoCorners) {
   expectBox([&](PDFTemplate& drawn) { drawn.DrawImage(image, 10, 20); }, {10, 20, 410, 120});
   expectBox([&](PDFTemplate& drawn) { drawn.DrawImage(image, 10, 20, 200, 100); },
             {10, 20, 210, 70});
-  expectBox([&](PDFTemplate& drawn) { drawn.DrawImage(image, 10, 20, -200, 100.5, false); },
-            {-190, 20, 10, 120.5F});
-  expectBox([&](PDFTemplate& drawn) { drawn.DrawImage(image, 0.1F, 0, 0.2, 0.2, false); },
-            {0.1F, 0, 0.3F, 0.2F});
+  expectBox(
+      [&](PDFTemplate& drawn) {
+        drawn.DrawImage(image, 10, 20, -200, 100.5, AspectRatio::kStretch);
+      },
+      {-190, 20, 10, 120.5F});
+  expectBox(
+      [&](PDFTemplate& drawn) { drawn.DrawImage(image, 0.1F, 0, 0.2, 0.2, AspectRatio::kStretch); },
+      {0.1F, 0, 0.3F, 0.2F});
 }
 
 TEST(PDFTemplate, ImageIsDrawnAsOnAPage) {
@@ -389,11 +381,8 @@ TEST(PDFTemplate, FailedDrawingAppendsNothingAndGrowsNothing) {
   EXPECT_EQ(ErrorNumberOf([&] { drawn->DrawText("AAAAAAAAAAAAAAAAAAAAAAA", 2147483520.0F, -500); }),
             Error::kOverflow);
   ExpectEdges(*drawn, {0, 0, 0, 0});
-  float x = 0;
-  float y = 0;
-  drawn->GetCurPos(x, y);
-  EXPECT_EQ(x, 7);
-  EXPECT_EQ(y, 8);
+  EXPECT_EQ(drawn->GetCurPos().x, 7);
+  EXPECT_EQ(drawn->GetCurPos().y, 8);
   EXPECT_EQ(Save(*document, "nothing.pdf", Check::kForm).pdf.Stream(4), "q\nQ\n");
 }
 
@@ -455,9 +444,9 @@ TEST(PDFTemplate, EveryOperationWritesItsOperators) {
               drawn.DrawLine(10, 20, 30, 40);
               drawn.DrawLineTo(50, 60);
               drawn.DrawRect(1, 2, 3, 4);
-              drawn.DrawRect(1, 2, 3, 4, true, true);
-              drawn.DrawRect(1, 2, 3, 4, false, true);
-              drawn.DrawRect(1, 2, 3, 4, false, false);
+              drawn.DrawRect(1, 2, 3, 4, Paint::kStrokeAndFill);
+              drawn.DrawRect(1, 2, 3, 4, Paint::kFill);
+              drawn.DrawRect(1, 2, 3, 4, Paint::kNone);
               drawn.DrawLineTo(0, 0);
             }),
             "q\nBT\n/F0 10  Tf\n1  2  Td\n11.56  TL\n(one) Tj\nT*\n(two) Tj\nET\n"
@@ -569,9 +558,9 @@ void DrawCard(Target& target, PDFDocument& document) {
   state->SetFillColor(0xC0E0FF);
   state->SetStrokeColor(0x802000);
   state->SetLineWidth(3);
-  target.DrawRect(4, 4, 190, 140, true, true);
+  target.DrawRect(4, 4, 190, 140, Paint::kStrokeAndFill);
   state->Pop();
-  target.DrawRect(0, 0, 200, 150, false, false);  // room for the thick line
+  target.DrawRect(0, 0, 200, 150, Paint::kNone);  // room for the thick line
   const auto font = document.Fonts()->Add("Times-Italic");
   font->SetSize(20);
   font->SetUnderline(true);
@@ -647,19 +636,19 @@ TEST_F(PDFTemplatePictures, PlacedTemplatesLookLikeMovedDrawings) {
 TEST_F(PDFTemplatePictures, TemplateTakesThePagesStateAndLeavesItAsItWas) {
   const SavedDocument placed = Drawn("placed.pdf", [](PDFPage& page, PDFDocument& document) {
     const auto squares = document.Templates()->Add();
-    squares->DrawRect(10, 10, 50, 50, false, true);
+    squares->DrawRect(10, 10, 50, 50, Paint::kFill);
     squares->GraphicsState()->SetFillColor(0x00FF00);
-    squares->DrawRect(70, 10, 50, 50, false, true);
+    squares->DrawRect(70, 10, 50, 50, Paint::kFill);
     page.GraphicsState()->SetFillColor(0x0000FF);
     page.DrawTemplate(squares);
-    page.DrawRect(130, 10, 50, 50, false, true);
+    page.DrawRect(130, 10, 50, 50, Paint::kFill);
   });
   const SavedDocument direct = Drawn("direct.pdf", [](PDFPage& page, PDFDocument&) {
     page.GraphicsState()->SetFillColor(0x0000FF);
-    page.DrawRect(10, 10, 50, 50, false, true);
-    page.DrawRect(130, 10, 50, 50, false, true);
+    page.DrawRect(10, 10, 50, 50, Paint::kFill);
+    page.DrawRect(130, 10, 50, 50, Paint::kFill);
     page.GraphicsState()->SetFillColor(0x00FF00);
-    page.DrawRect(70, 10, 50, 50, false, true);
+    page.DrawRect(70, 10, 50, 50, Paint::kFill);
   });
   ExpectSamePictures(placed, direct, Blank(), 72);
 }
@@ -669,7 +658,7 @@ TEST_F(PDFTemplatePictures, TemplateTakesThePagesStateAndLeavesItAsItWas) {
 TEST_F(PDFTemplatePictures, NothingShowsOutsideTheClipBox) {
   const SavedDocument placed = Drawn("placed.pdf", [](PDFPage& page, PDFDocument& document) {
     const auto square = document.Templates()->Add();
-    square->DrawRect(0, 0, 100, 100, false, true);
+    square->DrawRect(0, 0, 100, 100, Paint::kFill);
     square->SetClipBox(20, 30, 60, 90);
     page.DrawTemplate(square, 50, 50);
   });

@@ -14,7 +14,7 @@ TEST(Picture, IsTheFirstPageInColour) {
   const auto page = document->Pages()->Add();
   page->SetPageExtents(8, 4);
   page->GraphicsState()->SetFillColor(0x0000FF);
-  page->DrawRect(-1, -1, 9, 9, false, true);
+  page->DrawRect(-1, -1, 9, 9, Paint::kFill);
   document->Pages()->Add();
   const auto path = OutputPath("red.pdf");
   document->SavePDFFile(path.u8string());

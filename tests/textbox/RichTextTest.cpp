@@ -76,7 +76,8 @@ RichText TextInRuns(const Lengths& lengths) {
 // now failed.
 RichText TextBeyondItsRuns() {
   RichText text = TextInRuns({4, 1, 2});
-  EXPECT_EQ(ErrorNumberOf([&] { text.SetText(std::string(20, 'x')); }), Error::kSubscriptOutOfRange);
+  EXPECT_EQ(ErrorNumberOf([&] { text.SetText(std::string(20, 'x')); }),
+            Error::kSubscriptOutOfRange);
   EXPECT_EQ(LengthsOf(text), (Lengths{4, 2}));
   return text;
 }
@@ -180,7 +181,8 @@ TEST(RichText, DeliberateAValueThatIsNoFormatRaisesWithTheRunsSplit) {
   EXPECT_EQ(ErrorNumberOf([&] { text.SetSelColor("red"); }), Error::kTypeMismatch);
   EXPECT_EQ(LengthsOf(text), (Lengths{2, 2, 6}));
   Select(text, 6, 7);
-  EXPECT_EQ(ErrorNumberOf([&] { text.SetSelFlag(&PDFFont::SetUnderline, Value::Null()); }), Error::kInvalidNull);
+  EXPECT_EQ(ErrorNumberOf([&] { text.SetSelFlag(&PDFFont::SetUnderline, Value::Null()); }),
+            Error::kInvalidNull);
   EXPECT_EQ(LengthsOf(text), (Lengths{2, 2, 2, 1, 3}));
   EXPECT_EQ(ColorsOf(text), Colors(5, 0));
 }
@@ -238,7 +240,8 @@ TEST(RichText, ANewTextIsOneRunInTheFirstFormat) {
 TEST(RichText, DeliberateANewTextForThreeRunsOrMoreRemovesEveryOtherAndRaises9) {
   for (std::size_t count = 3; count <= 600; count += count < 8 ? 1 : 148) {
     RichText text = TextInRuns(Lengths(count, 2));
-    EXPECT_EQ(ErrorNumberOf([&] { text.SetText("7 units"); }), Error::kSubscriptOutOfRange) << count;
+    EXPECT_EQ(ErrorNumberOf([&] { text.SetText("7 units"); }), Error::kSubscriptOutOfRange)
+        << count;
     // As removing numbers 2, 3, ... one at a time leaves them.
     Colors colors;
     for (std::size_t color = 0; color < count; ++color) {

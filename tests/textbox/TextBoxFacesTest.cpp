@@ -146,8 +146,7 @@ TEST(TextBoxFaces, EveryFaceUsedIsListedInOrderAndEmbedded) {
         PackagedFont("liberation/LiberationSans-" + std::string(style) + ".ttf").u8string());
   }
   const auto page = document->Pages()->Add();
-  const bool embed = true;
-  page->SetFont(document->Fonts()->Add("Liberation Sans", fontTrueType, embed));
+  page->SetFont(document->Fonts()->Add("Liberation Sans", fontTrueType, Embedding::kEmbed));
   const auto box = page->TextBoxes()->Add();
   box->Move(72, 700, 300, 100);
   box->SetText("upright both bold light");

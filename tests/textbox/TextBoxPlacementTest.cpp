@@ -104,9 +104,9 @@ double LeadingOf(const Style& style) { return MetricsOf(style).leading * style.s
 
 // Upright and light for TrueType styles: SetStyle does the rest.
 std::shared_ptr<PDFFont> PlainFontOf(PDFDocument& document, const Style& style) {
-  const bool embed = true;
-  return style.isTrueType ? document.Fonts()->Add("Liberation Serif", fontTrueType, embed)
-                          : document.Fonts()->Add(style.face);
+  return style.isTrueType
+             ? document.Fonts()->Add("Liberation Serif", fontTrueType, Embedding::kEmbed)
+             : document.Fonts()->Add(style.face);
 }
 
 // A word, where it begins and ends, and how far its top is from the top of the page.

@@ -169,10 +169,7 @@ TEST(TextLayout, ALineIsMeasuredOverItsFonts) {
   EXPECT_FLOAT_EQ(line.width, 19.46F + 12 + 8.34F);
   EXPECT_FLOAT_EQ(line.leading, 21.1F);
   EXPECT_FLOAT_EQ(line.bottom, -5.0F);
-  float width = 0;
-  float height = 0;
-  large->GetTextExtents("b", width, height);
-  EXPECT_EQ(line.height, height);
+  EXPECT_EQ(line.height, large->GetTextExtents("b").height);
   const LineMeasures first = laid.Layout().MeasureLine(0, 4);
   EXPECT_FLOAT_EQ(first.leading, 11.56F);
   EXPECT_FLOAT_EQ(first.bottom, -2.25F);
@@ -260,11 +257,11 @@ TEST(TextLayout, ADecoratedRunMarksItsLines) {
 
 TEST(TextLayout, MeasuresAllLinesTogether) {
   const Laid laid({{"one two "}, {"three", StandardFont("Courier")}}, 50);
-  const TextExtents extents = laid.Layout().Measure();
+  const AllExtents extents = laid.Layout().Measure();
   EXPECT_FLOAT_EQ(extents.width, 37.8F);
   EXPECT_FLOAT_EQ(extents.leadings, 11.56F + 10.55F);
   EXPECT_FLOAT_EQ(extents.bottom, -2.5F) << "of the last line";
-  const TextExtents none = Laid({{""}}).Layout().Measure();
+  const AllExtents none = Laid({{""}}).Layout().Measure();
   EXPECT_EQ(none.width, 0);
   EXPECT_EQ(none.leadings, 0);
   EXPECT_EQ(none.bottom, 0);

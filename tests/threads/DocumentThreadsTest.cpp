@@ -25,7 +25,7 @@ void WriteDocument(const std::u16string& path, const std::shared_ptr<FontFiles>&
   const auto document = PDFDocument::Create({Warnings::To([](const Text&) {}), nullptr, fontFiles});
   fontFiles->AddFile(PackagedFont("liberation/LiberationSerif-Regular.ttf").u8string());
   for (const char* name : {"Liberation Sans", "Liberation Serif"}) {
-    const auto font = document->Fonts()->Add(name, fontTrueType, true);
+    const auto font = document->Fonts()->Add(name, fontTrueType, Embedding::kEmbed);
     font->SetBold(true);
     const auto page = document->Pages()->Add();
     page->SetFont(font);

@@ -57,14 +57,15 @@ void DrawStyle(folivar::PDFPage& page, const std::shared_ptr<folivar::PDFFont>& 
   page.DrawText(EveryCharacter().back(), 36, y);
 }
 
-void SaveSpecimen(const std::string& family, bool embed, const std::string& fileName,
-                  const folivar::Platform& platform) {
+void SaveSpecimen(const std::string& family, folivar::Embedding embedding,
+                  const std::string& fileName, const folivar::Platform& platform) {
   const auto document = folivar::PDFDocument::Create(platform);
   const auto page = document->Pages()->Add();
   float top = 720;
   for (const bool isBold : {false, true}) {
     for (const bool isItalic : {false, true}) {
-      DrawStyle(*page, document->Fonts()->Add(family, fontTrueType, embed), isBold, isItalic, top);
+      DrawStyle(*page, document->Fonts()->Add(family, fontTrueType, embedding), isBold, isItalic,
+                top);
       top -= 180;
     }
   }
@@ -103,17 +104,17 @@ void WriteAll(const std::string& folder, const std::vector<std::string>& familie
 
   std::ofstream fonts = Open(folder + "/fonts.txt");
   const auto document = folivar::PDFDocument::Create(platform);
-  for (const bool embeddable : {false, true}) {
-    fonts << (embeddable ? "embeddable:\n" : "all:\n");
-    for (const folivar::Text& name : document->Fonts()->AvailableFonts(fontTrueType, embeddable)) {
+  for (const auto embedding : {folivar::Embedding::kNone, folivar::Embedding::kEmbed}) {
+    fonts << (embedding == folivar::Embedding::kEmbed ? "embeddable:\n" : "all:\n");
+    for (const folivar::Text& name : document->Fonts()->AvailableFonts(fontTrueType, embedding)) {
       fonts << name.Utf8() << '\n';
     }
   }
   ListFiles(folder);
   for (const std::string& family : families) {
     const std::string fileName = folder + "/" + family;
-    SaveSpecimen(family, false, fileName + ".pdf", platform);
-    SaveSpecimen(family, true, fileName + " embedded.pdf", platform);
+    SaveSpecimen(family, folivar::Embedding::kNone, fileName + ".pdf", platform);
+    SaveSpecimen(family, folivar::Embedding::kEmbed, fileName + " embedded.pdf", platform);
   }
 }
 

@@ -13,6 +13,9 @@
 #include "folivar/base/Error.h"
 #include "folivar/base/Text.h"
 #include "folivar/base/Value.h"
+#include "folivar/drawing/AspectRatio.h"
+#include "folivar/drawing/Paint.h"
+#include "folivar/fonts/Embedding.h"
 
 namespace folivar {
 
@@ -65,8 +68,9 @@ class PDFFonts final : public com::Object<_PDFFonts> {
   using Object::Object;
 
   std::shared_ptr<PDFFont> Add(TextView faceName, PDFFontType fontType = fontType1,
-                               bool embed = false) const {
-    return Reach<PDFFont>("Add", &Interface::Add, faceName, fontType, embed);
+                               Embedding embedding = Embedding::kNone) const {
+    return Reach<PDFFont>("Add", &Interface::Add, faceName, fontType,
+                          embedding == Embedding::kEmbed);
   }
 };
 
@@ -171,46 +175,71 @@ class PDFTextBoxes final : public Members<PDFTextBox, _PDFTextBoxes> {
   void Remove(const Value& indexOrKey) const { Call("Remove", &Interface::Remove, indexOrKey); }
 };
 
-// What pages and templates have in common.
+// What is drawn on, whatever its interface.
+class Canvas {
+ public:
+  virtual ~Canvas() = default;
+
+  virtual std::shared_ptr<PDFFont> Font() const = 0;
+  virtual void SetFont(const std::shared_ptr<PDFFont>& font) const = 0;
+  virtual std::shared_ptr<PDFGraphicsState> GraphicsState() const = 0;
+  virtual std::shared_ptr<PDFTextBoxes> TextBoxes() const = 0;
+  virtual void DrawText(TextView text, float x, float y) const = 0;
+  virtual void DrawTextAligned(TextView text, float left, float bottom, float width, float height,
+                               PDFHorzTextAlignment horzAlignment = htaLeft,
+                               PDFVertTextAlignment vertAlignment = vtaBaseline) const = 0;
+  virtual void DrawLine(float x1, float y1, float x2, float y2) const = 0;
+  virtual void DrawRect(float left, float bottom, float width, float height,
+                        Paint paint = Paint::kStroke) const = 0;
+  virtual void DrawImage(const std::shared_ptr<PDFImage>& image, float x, float y,
+                         const Value& width = {}, const Value& height = {},
+                         AspectRatio aspectRatio = AspectRatio::kKeep) const = 0;
+};
+
+// The same members of an interface.
 template <class Itf>
-class Drawn : public com::Object<Itf> {
+class Drawn : public com::Object<Itf>, public Canvas {
  public:
   using com::Object<Itf>::Object;
 
-  std::shared_ptr<PDFFont> Font() const {
+  std::shared_ptr<PDFFont> Font() const override {
     return this->template Reach<PDFFont>("Font", &Itf::get_Font);
   }
-  void SetFont(const std::shared_ptr<PDFFont>& font) const {
+  void SetFont(const std::shared_ptr<PDFFont>& font) const override {
     this->Set("Font", &Itf::putref_Font, font);
   }
   void SetClipBox(float left, float bottom, float right, float top) const {
     this->Call("SetClipBox", &Itf::SetClipBox, left, bottom, right, top);
   }
-  std::shared_ptr<PDFGraphicsState> GraphicsState() const {
+  std::shared_ptr<PDFGraphicsState> GraphicsState() const override {
     return this->template Reach<PDFGraphicsState>("GraphicsState", &Itf::get_GraphicsState);
   }
-  std::shared_ptr<PDFTextBoxes> TextBoxes() const {
+  std::shared_ptr<PDFTextBoxes> TextBoxes() const override {
     return this->template Reach<PDFTextBoxes>("TextBoxes", &Itf::get_TextBoxes);
   }
-  void DrawText(TextView text, float x, float y) const {
+  void DrawText(TextView text, float x, float y) const override {
     this->Call("DrawText", &Itf::DrawText, text, x, y);
   }
   void DrawTextAligned(TextView text, float left, float bottom, float width, float height,
                        PDFHorzTextAlignment horzAlignment = htaLeft,
-                       PDFVertTextAlignment vertAlignment = vtaBaseline) const {
+                       PDFVertTextAlignment vertAlignment = vtaBaseline) const override {
     this->Call("DrawTextAligned", &Itf::DrawTextAligned, text, left, bottom, width, height,
                horzAlignment, vertAlignment);
   }
-  void DrawLine(float x1, float y1, float x2, float y2) const {
+  void DrawLine(float x1, float y1, float x2, float y2) const override {
     this->Call("DrawLine", &Itf::DrawLine, x1, y1, x2, y2);
   }
-  void DrawRect(float left, float bottom, float width, float height, bool stroke = true,
-                bool fill = false) const {
+  void DrawRect(float left, float bottom, float width, float height,
+                Paint paint = Paint::kStroke) const override {
+    const bool stroke = paint == Paint::kStroke || paint == Paint::kStrokeAndFill;
+    const bool fill = paint == Paint::kFill || paint == Paint::kStrokeAndFill;
     this->Call("DrawRect", &Itf::DrawRect, left, bottom, width, height, stroke, fill);
   }
   void DrawImage(const std::shared_ptr<PDFImage>& image, float x, float y, const Value& width = {},
-                 const Value& height = {}, bool maintainAspectRatio = true) const {
-    this->Call("DrawImage", &Itf::DrawImage, image, x, y, width, height, maintainAspectRatio);
+                 const Value& height = {},
+                 AspectRatio aspectRatio = AspectRatio::kKeep) const override {
+    this->Call("DrawImage", &Itf::DrawImage, image, x, y, width, height,
+               aspectRatio == AspectRatio::kKeep);
   }
 };
 

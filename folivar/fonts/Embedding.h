@@ -1,0 +1,8 @@
+#pragma once
+
+namespace folivar {
+
+// Whether a TrueType font's file goes into the PDF.
+enum class Embedding { kNone, kEmbed };
+
+}  // namespace folivar
