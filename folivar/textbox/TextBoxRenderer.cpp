@@ -16,7 +16,7 @@ namespace {
 //   0 0 0 rg
 //   /F0 6.5  Tf
 //   -1  Ts
-std::string BeginningOf(const LaidFormat& format) {
+std::string BeginningOf(const MeasuredFormat& format) {
   const FontMetrics metrics = format.Metrics();
   PDFText text;
   text.Append(FillColorOp(format.Color()), std::string_view(metrics.Face().m_PDFName), " ",
@@ -117,7 +117,7 @@ void TextBoxRenderer::AppendLines(TextLayout& layout) {
 void TextBoxRenderer::AppendLine(const TextLayout& layout, const TextLine& line, Point start) {
   if (line.shift != 0) content_.Append(Real{line.shift}, " 0 Td\n");
   Point place{start.x + static_cast<float>(line.shift), start.y};
-  layout.ForEachSegment(line, [&](std::string_view bytes, const LaidFormat& format) {
+  layout.ForEachSegment(line, [&](std::string_view bytes, const MeasuredFormat& format) {
     AppendSegment(bytes, format);
     if (!line.isDecorated) return;
     const float end = place.x + format.Width(bytes);
@@ -132,7 +132,7 @@ void TextBoxRenderer::AppendLine(const TextLayout& layout, const TextLine& line,
 //   -1  Ts          for sub- and superscript
 //   (text) Tj
 //   0 Ts
-void TextBoxRenderer::AppendSegment(std::string_view bytes, const LaidFormat& format) {
+void TextBoxRenderer::AppendSegment(std::string_view bytes, const MeasuredFormat& format) {
   std::string& beginning = beginnings_[format.Number()];
   if (beginning.empty()) beginning = BeginningOf(format);
   content_.Append(std::string_view(beginning), "(", Escaped{bytes, IsPlain(bytes)}, ") Tj\n");

@@ -10,7 +10,7 @@
 namespace folivar {
 
 class AnsiText;
-class LaidFormat;
+class MeasuredFormat;
 class PDFFont;
 class PDFText;
 class RunList;
@@ -44,7 +44,7 @@ class TextBoxRenderer {
   void AppendPath();
   void AppendLines(TextLayout& layout);
   void AppendLine(const TextLayout& layout, const TextLine& line, Point start);
-  void AppendSegment(std::string_view bytes, const LaidFormat& format);
+  void AppendSegment(std::string_view bytes, const MeasuredFormat& format);
   bool IsPlain(std::string_view bytes);
   void Decorate(const PDFFont& font, Point start, float end);
   void AppendDecorations();

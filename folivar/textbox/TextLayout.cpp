@@ -12,7 +12,7 @@ constexpr std::string_view kWhiteSpace = "\t\n\v\f\r ";
 }  // namespace
 
 TextLayout::TextLayout(std::string_view bytes, const RunList& runs, const TextBoxGeometry& geometry)
-    : bytes_(bytes), runs_(runs, bytes.size()), geometry_(geometry), lineRun_(runs_.begin()) {}
+    : bytes_(bytes), runs_(bytes, runs), geometry_(geometry), lineRun_(runs_.begin()) {}
 
 TextLayout::Cursor TextLayout::CursorAt(std::size_t position) const {
   return position >= lineStart_ ? lineRun_ : runs_.begin();
@@ -25,7 +25,7 @@ void TextLayout::BeginLine(std::size_t start) {
 
 float TextLayout::MeasureRangeWidth(Cursor& cursor, std::size_t start, std::size_t end) const {
   float width = 0;
-  ForEachPiece(cursor, start, end, [&](std::string_view piece, const LaidFormat& format) {
+  ForEachPiece(cursor, start, end, [&](std::string_view piece, const MeasuredFormat& format) {
     if (piece != "\n") width += format.Width(piece);
   });
   return width;
@@ -38,7 +38,7 @@ float TextLayout::MeasureRangeWidth(std::size_t start, std::size_t end) const {
 
 LineMeasures TextLayout::MeasureLine(std::size_t start, std::size_t end) const {
   LineMeasures line;
-  ForEachPiece(start, end, [&](std::string_view piece, const LaidFormat& format) {
+  ForEachPiece(start, end, [&](std::string_view piece, const MeasuredFormat& format) {
     const FontMetrics font = format.Metrics();
     const TextExtents extents = font.Face().MeasureExtents(piece);
     line.width += FontMetrics::Scaled(extents.width, font.EffectiveSize());
@@ -73,7 +73,7 @@ std::size_t TextLayout::FindLineEnd(std::size_t start) {
   std::size_t wordStart = start;
   std::size_t position = start;
   for (auto run = CursorAt(start); position < paragraphEnd; ++run) {
-    const LaidFormat& format = runs_.FormatOf(*run);
+    const MeasuredFormat& format = runs_.FormatOf(*run);
     const std::size_t runEnd = std::min(paragraphEnd, run->end);
     while (position < runEnd) {
       const std::size_t pieceStart = position;
@@ -114,7 +114,7 @@ std::optional<TextLine> TextLayout::NextLine() {
   if (next_ >= bytes_.size()) return std::nullopt;
   BeginLine(next_);
   TextLine line{next_, FindLineEnd(next_), 0, 0, false};
-  ForEachPiece(line.start, line.end, [&](std::string_view, const LaidFormat& format) {
+  ForEachPiece(line.start, line.end, [&](std::string_view, const MeasuredFormat& format) {
     line.leading = MaxOf(line.leading, format.Leading());
     line.isDecorated = line.isDecorated || format.IsDecorated();
   });

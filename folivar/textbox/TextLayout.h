@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "folivar/textbox/LaidRuns.h"
+#include "folivar/textbox/MeasuredRuns.h"
 #include "folivar/textbox/PDFParaAlignment.h"
 #include "folivar/textbox/TextBoxFrame.h"
 
@@ -62,12 +62,12 @@ class TextLayout {
   std::optional<TextLine> NextLine();
 
   // The formats that ForEachSegment tells of.
-  const std::vector<LaidFormat>& Formats() const { return runs_.Formats(); }
+  const std::vector<MeasuredFormat>& Formats() const { return runs_.Formats(); }
 
   // Visits the text of a line as the runs cut it, each piece with its format, without the "\n".
   template <class Visit>
   void ForEachSegment(const TextLine& line, Visit visit) const {
-    ForEachPiece(line.start, line.end, [&](std::string_view piece, const LaidFormat& format) {
+    ForEachPiece(line.start, line.end, [&](std::string_view piece, const MeasuredFormat& format) {
       if (piece.back() == '\n') piece.remove_suffix(1);
       if (!piece.empty()) visit(piece, format);
     });
@@ -77,7 +77,7 @@ class TextLayout {
   AllExtents Measure();
 
  private:
-  using Cursor = LaidRuns::Iterator;
+  using Cursor = MeasuredRuns::Iterator;
 
   // `cursor` is at the run that holds `start`, or before it, and is left at the last one visited.
   template <class Visit>
@@ -100,7 +100,7 @@ class TextLayout {
   std::size_t FindParagraphEnd(std::size_t start);
 
   std::string_view bytes_;
-  const LaidRuns runs_;
+  const MeasuredRuns runs_;
   const TextBoxGeometry& geometry_;
   std::size_t lineStart_ = 0;      // of the line taken last,
   Cursor lineRun_;                 // and the run that holds it

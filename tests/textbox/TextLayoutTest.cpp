@@ -235,7 +235,7 @@ TEST(TextLayout, SegmentsAreCutWhereTheRunChangesAndNowhereElse) {
   TextLayout layout = laid.Layout();
   std::vector<std::string> segments;
   while (const auto line = layout.NextLine()) {
-    layout.ForEachSegment(*line, [&](std::string_view bytes, const LaidFormat& format) {
+    layout.ForEachSegment(*line, [&](std::string_view bytes, const MeasuredFormat& format) {
       segments.push_back(format.Font().FontFace().Utf8() + ":" + std::string(bytes));
     });
   }

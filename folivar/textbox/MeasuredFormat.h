@@ -3,20 +3,19 @@
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
-#include <vector>
 
 #include "folivar/fonts/CharacterTable.h"
 #include "folivar/fonts/FontMetrics.h"
 #include "folivar/fonts/PDFFontInfo.h"
-#include "folivar/textbox/RunList.h"
+#include "folivar/textbox/TEXT_FORMAT_RANGE.h"
 
 namespace folivar {
 
 // The format of some runs, with the measures of its font that laying out asks for again and again.
 // Measures that are beyond a single raise 6 when they are taken down.
-class LaidFormat {
+class MeasuredFormat {
  public:
-  LaidFormat(const TEXT_FORMAT_RANGE& run, std::size_t number);
+  MeasuredFormat(const TEXT_FORMAT_RANGE& run, std::size_t number);
 
   // Its place among the formats of the text, from 0.
   std::size_t Number() const { return number_; }
@@ -49,33 +48,6 @@ class LaidFormat {
   float leading_;
   bool isDecorated_;
   bool isRaisedOrLowered_;
-};
-
-// A run that has text.
-struct LaidRun {
-  std::size_t end;  // of its text
-  std::uint32_t format;
-  PDFParaAlignment alignment;
-};
-
-// The runs of a text: those without text are left out, the last one has all that is left of the
-// text, and what is beyond its end does not count.
-class LaidRuns {
- public:
-  LaidRuns(const RunList& runs, std::size_t textLength);
-
-  using Iterator = std::vector<LaidRun>::const_iterator;
-  Iterator begin() const { return runs_.begin(); }
-
-  // Most runs share one; two may be alike.
-  const std::vector<LaidFormat>& Formats() const { return formats_; }
-  const LaidFormat& FormatOf(const LaidRun& run) const { return formats_[run.format]; }
-
- private:
-  std::size_t FormatOf(const TEXT_FORMAT_RANGE& run);
-
-  std::vector<LaidRun> runs_;
-  std::vector<LaidFormat> formats_;
 };
 
 }  // namespace folivar

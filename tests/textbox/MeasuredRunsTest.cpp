@@ -2,10 +2,11 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <vector>
 
 #include "folivar/base/Error.h"
-#include "folivar/textbox/LaidRuns.h"
+#include "folivar/textbox/MeasuredRuns.h"
 #include "tests/support/Content.h"
 #include "tests/support/StandardFont.h"
 
@@ -26,61 +27,51 @@ RunList ListOf(std::vector<TEXT_FORMAT_RANGE> runs) {
   return list;
 }
 
-TEST(LaidRuns, ThoseWithoutTextAreLeftOut) {
+TEST(MeasuredRuns, ThoseWithoutTextAreLeftOut) {
   const RunFont font(StandardFont());
   const RunList list = ListOf({RunIn(font, 0), RunIn(font, 3), RunIn(font, 0), RunIn(font, 2)});
-  const LaidRuns runs(list, 5);
+  const MeasuredRuns runs("abcde", list);
   EXPECT_EQ(runs.begin()[0].end, 3U);
   EXPECT_EQ(runs.begin()[1].end, 5U);
 }
 
-TEST(LaidRuns, TheLastOneHasWhatIsLeftAndNoneGoesBeyondTheText) {
+TEST(MeasuredRuns, TheLastOneHasWhatIsLeftAndNoneGoesBeyondTheText) {
   const RunFont font(StandardFont());
   const RunList list = ListOf({RunIn(font, 3), RunIn(font, 2)});
-  EXPECT_EQ(LaidRuns(list, 9).begin()[1].end, 9U);
-  EXPECT_EQ(LaidRuns(list, 2).begin()[0].end, 2U);
+  EXPECT_EQ(MeasuredRuns("abcdefghi", list).begin()[1].end, 9U);
+  EXPECT_EQ(MeasuredRuns("ab", list).begin()[0].end, 2U);
 }
 
-TEST(LaidRuns, RunsOfOneFontAndColourShareAFormat) {
+TEST(MeasuredRuns, RunsOfOneFontAndColourShareAFormat) {
   const RunFont plain(StandardFont());
-  RunFont other(StandardFont("Courier", 20));
-  other.HandOut()->SetUnderline(true);
-  other.HandOut()->SetSubscript(true);
+  const RunFont other(StandardFont("Courier", 20));
   const RunList list =
       ListOf({RunIn(plain, 1), RunIn(other, 1), RunIn(plain, 1), RunIn(plain, 1, 7)});
-  const LaidRuns runs(list, 4);
+  const MeasuredRuns runs("abcd", list);
   ASSERT_EQ(runs.Formats().size(), 3U);
   EXPECT_EQ(runs.begin()[2].format, runs.begin()[0].format);
   EXPECT_EQ(runs.FormatOf(runs.begin()[3]).Color(), 7);
-  const LaidFormat& format = runs.FormatOf(runs.begin()[1]);
-  EXPECT_EQ(format.Number(), 1U);
-  EXPECT_EQ(&format.Font(), other.HandOut().get());
-  EXPECT_TRUE(format.IsDecorated());
-  EXPECT_TRUE(format.IsRaisedOrLowered());
-  EXPECT_FLOAT_EQ(format.Leading(), 21.1F);
-  EXPECT_EQ(format.Width('x'), 600);
-  EXPECT_FLOAT_EQ(format.Shown(600), 7.8F);
-  EXPECT_FLOAT_EQ(format.Width("xx"), 15.6F);
+  EXPECT_EQ(runs.FormatOf(runs.begin()[1]).Number(), 1U);
+  EXPECT_EQ(&runs.FormatOf(runs.begin()[1]).Font(), &*other);
 }
 
 // However many formats there are, each run has its own.
-TEST(LaidRuns, EachRunHasItsFormat) {
+TEST(MeasuredRuns, EachRunHasItsFormat) {
   const RunFont font(StandardFont());
   std::vector<TEXT_FORMAT_RANGE> all;
   for (std::int32_t run = 0; run < 1000; ++run) all.push_back(RunIn(font, 1, run * run % 37));
   const RunList list = ListOf(all);
-  const LaidRuns runs(list, all.size());
+  const MeasuredRuns runs(std::string(all.size(), 'a'), list);
   for (std::size_t run = 0; run < all.size(); ++run) {
-    const LaidRun& laid = runs.begin()[static_cast<std::ptrdiff_t>(run)];
-    EXPECT_EQ(runs.FormatOf(laid).Color(), all[run].Color);
-    EXPECT_EQ(runs.FormatOf(laid).Number(), laid.format);
+    const MeasuredRun& measured = runs.begin()[static_cast<std::ptrdiff_t>(run)];
+    EXPECT_EQ(runs.FormatOf(measured).Color(), all[run].Color);
+    EXPECT_EQ(runs.FormatOf(measured).Number(), measured.format);
   }
 }
 
-TEST(LaidRuns, MeasuresBeyondASingleRaise6) {
+TEST(MeasuredRuns, MeasuresBeyondASingleRaise6) {
   const RunList list = ListOf({RunIn(RunFont(StandardFont("Courier", 3e38F)), 1)});
-  EXPECT_EQ(ErrorNumberOf([&] { LaidRuns(list, 1); }), Error::kOverflow);
-  EXPECT_NO_THROW(LaidRuns(list, 0));
+  EXPECT_EQ(ErrorNumberOf([&] { MeasuredRuns(list, 1); }), Error::kOverflow);
 }
 
 }  // namespace

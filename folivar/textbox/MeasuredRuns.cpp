@@ -1,28 +1,17 @@
-#include "folivar/textbox/LaidRuns.h"
+#include "folivar/textbox/MeasuredRuns.h"
 
 #include <algorithm>
 
 namespace folivar {
 
-LaidFormat::LaidFormat(const TEXT_FORMAT_RANGE& run, std::size_t number)
-    : font_(&*run.Font), number_(number), color_(run.Color) {
-  const FontMetrics metrics(*font_);
-  face_ = &metrics.Face();
-  characters_ = &face_->Characters();
-  size_ = metrics.EffectiveSize();
-  leading_ = metrics.Leading();
-  isRaisedOrLowered_ = metrics.IsRaisedOrLowered();
-  isDecorated_ = font_->Underline() || font_->StrikeOut();
-}
-
-LaidRuns::LaidRuns(const RunList& runs, std::size_t textLength) {
+MeasuredRuns::MeasuredRuns(std::string_view text, const RunList& runs) {
   runs_.reserve(runs.Count());
   std::size_t start = 0;
   std::size_t index = 0;
   runs.ForEach([&](const TEXT_FORMAT_RANGE& run) {
     const std::size_t end =
-        runs.IsLast(index++) ? textLength
-                             : std::min(start + static_cast<std::size_t>(run.Length), textLength);
+        runs.IsLast(index++) ? text.size()
+                             : std::min(start + static_cast<std::size_t>(run.Length), text.size());
     if (end > start) {
       runs_.push_back({end, static_cast<std::uint32_t>(FormatOf(run)), run.Alignment});
     }
@@ -31,7 +20,7 @@ LaidRuns::LaidRuns(const RunList& runs, std::size_t textLength) {
 }
 
 // A text changes to and fro between few formats, so that looking at the newest finds nearly all.
-std::size_t LaidRuns::FormatOf(const TEXT_FORMAT_RANGE& run) {
+std::size_t MeasuredRuns::FormatOf(const TEXT_FORMAT_RANGE& run) {
   constexpr std::size_t kNewest = 8;
   const std::size_t oldest = formats_.size() - std::min(formats_.size(), kNewest);
   for (std::size_t number = formats_.size(); number > oldest; --number) {
