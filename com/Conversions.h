@@ -102,8 +102,9 @@ inline void Give(VARIANT_BOOL* result, bool flag, const Document&) {
   *result = flag ? VARIANT_TRUE : VARIANT_FALSE;
 }
 inline void Give(BSTR* result, const Text& text, const Document&) { *result = BstrFrom(text); }
-inline void Give(VARIANT* result, const Value& value, const Document&) {
-  *result = VariantFrom(value);
+template <class Answer>
+void Give(VARIANT* result, const std::optional<Answer>& answer, const Document&) {
+  *result = VariantFrom(answer);
 }
 inline void Give(SAFEARRAY** result, const std::vector<Text>& texts, const Document&) {
   *result = ArrayFrom(texts);

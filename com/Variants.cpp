@@ -106,18 +106,19 @@ std::optional<Text> TextFrom(const char* member, const VARIANT& text) {
   });
 }
 
-VARIANT VariantFrom(const Value& value) {
+VARIANT VariantFrom(std::optional<bool> flag) {
   VARIANT made;
   VariantInit(&made);
-  if (const auto* flag = value.As<bool>()) {
-    made.vt = VT_BOOL;
-    made.boolVal = *flag ? VARIANT_TRUE : VARIANT_FALSE;
-  } else if (value.IsNull()) {
-    made.vt = VT_NULL;
-  } else {
-    made.vt = VT_I4;
-    made.lVal = Int32From(value);
-  }
+  made.vt = flag ? VT_BOOL : VT_NULL;
+  if (flag) made.boolVal = *flag ? VARIANT_TRUE : VARIANT_FALSE;
+  return made;
+}
+
+VARIANT VariantFrom(std::optional<std::int32_t> number) {
+  VARIANT made;
+  VariantInit(&made);
+  made.vt = number ? VT_I4 : VT_NULL;
+  if (number) made.lVal = *number;
   return made;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -55,8 +56,9 @@ Value FlagFrom(const VARIANT& flag);
 // Nothing for Missing; raises 94 for Null and 13 for what is no text.
 std::optional<Text> TextFrom(const char* member, const VARIANT& text);
 
-// The answer of a format that may be Null. Takes whole numbers and flags.
-VARIANT VariantFrom(const Value& value);
+// Null for nothing.
+VARIANT VariantFrom(std::optional<bool> flag);
+VARIANT VariantFrom(std::optional<std::int32_t> number);
 
 // Raises 7 when there is no memory.
 SAFEARRAY* ArrayFrom(const std::vector<Text>& texts);

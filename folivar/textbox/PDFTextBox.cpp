@@ -21,15 +21,6 @@
 #include "folivar/textbox/TextLayout.h"
 
 namespace folivar {
-namespace {
-
-template <class T>
-Value ValueOf(const std::optional<T>& answer) {
-  return answer ? Value(*answer) : Value::Null();
-}
-
-}  // namespace
-
 PDFTextBox::PDFTextBox(const Internal&, std::weak_ptr<Object> parent,
                        std::shared_ptr<Surface> parentSurface, TextView key)
     : key_(key), parent_(std::move(parent)), parentSurface_(std::move(parentSurface)) {
@@ -169,55 +160,42 @@ void PDFTextBox::SetSelFont(std::shared_ptr<PDFFont> font) {
 float PDFTextBox::SelFontSize() const { return text_->SelFontSize(); }
 void PDFTextBox::SetSelFontSize(float points) { text_->SetSelFontSize(points); }
 
-std::optional<std::int32_t> PDFTextBox::SelOneColor() const { return text_->SelColor(); }
-Value PDFTextBox::SelColor() const { return ValueOf(SelOneColor()); }
+std::optional<std::int32_t> PDFTextBox::SelColor() const { return text_->SelColor(); }
 void PDFTextBox::SetSelColor(const Value& color) {
   InMember("PDFTextBox.SelColor", [&] { text_->SetSelColor(color); });
 }
 
-std::optional<bool> PDFTextBox::IsSelBold() const { return text_->SelFlag(&PDFFont::Bold); }
-Value PDFTextBox::SelBold() const { return ValueOf(IsSelBold()); }
+std::optional<bool> PDFTextBox::SelBold() const { return text_->SelFlag(&PDFFont::Bold); }
 void PDFTextBox::SetSelBold(const Value& bold) {
   InMember("PDFTextBox.SelBold", [&] { text_->SetSelFlag(&PDFFont::SetBold, bold); });
 }
 
-std::optional<bool> PDFTextBox::IsSelItalic() const { return text_->SelFlag(&PDFFont::Italic); }
-Value PDFTextBox::SelItalic() const { return ValueOf(IsSelItalic()); }
+std::optional<bool> PDFTextBox::SelItalic() const { return text_->SelFlag(&PDFFont::Italic); }
 void PDFTextBox::SetSelItalic(const Value& italic) {
   InMember("PDFTextBox.SelItalic", [&] { text_->SetSelFlag(&PDFFont::SetItalic, italic); });
 }
 
-std::optional<bool> PDFTextBox::IsSelUnderline() const {
-  return text_->SelFlag(&PDFFont::Underline);
-}
-Value PDFTextBox::SelUnderline() const { return ValueOf(IsSelUnderline()); }
+std::optional<bool> PDFTextBox::SelUnderline() const { return text_->SelFlag(&PDFFont::Underline); }
 void PDFTextBox::SetSelUnderline(const Value& underline) {
   InMember("PDFTextBox.SelUnderline",
            [&] { text_->SetSelFlag(&PDFFont::SetUnderline, underline); });
 }
 
-std::optional<bool> PDFTextBox::IsSelStrikeOut() const {
-  return text_->SelFlag(&PDFFont::StrikeOut);
-}
-Value PDFTextBox::SelStrikeOut() const { return ValueOf(IsSelStrikeOut()); }
+std::optional<bool> PDFTextBox::SelStrikeOut() const { return text_->SelFlag(&PDFFont::StrikeOut); }
 void PDFTextBox::SetSelStrikeOut(const Value& strikeOut) {
   InMember("PDFTextBox.SelStrikeOut",
            [&] { text_->SetSelFlag(&PDFFont::SetStrikeOut, strikeOut); });
 }
 
-std::optional<bool> PDFTextBox::IsSelSubscript() const {
-  return text_->SelFlag(&PDFFont::Subscript);
-}
-Value PDFTextBox::SelSubscript() const { return ValueOf(IsSelSubscript()); }
+std::optional<bool> PDFTextBox::SelSubscript() const { return text_->SelFlag(&PDFFont::Subscript); }
 void PDFTextBox::SetSelSubscript(const Value& subscript) {
   InMember("PDFTextBox.SelSubscript",
            [&] { text_->SetSelFlag(&PDFFont::SetSubscript, subscript); });
 }
 
-std::optional<bool> PDFTextBox::IsSelSuperscript() const {
+std::optional<bool> PDFTextBox::SelSuperscript() const {
   return text_->SelFlag(&PDFFont::Superscript);
 }
-Value PDFTextBox::SelSuperscript() const { return ValueOf(IsSelSuperscript()); }
 void PDFTextBox::SetSelSuperscript(const Value& superscript) {
   InMember("PDFTextBox.SelSuperscript",
            [&] { text_->SetSelFlag(&PDFFont::SetSuperscript, superscript); });

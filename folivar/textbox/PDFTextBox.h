@@ -141,7 +141,7 @@ class FOLIVAR_API PDFTextBox final : public Tagged {
 
   // The formats of the selection, or of the caret: where text is in one format, that is one run.
   // Deliberate: a selection that spans runs, even of the same format, has no font (null), size 0,
-  // colour and flags Null, and alignment alignNULL.
+  // no colour and no flags (nothing), and alignment alignNULL.
   //
   // Setting a format gives it to exactly the selection. A caret gets an empty run, which text set
   // through SelText takes up. A setter that fails leaves the text and its formats as they look,
@@ -155,33 +155,25 @@ class FOLIVAR_API PDFTextBox final : public Tagged {
   // Points.
   float SelFontSize() const;
   void SetSelFontSize(float points);
-  // 0x00BBGGRR; black at first. Raises 94 for Null, 13 for what is no number, 6 beyond 32 bits.
-  Value SelColor() const;
+  // 0x00BBGGRR; black at first. Setting it raises 94 for Null, 13 for what is no number and 6
+  // beyond 32 bits.
+  std::optional<std::int32_t> SelColor() const;
   void SetSelColor(const Value& color);
 
-  // Flags; as numbers, all but 0 are true. Raise 94 for Null and 13 for what is neither a flag nor
-  // a number. Bold and italic are those of PDFFont, underline and the others too.
-  Value SelBold() const;
+  // Flags, those of PDFFont. To set one, all numbers but 0 are true; raises 94 for Null and 13 for
+  // what is neither a flag nor a number.
+  std::optional<bool> SelBold() const;
   void SetSelBold(const Value& bold);
-  Value SelItalic() const;
+  std::optional<bool> SelItalic() const;
   void SetSelItalic(const Value& italic);
-  Value SelUnderline() const;
+  std::optional<bool> SelUnderline() const;
   void SetSelUnderline(const Value& underline);
-  Value SelStrikeOut() const;
+  std::optional<bool> SelStrikeOut() const;
   void SetSelStrikeOut(const Value& strikeOut);
-  Value SelSubscript() const;
+  std::optional<bool> SelSubscript() const;
   void SetSelSubscript(const Value& subscript);
-  Value SelSuperscript() const;
+  std::optional<bool> SelSuperscript() const;
   void SetSelSuperscript(const Value& superscript);
-
-  // The same answers without a Value; nothing for a selection that spans runs.
-  std::optional<std::int32_t> SelOneColor() const;
-  std::optional<bool> IsSelBold() const;
-  std::optional<bool> IsSelItalic() const;
-  std::optional<bool> IsSelUnderline() const;
-  std::optional<bool> IsSelStrikeOut() const;
-  std::optional<bool> IsSelSubscript() const;
-  std::optional<bool> IsSelSuperscript() const;
 
   // alignLeft at first. Setting it aligns every paragraph that the selection touches; alignNULL
   // changes nothing. Deliberate: aligned is the text from the "\n" before the paragraph up to the

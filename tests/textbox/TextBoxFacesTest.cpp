@@ -60,18 +60,18 @@ TEST_F(StyledTextBox, StylesChangeTheFaceOfTheSelectionAlone) {
   Select(*box_, 2, 4);
   box_->SetSelBold(true);
   EXPECT_FLOAT_EQ(WidthOfSelection(), 24);
-  EXPECT_EQ(box_->IsSelBold(), true);
-  EXPECT_EQ(box_->IsSelItalic(), false);
+  EXPECT_EQ(box_->SelBold(), true);
+  EXPECT_EQ(box_->SelItalic(), false);
   box_->SetSelItalic(true);
   EXPECT_FLOAT_EQ(WidthOfSelection(), 28);
-  EXPECT_EQ(box_->IsSelItalic(), true);
+  EXPECT_EQ(box_->SelItalic(), true);
   Select(*box_, 0, 2);
   EXPECT_FLOAT_EQ(WidthOfSelection(), 10);
-  EXPECT_EQ(box_->IsSelBold(), false);
+  EXPECT_EQ(box_->SelBold(), false);
   Select(*box_, 6, 4);
   EXPECT_FLOAT_EQ(WidthOfSelection(), 20);
   Select(*box_, 0, 10);
-  EXPECT_EQ(box_->IsSelBold(), std::nullopt);
+  EXPECT_EQ(box_->SelBold(), std::nullopt);
   EXPECT_FLOAT_EQ(page_->Font()->TextWidth("0123456789"), 50) << "the page's own is another font";
 }
 
@@ -80,7 +80,7 @@ TEST_F(StyledTextBox, AStyleTakenBackLeavesOneRun) {
   box_->SetSelBold(true);
   box_->SetSelBold(false);
   Select(*box_, 0, 10);
-  EXPECT_EQ(box_->IsSelBold(), false);
+  EXPECT_EQ(box_->SelBold(), false);
   EXPECT_FLOAT_EQ(WidthOfSelection(), 50);
 }
 
@@ -93,7 +93,7 @@ TEST_F(StyledTextBox, RunsInOneStyleShareItsFace) {
   Select(*box_, 2, 3);
   box_->SetSelBold(true);
   Select(*box_, 0, 7);
-  EXPECT_EQ(box_->IsSelBold(), true) << "one run again";
+  EXPECT_EQ(box_->SelBold(), true) << "one run again";
 }
 
 TEST_F(StyledTextBox, TheStyleOfASharedFontChangesForAllThatShareIt) {
@@ -106,9 +106,9 @@ TEST_F(StyledTextBox, TheStyleOfASharedFontChangesForAllThatShareIt) {
   box_->SetSelBold(true);
   EXPECT_TRUE(font->Bold());
   Select(*box_, 0, 2);
-  EXPECT_EQ(box_->IsSelBold(), true);
+  EXPECT_EQ(box_->SelBold(), true);
   Select(*box_, 2, 3);
-  EXPECT_EQ(box_->IsSelBold(), false);
+  EXPECT_EQ(box_->SelBold(), false);
 }
 
 TEST_F(StyledTextBox, LinesBreakByTheWidthsOfTheirFaces) {
