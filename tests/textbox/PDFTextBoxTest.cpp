@@ -15,8 +15,8 @@
 #include "tests/support/Content.h"
 #include "tests/support/FakeFonts.h"
 #include "tests/support/Random.h"
+#include "tests/support/RichTextModel.h"
 #include "tests/support/SavedDocument.h"
-#include "tests/support/TextBoxModel.h"
 #include "tests/support/Tools.h"
 
 // Expected measures come from Helvetica's published metrics at size 10: "W" 9.44 wide, descender
@@ -775,7 +775,7 @@ class EditedTextBox : public PDFTextBoxTest {
   void SetFont() {
     const auto font = page_->Font()->Clone();
     font->SetUnderline(random_.Chance(50));
-    const auto modelFont = std::make_shared<TextBoxModel::Font>();
+    const auto modelFont = std::make_shared<RichTextModel::Font>();
     modelFont->underline = font->Underline();
     box_->SetSelFont(font);
     model_.ChangeSelection([&](auto& run) { run.font = modelFont; });
@@ -819,7 +819,7 @@ class EditedTextBox : public PDFTextBoxTest {
 
   void CopyThereAndBack() {
     const auto other = page_->TextBoxes()->Add();
-    TextBoxModel otherModel;
+    RichTextModel otherModel;
     other->Copy(box_);
     otherModel.CopyFrom(model_);
     box_->Copy(other);
@@ -829,7 +829,7 @@ class EditedTextBox : public PDFTextBoxTest {
 
   void StartAnew() {
     box_ = page_->TextBoxes()->Add();
-    model_ = TextBoxModel();
+    model_ = RichTextModel();
     page_->TextBoxes()->Remove(page_->TextBoxes()->count());
   }
 
@@ -842,20 +842,20 @@ class EditedTextBox : public PDFTextBoxTest {
     EXPECT_EQ(box_->SelFontSize(), run ? run->font->size : 0);
     EXPECT_EQ(box_->SelAlignment(), run ? run->alignment : alignNULL);
     EXPECT_EQ(box_->SelColor(), run ? std::optional(run->color) : std::nullopt);
-    const auto flag = [&](bool TextBoxModel::Font::*which) {
+    const auto flag = [&](bool RichTextModel::Font::*which) {
       return run ? std::optional((*run->font).*which) : std::nullopt;
     };
-    EXPECT_EQ(box_->SelBold(), flag(&TextBoxModel::Font::bold));
-    EXPECT_EQ(box_->SelItalic(), flag(&TextBoxModel::Font::italic));
-    EXPECT_EQ(box_->SelUnderline(), flag(&TextBoxModel::Font::underline));
-    EXPECT_EQ(box_->SelStrikeOut(), flag(&TextBoxModel::Font::strikeOut));
-    EXPECT_EQ(box_->SelSubscript(), flag(&TextBoxModel::Font::subscript));
-    EXPECT_EQ(box_->SelSuperscript(), flag(&TextBoxModel::Font::superscript));
+    EXPECT_EQ(box_->SelBold(), flag(&RichTextModel::Font::bold));
+    EXPECT_EQ(box_->SelItalic(), flag(&RichTextModel::Font::italic));
+    EXPECT_EQ(box_->SelUnderline(), flag(&RichTextModel::Font::underline));
+    EXPECT_EQ(box_->SelStrikeOut(), flag(&RichTextModel::Font::strikeOut));
+    EXPECT_EQ(box_->SelSubscript(), flag(&RichTextModel::Font::subscript));
+    EXPECT_EQ(box_->SelSuperscript(), flag(&RichTextModel::Font::superscript));
   }
 
   Random random_;
-  TextBoxModel model_;
-  std::vector<std::pair<std::shared_ptr<PDFFont>, std::shared_ptr<TextBoxModel::Font>>> held_;
+  RichTextModel model_;
+  std::vector<std::pair<std::shared_ptr<PDFFont>, std::shared_ptr<RichTextModel::Font>>> held_;
 };
 
 TEST_F(EditedTextBox, FollowsTheRules) {

@@ -15,8 +15,8 @@
 #include "folivar/textbox/RichText.h"
 #include "tests/support/Content.h"
 #include "tests/support/Random.h"
+#include "tests/support/RichTextModel.h"
 #include "tests/support/StandardFont.h"
-#include "tests/support/TextBoxModel.h"
 
 namespace folivar::test {
 namespace {
@@ -406,14 +406,14 @@ class EditedRichText : public testing::Test {
   struct Flag {
     void (PDFFont::*set)(bool);
     bool (PDFFont::*get)() const;
-    bool TextBoxModel::Font::*model;
+    bool RichTextModel::Font::*model;
   };
   // Bold and italic are faces of their own, which a font without a document does not find.
   static constexpr Flag kFlags[] = {
-      {&PDFFont::SetUnderline, &PDFFont::Underline, &TextBoxModel::Font::underline},
-      {&PDFFont::SetStrikeOut, &PDFFont::StrikeOut, &TextBoxModel::Font::strikeOut},
-      {&PDFFont::SetSubscript, &PDFFont::Subscript, &TextBoxModel::Font::subscript},
-      {&PDFFont::SetSuperscript, &PDFFont::Superscript, &TextBoxModel::Font::superscript}};
+      {&PDFFont::SetUnderline, &PDFFont::Underline, &RichTextModel::Font::underline},
+      {&PDFFont::SetStrikeOut, &PDFFont::StrikeOut, &RichTextModel::Font::strikeOut},
+      {&PDFFont::SetSubscript, &PDFFont::Subscript, &RichTextModel::Font::subscript},
+      {&PDFFont::SetSuperscript, &PDFFont::Superscript, &RichTextModel::Font::superscript}};
 
   std::u16string RandomText() {
     static constexpr char16_t kUnits[] = u"ab\r\ncd\u00E4\u20AC";
@@ -453,7 +453,7 @@ class EditedRichText : public testing::Test {
 
   // One that the host keeps and may change.
   void SetFont() {
-    host_ = {StandardFont(), std::make_shared<TextBoxModel::Font>()};
+    host_ = {StandardFont(), std::make_shared<RichTextModel::Font>()};
     text_.SetSelFont(host_.first);
     model_.ChangeSelection([&](auto& run) { run.font = host_.second; });
   }
@@ -480,7 +480,7 @@ class EditedRichText : public testing::Test {
 
   void CopyThereAndBack() {
     RichText other{RunFont(StandardFont())};
-    TextBoxModel otherModel;
+    RichTextModel otherModel;
     other.CopyFrom(text_);
     otherModel.CopyFrom(model_);
     text_.CopyFrom(other);
@@ -513,10 +513,10 @@ class EditedRichText : public testing::Test {
 
   void StartAnew() {
     text_ = RichText{RunFont::CloneOf(*StandardFont())};
-    model_ = TextBoxModel();
+    model_ = RichTextModel();
   }
 
-  void ExpectSameRun(const TEXT_FORMAT_RANGE& run, const TextBoxModel::Run& expected) const {
+  void ExpectSameRun(const TEXT_FORMAT_RANGE& run, const RichTextModel::Run& expected) const {
     EXPECT_EQ(run.Length, expected.length);
     EXPECT_EQ(run.Color, expected.color);
     EXPECT_EQ(run.Alignment, expected.alignment);
@@ -547,9 +547,9 @@ class EditedRichText : public testing::Test {
 
   Random random_;
   RichText text_{RunFont::CloneOf(*StandardFont())};
-  TextBoxModel model_;
+  RichTextModel model_;
   // The font that the host has seen last; null at first.
-  std::pair<std::shared_ptr<PDFFont>, std::shared_ptr<TextBoxModel::Font>> host_;
+  std::pair<std::shared_ptr<PDFFont>, std::shared_ptr<RichTextModel::Font>> host_;
 };
 
 TEST_F(EditedRichText, FollowsTheRulesRunByRun) {

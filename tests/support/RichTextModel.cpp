@@ -1,17 +1,17 @@
-#include "tests/support/TextBoxModel.h"
+#include "tests/support/RichTextModel.h"
 
 #include <algorithm>
 
 namespace folivar::test {
 namespace {
 
-bool AreAlike(const TextBoxModel::Run& a, const TextBoxModel::Run& b) {
+bool AreAlike(const RichTextModel::Run& a, const RichTextModel::Run& b) {
   return a.color == b.color && a.alignment == b.alignment && *a.font == *b.font;
 }
 
-TextBoxModel::Run CopyOf(const TextBoxModel::Run& run) {
-  TextBoxModel::Run copy = run;
-  copy.font = std::make_shared<TextBoxModel::Font>(*run.font);
+RichTextModel::Run CopyOf(const RichTextModel::Run& run) {
+  RichTextModel::Run copy = run;
+  copy.font = std::make_shared<RichTextModel::Font>(*run.font);
   return copy;
 }
 
@@ -27,16 +27,16 @@ std::u16string WithLineFeeds(const std::u16string& text) {
 
 }  // namespace
 
-TextBoxModel::TextBoxModel() {
+RichTextModel::RichTextModel() {
   runs_.emplace_back();
   runs_[0].font = std::make_shared<Font>();
 }
 
-std::u16string TextBoxModel::SelText() const {
+std::u16string RichTextModel::SelText() const {
   return text_.substr(static_cast<std::size_t>(start_), static_cast<std::size_t>(end_ - start_));
 }
 
-void TextBoxModel::Find(std::int64_t start, std::int64_t end, Place& first, Place& last) const {
+void RichTextModel::Find(std::int64_t start, std::int64_t end, Place& first, Place& last) const {
   first = {0, 0};
   if (start != 0) {
     while (first.index + 1 < runs_.size()) {
@@ -54,12 +54,12 @@ void TextBoxModel::Find(std::int64_t start, std::int64_t end, Place& first, Plac
   }
 }
 
-std::int64_t TextBoxModel::EndOf(Place place) const {
+std::int64_t RichTextModel::EndOf(Place place) const {
   const std::int64_t end = place.start + runs_[place.index].length;
   return place.index + 1 == runs_.size() ? std::max(end, Length()) : end;
 }
 
-std::optional<TextBoxModel::Run> TextBoxModel::Selected() const {
+std::optional<RichTextModel::Run> RichTextModel::Selected() const {
   Place first{};
   Place last{};
   Find(start_, end_, first, last);
@@ -67,7 +67,7 @@ std::optional<TextBoxModel::Run> TextBoxModel::Selected() const {
   return runs_[first.index];
 }
 
-int TextBoxModel::SetText(const std::u16string& text) {
+int RichTextModel::SetText(const std::u16string& text) {
   text_ = WithLineFeeds(text);
   start_ = std::min(start_, Length());
   end_ = std::min(end_, Length());
@@ -81,7 +81,7 @@ int TextBoxModel::SetText(const std::u16string& text) {
   return 0;
 }
 
-int TextBoxModel::SetSelText(const std::u16string& text) {
+int RichTextModel::SetSelText(const std::u16string& text) {
   const std::u16string inserted = WithLineFeeds(text);
   const auto added = static_cast<std::int64_t>(inserted.size());
   Place first{};
@@ -108,12 +108,12 @@ int TextBoxModel::SetSelText(const std::u16string& text) {
   return 0;
 }
 
-void TextBoxModel::SetSelStart(std::int64_t start) {
+void RichTextModel::SetSelStart(std::int64_t start) {
   start_ = std::clamp<std::int64_t>(start, 0, Length());
   end_ = start_;
 }
 
-void TextBoxModel::SetSelLength(std::int64_t length) {
+void RichTextModel::SetSelLength(std::int64_t length) {
   const std::int64_t other = start_ + length;
   if (length < 0) {
     end_ = start_;
@@ -123,7 +123,7 @@ void TextBoxModel::SetSelLength(std::int64_t length) {
   }
 }
 
-std::size_t TextBoxModel::Split(std::int64_t from, std::int64_t to, Place place) {
+std::size_t RichTextModel::Split(std::int64_t from, std::int64_t to, Place place) {
   const Run run = runs_[place.index];
   std::vector<Run> pieces;
   const auto add = [&](std::int64_t length) {
@@ -140,7 +140,7 @@ std::size_t TextBoxModel::Split(std::int64_t from, std::int64_t to, Place place)
   return wanted;
 }
 
-TextBoxModel::Stretch TextBoxModel::SplitAt(std::int64_t start, std::int64_t end) {
+RichTextModel::Stretch RichTextModel::SplitAt(std::int64_t start, std::int64_t end) {
   Place first{};
   Place last{};
   Find(start, end, first, last);
@@ -153,7 +153,7 @@ TextBoxModel::Stretch TextBoxModel::SplitAt(std::int64_t start, std::int64_t end
   return {firstPiece, Split(last.start, end, last)};
 }
 
-void TextBoxModel::Merge(Stretch stretch) {
+void RichTextModel::Merge(Stretch stretch) {
   for (std::size_t index = stretch.last + 1; index-- > stretch.first;) {
     if (index + 1 < runs_.size() && AreAlike(runs_[index], runs_[index + 1])) {
       runs_[index].length += runs_[index + 1].length;
@@ -167,7 +167,7 @@ void TextBoxModel::Merge(Stretch stretch) {
   }
 }
 
-void TextBoxModel::SetSelAlignment(PDFParaAlignment alignment) {
+void RichTextModel::SetSelAlignment(PDFParaAlignment alignment) {
   if (alignment == alignNULL) return;
   std::int64_t end = end_;
   while (end < Length() && text_[static_cast<std::size_t>(end)] != u'\n') ++end;
@@ -178,7 +178,7 @@ void TextBoxModel::SetSelAlignment(PDFParaAlignment alignment) {
   ChangeRuns(start, end, [&](Run& run) { run.alignment = alignment; });
 }
 
-void TextBoxModel::CopyFrom(const TextBoxModel& source) {
+void RichTextModel::CopyFrom(const RichTextModel& source) {
   if (this == &source) return;
   text_ = source.text_;
   start_ = source.start_;

@@ -14,7 +14,7 @@ namespace folivar::test {
 // The rules of editing rich text as the plainest program that keeps them: a string and a vector of
 // runs, walked from the front at every step. Its fonts are objects, because runs may share them.
 // Where the text and the runs are out of step, the last run takes what is left of the text.
-class TextBoxModel {
+class RichTextModel {
  public:
   struct Font {
     float size = 10;
@@ -34,7 +34,7 @@ class TextBoxModel {
     std::int64_t length = 0;
   };
 
-  TextBoxModel();
+  RichTextModel();
 
   const std::u16string& Text() const { return text_; }
   std::int64_t SelStart() const { return start_; }
@@ -57,7 +57,7 @@ class TextBoxModel {
   void SetSelAlignment(PDFParaAlignment alignment);
   // As a change of format does that fails at once.
   void SplitSelection() { SplitAt(start_, end_); }
-  void CopyFrom(const TextBoxModel& source);
+  void CopyFrom(const RichTextModel& source);
 
  private:
   struct Place {
