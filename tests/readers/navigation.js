@@ -13,6 +13,7 @@
 // highlights, which are "untold" then, and takes no border at all for one of no width.
 
 const {execFileSync} = require('child_process');
+const fs = require('fs');
 const path = require('path');
 
 function destOf(dest) {
@@ -110,8 +111,16 @@ async function readWithMupdf(file) {
   return lines;
 }
 
+function loadPdfjs() {
+  if (!fs.existsSync(path.join(__dirname, 'installed'))) {
+    const said = fs.readFileSync(path.join(__dirname, 'npm.log'), 'utf8');
+    throw new Error(`npm could not install pdf.js:\n${said}`);
+  }
+  return require('pdfjs-dist/legacy/build/pdf.js');
+}
+
 async function readWithPdfjs(file) {
-  const pdfjs = require('pdfjs-dist/legacy/build/pdf.js');
+  const pdfjs = loadPdfjs();
   const document = await pdfjs.getDocument({url: file, verbosity: 0}).promise;
   const dest = async (array) => {
     if (!array) return 'none';
