@@ -256,7 +256,7 @@ head -c 1000 "$liberation/LiberationSans-Regular.ttf" >damaged/cut.ttf
 use_fonts_of "$PWD/empty"
 rm -f server.pdf none.pdf
 check "no fonts installed: an error that names the font" fails_with \
-  "PDFFonts.Add: Font 'Liberation Sans': there is no TrueType font, neither among the document's\
+  "PDFFonts.Add: font 'Liberation Sans': there is no TrueType font, neither among the document's\
  font files nor installed where libfontconfig.so.1 finds it" \
   "$statement" --font "Liberation Sans" "$data" none.pdf
 check "no fonts installed: no PDF" test ! -e none.pdf
