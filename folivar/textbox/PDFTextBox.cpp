@@ -21,59 +21,96 @@
 #include "folivar/textbox/TextLayout.h"
 
 namespace folivar {
-PDFTextBox::PDFTextBox(const Internal&, std::weak_ptr<Object> parent,
+
+struct PDFTextBox::Contents {
+  RichText text;
+  TextBoxGeometry geometry{};
+  TextBoxFrame frame{};
+  bool autoSize = false;
+};
+
+PDFTextBox::PDFTextBox(const Internal&, std::weak_ptr<Canvas> parent,
                        std::shared_ptr<Surface> parentSurface, TextView key)
     : key_(key), parent_(std::move(parent)), parentSurface_(std::move(parentSurface)) {
   RunFont font = RunFont::CloneOf(*parentSurface_->Font());
-  geometry_.width = font->TextWidth("W");
+  TextBoxGeometry geometry;
+  geometry.width = font->TextWidth("W");
   // Deliberate: the height is the descender's depth and the margins, too little for a line.
-  geometry_.height =
-      geometry_.top - font->Descender() + geometry_.marginTop + geometry_.marginBottom;
-  text_ = std::make_unique<RichText>(std::move(font));
+  geometry.height = geometry.top - font->Descender() + geometry.marginTop + geometry.marginBottom;
+  own_ = std::make_unique<Contents>(Contents{RichText(std::move(font)), geometry});
 }
 
 PDFTextBox::~PDFTextBox() = default;
 
-std::shared_ptr<Object> PDFTextBox::Parent() const {
+std::shared_ptr<Canvas> PDFTextBox::Parent() const {
   if (auto parent = parent_.lock()) return parent;
   throw Error::ObjectNotSet("the owner is gone")
       .WithObject(KeyedName("PDFTextBox", Key()))
       .WithMember("PDFTextBox.Parent");
 }
 
+float PDFTextBox::Left() const { return own_->geometry.left; }
+void PDFTextBox::SetLeft(float left) { own_->geometry.left = left; }
+float PDFTextBox::Top() const { return own_->geometry.top; }
+void PDFTextBox::SetTop(float top) { own_->geometry.top = top; }
+float PDFTextBox::Width() const { return own_->geometry.width; }
+float PDFTextBox::Height() const { return own_->geometry.height; }
+bool PDFTextBox::WordWrap() const { return own_->geometry.wordWrap; }
+void PDFTextBox::SetWordWrap(bool wordWrap) { own_->geometry.wordWrap = wordWrap; }
+bool PDFTextBox::AutoSize() const { return own_->autoSize; }
+void PDFTextBox::SetAutoSize(bool autoSize) { own_->autoSize = autoSize; }
+float PDFTextBox::MarginLeft() const { return own_->geometry.marginLeft; }
+void PDFTextBox::SetMarginLeft(float margin) { own_->geometry.marginLeft = margin; }
+float PDFTextBox::MarginTop() const { return own_->geometry.marginTop; }
+void PDFTextBox::SetMarginTop(float margin) { own_->geometry.marginTop = margin; }
+float PDFTextBox::MarginRight() const { return own_->geometry.marginRight; }
+void PDFTextBox::SetMarginRight(float margin) { own_->geometry.marginRight = margin; }
+float PDFTextBox::MarginBottom() const { return own_->geometry.marginBottom; }
+void PDFTextBox::SetMarginBottom(float margin) { own_->geometry.marginBottom = margin; }
+std::int32_t PDFTextBox::BackColor() const { return own_->frame.backColor; }
+void PDFTextBox::SetBackColor(std::int32_t color) { own_->frame.backColor = color; }
+PDFBackGroundStyle PDFTextBox::BackStyle() const { return own_->frame.backStyle; }
+void PDFTextBox::SetBackStyle(PDFBackGroundStyle style) { own_->frame.backStyle = style; }
+std::int32_t PDFTextBox::BorderColor() const { return own_->frame.borderColor; }
+void PDFTextBox::SetBorderColor(std::int32_t color) { own_->frame.borderColor = color; }
+float PDFTextBox::BorderWidth() const { return own_->frame.borderWidth; }
+void PDFTextBox::SetBorderWidth(float width) { own_->frame.borderWidth = width; }
+
 float PDFTextBox::Bottom() const {
-  return InMember("PDFTextBox.Bottom", [&] { return Finite(geometry_.top - geometry_.height); });
+  return InMember("PDFTextBox.Bottom",
+                  [&] { return Finite(own_->geometry.top - own_->geometry.height); });
 }
 
 void PDFTextBox::SetBottom(float bottom) {
   InMember("PDFTextBox.Bottom", [&] {
-    geometry_.height = Finite(std::fabs(geometry_.top - bottom));
-    if (bottom > geometry_.top) geometry_.top = bottom;
+    own_->geometry.height = Finite(std::fabs(own_->geometry.top - bottom));
+    if (bottom > own_->geometry.top) own_->geometry.top = bottom;
   });
 }
 
 float PDFTextBox::Right() const {
-  return InMember("PDFTextBox.Right", [&] { return Finite(geometry_.left + geometry_.width); });
+  return InMember("PDFTextBox.Right",
+                  [&] { return Finite(own_->geometry.left + own_->geometry.width); });
 }
 
 void PDFTextBox::SetRight(float right) {
   InMember("PDFTextBox.Right", [&] {
-    geometry_.width = Finite(std::fabs(right - geometry_.left));
-    if (right < geometry_.left) geometry_.left = right;
+    own_->geometry.width = Finite(std::fabs(right - own_->geometry.left));
+    if (right < own_->geometry.left) own_->geometry.left = right;
   });
 }
 
 void PDFTextBox::SetWidth(float width) {
   InMember("PDFTextBox.Width", [&] {
-    if (width < 0) geometry_.left = Finite(geometry_.left + width);
-    geometry_.width = std::fabs(width);
+    if (width < 0) own_->geometry.left = Finite(own_->geometry.left + width);
+    own_->geometry.width = std::fabs(width);
   });
 }
 
 void PDFTextBox::SetHeight(float height) {
   InMember("PDFTextBox.Height", [&] {
-    if (height < 0) geometry_.top = Finite(geometry_.top - height);
-    geometry_.height = std::fabs(height);
+    if (height < 0) own_->geometry.top = Finite(own_->geometry.top - height);
+    own_->geometry.height = std::fabs(height);
   });
 }
 
@@ -95,20 +132,20 @@ void PDFTextBox::AutoSizeNow() {
 // Deliberate: the margins are added to the width with word wrap too, so that every sizing widens
 // the box.
 void PDFTextBox::AutoSizeBox() {
-  const AnsiText ansi(text_->Text());
-  const AllExtents extents = TextLayout(ansi.Bytes(), text_->Runs(), geometry_).Measure();
-  const float textWidth = geometry_.wordWrap ? geometry_.width : extents.width;
-  const float width = Finite(geometry_.marginLeft + textWidth + geometry_.marginRight);
-  SetHeight(
-      Finite(extents.leadings - extents.bottom + geometry_.marginTop + geometry_.marginBottom));
+  const AnsiText ansi(own_->text.Text());
+  const AllExtents extents = TextLayout(ansi.Bytes(), own_->text.Runs(), own_->geometry).Measure();
+  const float textWidth = own_->geometry.wordWrap ? own_->geometry.width : extents.width;
+  const float width = Finite(own_->geometry.marginLeft + textWidth + own_->geometry.marginRight);
+  SetHeight(Finite(extents.leadings - extents.bottom + own_->geometry.marginTop +
+                   own_->geometry.marginBottom));
   SetWidth(width);
 }
 
 void PDFTextBox::SetMargins(float left, float top, float right, float bottom) {
-  geometry_.marginLeft = left;
-  geometry_.marginTop = top;
-  geometry_.marginRight = right;
-  geometry_.marginBottom = bottom;
+  own_->geometry.marginLeft = left;
+  own_->geometry.marginTop = top;
+  own_->geometry.marginRight = right;
+  own_->geometry.marginBottom = bottom;
 }
 
 void PDFTextBox::Copy(const std::shared_ptr<PDFTextBox>& source) {
@@ -118,91 +155,99 @@ void PDFTextBox::Copy(const std::shared_ptr<PDFTextBox>& source) {
       throw Error::InvalidArgument("belongs to another document")
           .WithObject(KeyedName("text box", source->Key()));
     }
-    text_->CopyFrom(*source->text_);
-    geometry_ = source->geometry_;
-    autoSize_ = source->autoSize_;
+    own_->text.CopyFrom(source->own_->text);
+    own_->geometry = source->own_->geometry;
+    own_->autoSize = source->own_->autoSize;
   });
 }
 
 void PDFTextBox::SetBorderDashPattern(float dashOn, float dashOff) {
-  frame_.dashOn = dashOn;
-  frame_.dashOff = dashOff;
+  own_->frame.dashOn = dashOn;
+  own_->frame.dashOff = dashOff;
 }
 
-const folivar::Text& PDFTextBox::Text() const { return text_->Text(); }
+const folivar::Text& PDFTextBox::Text() const { return own_->text.Text(); }
 void PDFTextBox::SetText(TextView text) {
-  InMember("PDFTextBox.Text", [&] { text_->SetText(text); });
+  InMember("PDFTextBox.Text", [&] { own_->text.SetText(text); });
 }
 
-std::int32_t PDFTextBox::SelStart() const { return text_->SelStart(); }
-void PDFTextBox::SetSelStart(std::int32_t start) { text_->SetSelStart(start); }
+std::int32_t PDFTextBox::SelStart() const { return own_->text.SelStart(); }
+void PDFTextBox::SetSelStart(std::int32_t start) { own_->text.SetSelStart(start); }
 
-std::int32_t PDFTextBox::SelLength() const { return text_->SelLength(); }
+std::int32_t PDFTextBox::SelLength() const { return own_->text.SelLength(); }
 void PDFTextBox::SetSelLength(std::int32_t length) {
-  InMember("PDFTextBox.SelLength", [&] { text_->SetSelLength(length); });
+  InMember("PDFTextBox.SelLength", [&] { own_->text.SetSelLength(length); });
 }
 
-folivar::Text PDFTextBox::SelText() const { return text_->SelText(); }
+folivar::Text PDFTextBox::SelText() const { return own_->text.SelText(); }
 void PDFTextBox::SetSelText(TextView text) {
-  InMember("PDFTextBox.SelText", [&] { text_->SetSelText(text); });
+  InMember("PDFTextBox.SelText", [&] { own_->text.SetSelText(text); });
 }
 
-std::shared_ptr<PDFFont> PDFTextBox::SelFont() const { return text_->SelFont(); }
+std::shared_ptr<PDFFont> PDFTextBox::SelFont() const { return own_->text.SelFont(); }
 void PDFTextBox::SetSelFont(std::shared_ptr<PDFFont> font) {
   if (!font) return;
   InMember("PDFTextBox.SelFont", [&] {
     parentSurface_->CheckIsOfDocument(*font);
-    text_->SetSelFont(font);
+    own_->text.SetSelFont(font);
     parentSurface_->ResourceDictionary().AddFontResource(*font);
   });
 }
 
-float PDFTextBox::SelFontSize() const { return text_->SelFontSize(); }
-void PDFTextBox::SetSelFontSize(float points) { text_->SetSelFontSize(points); }
+float PDFTextBox::SelFontSize() const { return own_->text.SelFontSize(); }
+void PDFTextBox::SetSelFontSize(float points) { own_->text.SetSelFontSize(points); }
 
-std::optional<std::int32_t> PDFTextBox::SelColor() const { return text_->SelColor(); }
+std::optional<std::int32_t> PDFTextBox::SelColor() const { return own_->text.SelColor(); }
 void PDFTextBox::SetSelColor(const Value& color) {
-  InMember("PDFTextBox.SelColor", [&] { text_->SetSelColor(color); });
+  InMember("PDFTextBox.SelColor", [&] { own_->text.SetSelColor(color); });
 }
 
-std::optional<bool> PDFTextBox::SelBold() const { return text_->SelFlag(&PDFFont::Bold); }
+std::optional<bool> PDFTextBox::SelBold() const { return own_->text.SelFlag(&PDFFont::Bold); }
 void PDFTextBox::SetSelBold(const Value& bold) {
-  InMember("PDFTextBox.SelBold", [&] { text_->SetSelFlag(&PDFFont::SetBold, bold); });
+  InMember("PDFTextBox.SelBold", [&] { own_->text.SetSelFlag(&PDFFont::SetBold, bold); });
 }
 
-std::optional<bool> PDFTextBox::SelItalic() const { return text_->SelFlag(&PDFFont::Italic); }
+std::optional<bool> PDFTextBox::SelItalic() const { return own_->text.SelFlag(&PDFFont::Italic); }
 void PDFTextBox::SetSelItalic(const Value& italic) {
-  InMember("PDFTextBox.SelItalic", [&] { text_->SetSelFlag(&PDFFont::SetItalic, italic); });
+  InMember("PDFTextBox.SelItalic", [&] { own_->text.SetSelFlag(&PDFFont::SetItalic, italic); });
 }
 
-std::optional<bool> PDFTextBox::SelUnderline() const { return text_->SelFlag(&PDFFont::Underline); }
+std::optional<bool> PDFTextBox::SelUnderline() const {
+  return own_->text.SelFlag(&PDFFont::Underline);
+}
 void PDFTextBox::SetSelUnderline(const Value& underline) {
   InMember("PDFTextBox.SelUnderline",
-           [&] { text_->SetSelFlag(&PDFFont::SetUnderline, underline); });
+           [&] { own_->text.SetSelFlag(&PDFFont::SetUnderline, underline); });
 }
 
-std::optional<bool> PDFTextBox::SelStrikeOut() const { return text_->SelFlag(&PDFFont::StrikeOut); }
+std::optional<bool> PDFTextBox::SelStrikeOut() const {
+  return own_->text.SelFlag(&PDFFont::StrikeOut);
+}
 void PDFTextBox::SetSelStrikeOut(const Value& strikeOut) {
   InMember("PDFTextBox.SelStrikeOut",
-           [&] { text_->SetSelFlag(&PDFFont::SetStrikeOut, strikeOut); });
+           [&] { own_->text.SetSelFlag(&PDFFont::SetStrikeOut, strikeOut); });
 }
 
-std::optional<bool> PDFTextBox::SelSubscript() const { return text_->SelFlag(&PDFFont::Subscript); }
+std::optional<bool> PDFTextBox::SelSubscript() const {
+  return own_->text.SelFlag(&PDFFont::Subscript);
+}
 void PDFTextBox::SetSelSubscript(const Value& subscript) {
   InMember("PDFTextBox.SelSubscript",
-           [&] { text_->SetSelFlag(&PDFFont::SetSubscript, subscript); });
+           [&] { own_->text.SetSelFlag(&PDFFont::SetSubscript, subscript); });
 }
 
 std::optional<bool> PDFTextBox::SelSuperscript() const {
-  return text_->SelFlag(&PDFFont::Superscript);
+  return own_->text.SelFlag(&PDFFont::Superscript);
 }
 void PDFTextBox::SetSelSuperscript(const Value& superscript) {
   InMember("PDFTextBox.SelSuperscript",
-           [&] { text_->SetSelFlag(&PDFFont::SetSuperscript, superscript); });
+           [&] { own_->text.SetSelFlag(&PDFFont::SetSuperscript, superscript); });
 }
 
-PDFParaAlignment PDFTextBox::SelAlignment() const { return text_->SelAlignment(); }
-void PDFTextBox::SetSelAlignment(PDFParaAlignment alignment) { text_->SetSelAlignment(alignment); }
+PDFParaAlignment PDFTextBox::SelAlignment() const { return own_->text.SelAlignment(); }
+void PDFTextBox::SetSelAlignment(PDFParaAlignment alignment) {
+  own_->text.SetSelAlignment(alignment);
+}
 
 std::shared_ptr<PDFGraphicsState> PDFTextBox::GraphicsState() {
   if (!graphicsState_) {
@@ -214,18 +259,18 @@ std::shared_ptr<PDFGraphicsState> PDFTextBox::GraphicsState() {
 
 void PDFTextBox::RegisterFaces(const Internal&) const {
   PDFResourceDictionary& resources = parentSurface_->ResourceDictionary();
-  text_->Runs().ForEach(
+  own_->text.Runs().ForEach(
       [&](const TEXT_FORMAT_RANGE& run) { resources.AddFontResource(*run.Font); });
 }
 
 void PDFTextBox::RenderTextBox(const Internal&, PDFText& content) {
   OfObject([&] { return KeyedName("PDFTextBox", Key()); },
            [&] {
-             if (autoSize_) AutoSizeBox();
-             const AnsiText ansi(text_->Text());
-             TextBoxRenderer(content, geometry_, frame_)
+             if (own_->autoSize) AutoSizeBox();
+             const AnsiText ansi(own_->text.Text());
+             TextBoxRenderer(content, own_->geometry, own_->frame)
                  .Render(surface_ ? surface_->Content().Bytes() : std::string_view(), ansi,
-                         text_->Runs());
+                         own_->text.Runs());
            });
 }
 

@@ -11,15 +11,14 @@
 #include "folivar/base/Value.h"
 #include "folivar/textbox/PDFBackGroundStyle.h"
 #include "folivar/textbox/PDFParaAlignment.h"
-#include "folivar/textbox/TextBoxFrame.h"
 
 namespace folivar {
 
+class Canvas;
 class Internal;
 class PDFFont;
 class PDFGraphicsState;
 class PDFText;
-class RichText;
 class Surface;
 
 // A rectangle of rich text on a page or a template; made by PDFTextBoxes::Add. Its text is edited
@@ -34,12 +33,12 @@ class Surface;
 // Positions in the text count UTF-16 units from 0.
 class FOLIVAR_API PDFTextBox final : public Tagged {
  public:
-  PDFTextBox(const Internal&, std::weak_ptr<Object> parent, std::shared_ptr<Surface> parentSurface,
+  PDFTextBox(const Internal&, std::weak_ptr<Canvas> parent, std::shared_ptr<Surface> parentSurface,
              TextView key);
   ~PDFTextBox() override;
 
   // The PDFPage or PDFTemplate that the box is on. Raises 91 when it is gone.
-  std::shared_ptr<Object> Parent() const;
+  std::shared_ptr<Canvas> Parent() const;
 
   // The key given to PDFTextBoxes::Add; empty without one.
   const folivar::Text& Key() const { return key_.AsText(); }
@@ -47,10 +46,10 @@ class FOLIVAR_API PDFTextBox final : public Tagged {
   // The edges. Left and Top are 0 at first; setting them moves the box. Setting the bottom above
   // the top, or the right edge to the left of the left one, makes it the edge on the other side and
   // that edge the opposite one.
-  float Left() const { return geometry_.left; }
-  void SetLeft(float left) { geometry_.left = left; }
-  float Top() const { return geometry_.top; }
-  void SetTop(float top) { geometry_.top = top; }
+  float Left() const;
+  void SetLeft(float left);
+  float Top() const;
+  void SetTop(float top);
   float Bottom() const;
   void SetBottom(float bottom);
   float Right() const;
@@ -59,9 +58,9 @@ class FOLIVAR_API PDFTextBox final : public Tagged {
   // At first as wide as a "W" in the default font, and, deliberate, only as high as its descender
   // is deep plus both margins. A negative width extends the box to the left, a negative height
   // upwards; what is kept is positive.
-  float Width() const { return geometry_.width; }
+  float Width() const;
   void SetWidth(float width);
-  float Height() const { return geometry_.height; }
+  float Height() const;
   void SetHeight(float height);
 
   // Sets Left, then Top, Width and Height as far as they are given.
@@ -71,28 +70,28 @@ class FOLIVAR_API PDFTextBox final : public Tagged {
   // Whether lines break at blanks where the width less the margins, rounded to whole points, would
   // be reached; true at first. A word that is too wide has a line of its own and is not broken.
   // Otherwise lines end at "\n" only.
-  bool WordWrap() const { return geometry_.wordWrap; }
-  void SetWordWrap(bool wordWrap) { geometry_.wordWrap = wordWrap; }
+  bool WordWrap() const;
+  void SetWordWrap(bool wordWrap);
 
   // Whether the box is sized to its text when it is drawn; false at first.
   //
   // Sizing makes the box as high as its lines and, without word wrap, as wide as its widest line,
   // plus the margins. Deliberate: with word wrap every sizing widens the box by both margins, so
   // that each save of the document draws it wider.
-  bool AutoSize() const { return autoSize_; }
-  void SetAutoSize(bool autoSize) { autoSize_ = autoSize; }
+  bool AutoSize() const;
+  void SetAutoSize(bool autoSize);
   // Sets AutoSize and sizes the box at once.
   void AutoSizeNow();
 
   // The space between the edges and the text; 2 each at first.
-  float MarginLeft() const { return geometry_.marginLeft; }
-  void SetMarginLeft(float margin) { geometry_.marginLeft = margin; }
-  float MarginTop() const { return geometry_.marginTop; }
-  void SetMarginTop(float margin) { geometry_.marginTop = margin; }
-  float MarginRight() const { return geometry_.marginRight; }
-  void SetMarginRight(float margin) { geometry_.marginRight = margin; }
-  float MarginBottom() const { return geometry_.marginBottom; }
-  void SetMarginBottom(float margin) { geometry_.marginBottom = margin; }
+  float MarginLeft() const;
+  void SetMarginLeft(float margin);
+  float MarginTop() const;
+  void SetMarginTop(float margin);
+  float MarginRight() const;
+  void SetMarginRight(float margin);
+  float MarginBottom() const;
+  void SetMarginBottom(float margin);
   void SetMargins(float left, float top, float right, float bottom);
 
   // Takes over another box's place, size, margins, wrapping, sizing, selection and text with its
@@ -102,14 +101,14 @@ class FOLIVAR_API PDFTextBox final : public Tagged {
 
   // Colours are 0x00BBGGRR: a white background, not shown unless BackStyle is bsOpaque (at first it
   // is bsTransparent), and a black border of width 1. A border width of 0 is no border.
-  std::int32_t BackColor() const { return frame_.backColor; }
-  void SetBackColor(std::int32_t color) { frame_.backColor = color; }
-  PDFBackGroundStyle BackStyle() const { return frame_.backStyle; }
-  void SetBackStyle(PDFBackGroundStyle style) { frame_.backStyle = style; }
-  std::int32_t BorderColor() const { return frame_.borderColor; }
-  void SetBorderColor(std::int32_t color) { frame_.borderColor = color; }
-  float BorderWidth() const { return frame_.borderWidth; }
-  void SetBorderWidth(float width) { frame_.borderWidth = width; }
+  std::int32_t BackColor() const;
+  void SetBackColor(std::int32_t color);
+  PDFBackGroundStyle BackStyle() const;
+  void SetBackStyle(PDFBackGroundStyle style);
+  std::int32_t BorderColor() const;
+  void SetBorderColor(std::int32_t color);
+  float BorderWidth() const;
+  void SetBorderWidth(float width);
   // Lengths of line and of gap; 1 and 0, a solid line, at first. A line of 0 with a gap that is not
   // 0 is no border.
   void SetBorderDashPattern(float dashOn, float dashOff);
@@ -186,24 +185,25 @@ class FOLIVAR_API PDFTextBox final : public Tagged {
   // box's frame and text, and end with the box.
   std::shared_ptr<PDFGraphicsState> GraphicsState();
 
+  // For the library
+
   // Lists the faces of all runs among the owner's resources.
   void RegisterFaces(const Internal&) const;
   // Appends what draws the box, which is sized first if it sizes itself.
   void RenderTextBox(const Internal&, PDFText& content);
 
  private:
+  struct Contents;
+
   void AutoSizeBox();
 
   MemberKey key_;
-  std::weak_ptr<Object> parent_;
+  std::weak_ptr<Canvas> parent_;
   std::shared_ptr<Surface> parentSurface_;
   // Both null at first: the graphics state, and what takes its operators.
   std::shared_ptr<Surface> surface_;
   std::shared_ptr<PDFGraphicsState> graphicsState_;
-  TextBoxGeometry geometry_;
-  TextBoxFrame frame_;
-  bool autoSize_ = false;
-  std::unique_ptr<RichText> text_;
+  std::unique_ptr<Contents> own_;
 };
 
 }  // namespace folivar

@@ -10,7 +10,7 @@
 
 namespace folivar {
 
-PDFTextBoxes::PDFTextBoxes(const Internal&, std::weak_ptr<Object> parent,
+PDFTextBoxes::PDFTextBoxes(const Internal&, std::weak_ptr<Canvas> parent,
                            std::shared_ptr<Surface> parentSurface)
     : MemberList("PDFTextBoxes"),
       parent_(std::move(parent)),

@@ -11,6 +11,7 @@
 
 namespace folivar {
 
+class Canvas;
 class Internal;
 class PDFText;
 class Surface;
@@ -20,7 +21,7 @@ struct ClipBox;
 // TextBoxes.
 class FOLIVAR_API PDFTextBoxes final : public Object, public MemberList<PDFTextBox> {
  public:
-  PDFTextBoxes(const Internal&, std::weak_ptr<Object> parent,
+  PDFTextBoxes(const Internal&, std::weak_ptr<Canvas> parent,
                std::shared_ptr<Surface> parentSurface);
 
   // Makes an empty box whose text is in a copy of the owner's current font, at the place before or
@@ -51,7 +52,7 @@ class FOLIVAR_API PDFTextBoxes final : public Object, public MemberList<PDFTextB
   void Render(const Internal&, PDFText& content) const;
 
  private:
-  std::weak_ptr<Object> parent_;
+  std::weak_ptr<Canvas> parent_;
   std::shared_ptr<Surface> parentSurface_;
 };
 

@@ -71,7 +71,8 @@ TEST(MeasuredRuns, EachRunHasItsFormat) {
 
 TEST(MeasuredRuns, MeasuresBeyondASingleRaise6) {
   const RunList list = ListOf({RunIn(RunFont(StandardFont("Courier", 3e38F)), 1)});
-  EXPECT_EQ(ErrorNumberOf([&] { MeasuredRuns(list, 1); }), Error::kOverflow);
+  EXPECT_EQ(ErrorNumberOf([&] { MeasuredRuns("a", list); }), Error::kOverflow);
+  EXPECT_NO_THROW(MeasuredRuns("", list));
 }
 
 }  // namespace
