@@ -3,7 +3,6 @@
 #include <string>
 #include <string_view>
 
-#include "folivar/base/Api.h"
 #include "folivar/base/Text.h"
 
 namespace folivar {
@@ -14,7 +13,7 @@ namespace folivar {
 char16_t FoldCase(char16_t unit);
 
 // The text with every unit folded: equal for texts that differ only in case.
-FOLIVAR_API std::u16string FoldCase(TextView text);
+std::u16string FoldCase(TextView text);
 
 bool StartsWithIgnoringCase(TextView text, TextView start);
 

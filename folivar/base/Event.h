@@ -81,6 +81,8 @@ class Event {
     return subscription;
   }
 
+  // For the library
+
   // Calls the handlers; the event may be gone afterwards. Returns the first exception that one of
   // them threw, null for none.
   [[nodiscard]] std::exception_ptr Raise(const Internal&, Args... args) {

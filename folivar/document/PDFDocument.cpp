@@ -1,9 +1,9 @@
 #include "folivar/document/PDFDocument.h"
 
+#include <array>
 #include <cassert>
 #include <cstdint>
 #include <utility>
-#include <vector>
 
 #include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
@@ -71,14 +71,15 @@ void PDFDocument::Save(TextView fileName) {
   };
 
   ObjectNumbers numbers;
-  std::vector<std::int32_t> ends;
+  std::array<std::int32_t, 6> ends{};  // the number behind each writer's last
+  auto end = ends.begin();
   forEachWriter([&](auto& writer) {
     writer.NumberObjects(internal, numbers);
-    ends.push_back(numbers.NextObjectNumber());
+    *end++ = numbers.NextObjectNumber();
   });
 
   SaveFile file(sink);
-  auto end = ends.begin();
+  end = ends.begin();
   forEachWriter([&](auto& writer) {
     writer.WriteObjects(internal, file);
     // A writer that writes more or fewer objects than it numbered breaks the file: caught here.

@@ -27,7 +27,6 @@ class FOLIVAR_API PDFDocument final : public Tagged {
   // Helvetica of size 10.
   static std::shared_ptr<PDFDocument> Create(Platform platform = {});
 
-  PDFDocument(const Internal&, Platform platform);
   ~PDFDocument() override;
 
   // Writes the document as it is now; an existing file is replaced. The same document gives the
@@ -49,6 +48,10 @@ class FOLIVAR_API PDFDocument final : public Tagged {
   // The font files that the document takes TrueType faces from before the system's: those of its
   // platform. What is added counts for faces that are added to Fonts from then on.
   std::shared_ptr<folivar::FontFiles> FontFiles() const { return platform_.fontFiles; }
+
+  // For the library
+
+  PDFDocument(const Internal&, Platform platform);
 
  private:
   void Initialise();

@@ -20,9 +20,6 @@ class PDFFont;
 // The pages of a document in reading order; reached through PDFDocument::Pages.
 class FOLIVAR_API PDFPages final : public Object, public MemberList<PDFPage> {
  public:
-  PDFPages(const Internal&, std::weak_ptr<PDFDocument> document,
-           std::shared_ptr<PDFFont> defaultFont);
-
   // Makes a page of 612 by 792 points whose current font is the document's default font, at the
   // place before or after the page that `before` or `after` names (position or key), or at the end.
   // An empty key is no key. Raises 5 when both places are given, 457 for a key in use, then 5 for a
@@ -47,6 +44,9 @@ class FOLIVAR_API PDFPages final : public Object, public MemberList<PDFPage> {
   }
 
   // For the library
+
+  PDFPages(const Internal&, std::weak_ptr<PDFDocument> document,
+           std::shared_ptr<PDFFont> defaultFont);
 
   void NumberObjects(const Internal&, ObjectNumbers& numbers);
   void WriteObjects(const Internal&, SaveFile& file);

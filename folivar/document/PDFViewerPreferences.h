@@ -34,8 +34,6 @@ enum PDFPageModeStyle : std::int32_t {
 // above is kept and writes nothing.
 class FOLIVAR_API PDFViewerPreferences final : public Object {
  public:
-  PDFViewerPreferences(const Internal&, std::weak_ptr<PDFCatalog> catalog);
-
   // Page layout and page mode live in the document; these four raise 91 when it is gone.
   PDFPageLayoutStyle PageLayout() const;
   void SetPageLayout(PDFPageLayoutStyle layout);
@@ -58,6 +56,10 @@ class FOLIVAR_API PDFViewerPreferences final : public Object {
   // is no mode to fall back to.
   PDFPageModeStyle NonFullScreenPageMode() const { return nonFullScreenPageMode_; }
   void SetNonFullScreenPageMode(PDFPageModeStyle mode);
+
+  // For the library
+
+  PDFViewerPreferences(const Internal&, std::weak_ptr<PDFCatalog> catalog);
 
  private:
   // `member` is the one that asks, for the text of an error.

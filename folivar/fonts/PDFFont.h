@@ -22,8 +22,6 @@ class PDFFonts;
 // is measured as it goes into the file: a character outside Windows code page 1252 as "?".
 class FOLIVAR_API PDFFont final : public Object {
  public:
-  PDFFont(const Internal&, std::shared_ptr<const PDFFontInfo> face, std::weak_ptr<PDFFonts> owner);
-
   // A font of its own with the same face, size and decorations.
   std::shared_ptr<PDFFont> Clone() const;
 
@@ -74,6 +72,8 @@ class FOLIVAR_API PDFFont final : public Object {
   void SetSuperscript(bool superscript) { superscript_ = superscript; }
 
   // For the library
+
+  PDFFont(const Internal&, std::shared_ptr<const PDFFontInfo> face, std::weak_ptr<PDFFonts> owner);
 
   // The face's record.
   const std::shared_ptr<const PDFFontInfo>& FontInfo(const Internal&) const { return face_; }

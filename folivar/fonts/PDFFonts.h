@@ -34,8 +34,6 @@ class KelCollection;
 // "TimesNewRoman,BoldItalic" is "Times New Roman,BoldItalic". A font type that is neither raises 5.
 class FOLIVAR_API PDFFonts final : public Object {
  public:
-  PDFFonts(const Internal&, std::shared_ptr<Warnings> warnings,
-           std::shared_ptr<SystemFonts> systemFonts, std::shared_ptr<FontFiles> fontFiles);
   ~PDFFonts() override;
 
   // A new font of size 10 without decorations. A standard face that does not exist is replaced by
@@ -69,6 +67,9 @@ class FOLIVAR_API PDFFonts final : public Object {
                                    Embedding embedding = Embedding::kNone) const;
 
   // For the library
+
+  PDFFonts(const Internal&, std::shared_ptr<Warnings> warnings,
+           std::shared_ptr<SystemFonts> systemFonts, std::shared_ptr<FontFiles> fontFiles);
 
   void NumberObjects(const Internal&, ObjectNumbers& numbers);
   void WriteObjects(const Internal&, SaveFile& file);

@@ -20,8 +20,6 @@ class SaveFile;
 // shown as a page's thumbnail: made by PDFImages::Add, and then given a file.
 class FOLIVAR_API PDFImage final : public Tagged, public XObject {
  public:
-  PDFImage(const Internal&, std::weak_ptr<PDFDocument> document, TextView key,
-           std::string resourceName);
   ~PDFImage() override;
 
   // Whether readers smooth the picture where it is drawn larger than it is; false at first.
@@ -55,6 +53,9 @@ class FOLIVAR_API PDFImage final : public Tagged, public XObject {
   std::int32_t Height() const;
 
   // For the library
+
+  PDFImage(const Internal&, std::weak_ptr<PDFDocument> document, TextView key,
+           std::string resourceName);
 
   void NumberObjects(const Internal&, ObjectNumbers& numbers);
   void WriteObjects(const Internal&, SaveFile& file) const;

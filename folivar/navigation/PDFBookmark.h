@@ -20,7 +20,6 @@ struct OutlinePlace;
 // One entry of the document's outline, with those below it; made by PDFBookmarks::Add.
 class FOLIVAR_API PDFBookmark final : public Tagged {
  public:
-  PDFBookmark(const Internal&, TextView key);
   ~PDFBookmark() override;
 
   // Empty at first. Deliberate: it is written as it stands, between parentheses, so that hosts may
@@ -43,6 +42,8 @@ class FOLIVAR_API PDFBookmark final : public Tagged {
   const Text& Key() const { return key_.AsText(); }
 
   // For the library
+
+  PDFBookmark(const Internal&, TextView key);
 
   // Null before first use.
   const std::shared_ptr<PDFBookmarks>& MadeSubBookmarks(const Internal&) const {

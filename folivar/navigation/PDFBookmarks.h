@@ -17,7 +17,6 @@ class Internal;
 // PDFDocument::Bookmarks and PDFBookmark::SubBookmarks. Bookmarks may lie as deep as memory allows.
 class FOLIVAR_API PDFBookmarks final : public Object, public MemberList<PDFBookmark> {
  public:
-  explicit PDFBookmarks(const Internal&);
   ~PDFBookmarks() override;
 
   // Makes a closed bookmark without a title, at the place before or after the bookmark that
@@ -40,6 +39,8 @@ class FOLIVAR_API PDFBookmarks final : public Object, public MemberList<PDFBookm
   }
 
   // For the library
+
+  explicit PDFBookmarks(const Internal&);
 
   // visit(PDFBookmark&) for each in order.
   template <class Visit>

@@ -25,8 +25,6 @@ class SaveFile;
 // the document is saved.
 class FOLIVAR_API PDFHyperLink final : public Tagged, public Region<PDFHyperLink> {
  public:
-  PDFHyperLink(const Internal&, TextView key);
-
   // Where it leads; the same object each time. A link that leads nowhere is still written.
   std::shared_ptr<PDFLinkDestination> Destination();
 
@@ -50,6 +48,8 @@ class FOLIVAR_API PDFHyperLink final : public Tagged, public Region<PDFHyperLink
   const Text& Key() const { return key_.AsText(); }
 
   // For the library
+
+  PDFHyperLink(const Internal&, TextView key);
 
   void NumberObjects(const Internal&, ObjectNumbers& numbers);
   // Destinations lead to `pages`.

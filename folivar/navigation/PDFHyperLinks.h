@@ -19,8 +19,6 @@ class PDFText;
 // the later one.
 class FOLIVAR_API PDFHyperLinks final : public Object, public MemberList<PDFHyperLink> {
  public:
-  PDFHyperLinks(const Internal&, std::weak_ptr<PDFPages> pages);
-
   // Makes a link with an empty region at the page's origin, at the place before or after the link
   // that `before` or `after` names (position or key), or at the end. An empty key is no key. Raises
   // 5 when both places are given, 457 for a key in use, then 5 for a key or 9 for a position that
@@ -32,6 +30,8 @@ class FOLIVAR_API PDFHyperLinks final : public Object, public MemberList<PDFHype
   void Remove(const Value& indexOrKey);
 
   // For the library
+
+  PDFHyperLinks(const Internal&, std::weak_ptr<PDFPages> pages);
 
   void NumberObjects(const Internal&, ObjectNumbers& numbers);
   void WriteObjects(const Internal&, SaveFile& file) const;

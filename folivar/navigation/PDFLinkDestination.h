@@ -24,8 +24,6 @@ class PDFText;
 // PDF cannot hold raises 6 when the document is saved.
 class FOLIVAR_API PDFLinkDestination final : public Object, public Region<PDFLinkDestination> {
  public:
-  explicit PDFLinkDestination(const Internal&) {}
-
   // Null at first, and null for none. It becomes null when the page is removed from its document's
   // Pages, moving it with ReOrder included. The page is not kept alive.
   std::shared_ptr<PDFPage> Page() const;
@@ -45,6 +43,8 @@ class FOLIVAR_API PDFLinkDestination final : public Object, public Region<PDFLin
   void SetZoom(float zoom) { zoom_ = zoom; }
 
   // For the library
+
+  explicit PDFLinkDestination(const Internal&) {}
 
   // Appends "/Dest " and the destination as an entry of a dictionary, if it leads to one of
   // `pages`.

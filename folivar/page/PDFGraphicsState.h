@@ -20,8 +20,6 @@ class Surface;
 // Colours are 0x00BBGGRR, red in the low byte; the top byte is kept but means nothing.
 class FOLIVAR_API PDFGraphicsState final : public Object {
  public:
-  PDFGraphicsState(const Internal&, std::shared_ptr<Surface> surface);
-
   // Black at first.
   std::int32_t FillColor() const;
   void SetFillColor(std::int32_t color);
@@ -56,6 +54,10 @@ class FOLIVAR_API PDFGraphicsState final : public Object {
   void Skew(float xAngle, float yAngle);
   // x' = a x + c y + e, y' = b x + d y + f.
   void SetTransformationMatrix(float a, float b, float c, float d, float e, float f);
+
+  // For the library
+
+  PDFGraphicsState(const Internal&, std::shared_ptr<Surface> surface);
 
  private:
   std::shared_ptr<Surface> surface_;

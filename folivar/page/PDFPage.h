@@ -24,9 +24,6 @@ class PDFTemplate;
 // from the bottom left corner; sizes and coordinates are not checked against the page.
 class FOLIVAR_API PDFPage final : public Canvas {
  public:
-  PDFPage(const Internal&, std::weak_ptr<PDFPages> parent, std::weak_ptr<PDFDocument> document,
-          std::shared_ptr<PDFFont> font, TextView key);
-
   // The key given to PDFPages::Add; empty without one.
   const Text& Key() const { return key_.AsText(); }
 
@@ -64,6 +61,9 @@ class FOLIVAR_API PDFPage final : public Canvas {
                     const Value& y = {});
 
   // For the library
+
+  PDFPage(const Internal&, std::weak_ptr<PDFPages> parent, std::weak_ptr<PDFDocument> document,
+          std::shared_ptr<PDFFont> font, TextView key);
 
   void NumberObjects(const Internal&, ObjectNumbers& numbers);
   // `treeNode` is the parent in the page tree.

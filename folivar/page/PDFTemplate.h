@@ -27,9 +27,6 @@ namespace folivar {
 // that fails does not grow it.
 class FOLIVAR_API PDFTemplate final : public Canvas, public XObject {
  public:
-  PDFTemplate(const Internal&, const std::weak_ptr<PDFDocument>& document,
-              std::shared_ptr<PDFFont> font, TextView key, std::string resourceName);
-
   // The edges of the clip box; points, 0 at first.
   float Left() const { return clipBox_.left; }
   void SetLeft(float left) { clipBox_.left = left; }
@@ -63,6 +60,9 @@ class FOLIVAR_API PDFTemplate final : public Canvas, public XObject {
   void ExpandClipBoxToFitTextBoxes();
 
   // For the library
+
+  PDFTemplate(const Internal&, const std::weak_ptr<PDFDocument>& document,
+              std::shared_ptr<PDFFont> font, TextView key, std::string resourceName);
 
   void NumberObjects(const Internal&, ObjectNumbers& numbers);
   void WriteObjects(const Internal&, SaveFile& file);

@@ -19,9 +19,6 @@ class PDFFont;
 // also those that no page shows; none can be taken out.
 class FOLIVAR_API PDFTemplates final : public Object, public MemberList<PDFTemplate> {
  public:
-  PDFTemplates(const Internal&, std::weak_ptr<PDFDocument> document,
-               std::shared_ptr<PDFFont> defaultFont);
-
   // Makes an empty template whose current font is the document's default font, at the place before
   // or after the template that `before` or `after` names (position or key), or at the end. An empty
   // key is no key. Raises 5 when both places are given, 457 for a key in use, then 5 for a key or 9
@@ -30,6 +27,9 @@ class FOLIVAR_API PDFTemplates final : public Object, public MemberList<PDFTempl
                                    const Value& after = {});
 
   // For the library
+
+  PDFTemplates(const Internal&, std::weak_ptr<PDFDocument> document,
+               std::shared_ptr<PDFFont> defaultFont);
 
   void NumberObjects(const Internal&, ObjectNumbers& numbers);
   void WriteObjects(const Internal&, SaveFile& file);

@@ -33,8 +33,6 @@ class Surface;
 // Positions in the text count UTF-16 units from 0.
 class FOLIVAR_API PDFTextBox final : public Tagged {
  public:
-  PDFTextBox(const Internal&, std::weak_ptr<Canvas> parent, std::shared_ptr<Surface> parentSurface,
-             TextView key);
   ~PDFTextBox() override;
 
   // The PDFPage or PDFTemplate that the box is on. Raises 91 when it is gone.
@@ -186,6 +184,9 @@ class FOLIVAR_API PDFTextBox final : public Tagged {
   std::shared_ptr<PDFGraphicsState> GraphicsState();
 
   // For the library
+
+  PDFTextBox(const Internal&, std::weak_ptr<Canvas> parent, std::shared_ptr<Surface> parentSurface,
+             TextView key);
 
   // Lists the faces of all runs among the owner's resources.
   void RegisterFaces(const Internal&) const;

@@ -21,9 +21,6 @@ struct ClipBox;
 // TextBoxes.
 class FOLIVAR_API PDFTextBoxes final : public Object, public MemberList<PDFTextBox> {
  public:
-  PDFTextBoxes(const Internal&, std::weak_ptr<Canvas> parent,
-               std::shared_ptr<Surface> parentSurface);
-
   // Makes an empty box whose text is in a copy of the owner's current font, at the place before or
   // after the box that `before` or `after` names (position or key), or at the end. An empty key is
   // no key. Raises 5 when both places are given, 457 for a key in use, then 5 for a key or 9 for a
@@ -43,6 +40,9 @@ class FOLIVAR_API PDFTextBoxes final : public Object, public MemberList<PDFTextB
   }
 
   // For the library
+
+  PDFTextBoxes(const Internal&, std::weak_ptr<Canvas> parent,
+               std::shared_ptr<Surface> parentSurface);
 
   // Grows a box of edges over every text box. Raises 6 for an edge beyond a single.
   void ExtendClipBox(const Internal&, ClipBox& clipBox) const;
