@@ -64,10 +64,9 @@ Text CounterpartName(const Text& name) {
   return name;
 }
 
-// Faces of TrueType fonts are kept by names without blanks.
-Text KeyOf(const Text& faceName, PDFFontType fontType) {
-  if (fontType == fontType1) return faceName;
-  std::u16string key = faceName.Utf16();
+// The keys of TrueType faces are names like this.
+Text WithoutBlanks(const Text& name) {
+  std::u16string key = name.Utf16();
   std::erase(key, u' ');
   return Text(key);
 }
@@ -101,19 +100,19 @@ PDFFonts::~PDFFonts() = default;
 std::shared_ptr<PDFFont> PDFFonts::Add(TextView faceName, PDFFontType fontType,
                                        Embedding embedding) {
   return InMember("PDFFonts.Add", [&] {
-    const Text name(faceName);
+    Text name(faceName);
     if (auto face = FindFaceRecord(name, fontType)) return FontOf(std::move(face));
     const bool embed = embedding == Embedding::kEmbed;
     return FontOf(fontType == fontType1 ? AddStandardFace(name)
-                                        : AddTrueTypeFace({name, false, false, embed}));
+                                        : AddTrueTypeFace({std::move(name), false, false, embed}));
   });
 }
 
 std::shared_ptr<PDFFont> PDFFonts::Item(const Value& indexOrKey, PDFFontType fontType) {
   return InMember("PDFFonts.Item", [&] {
     const FaceList& faces = FacesOf(fontType);
-    const Text* name = indexOrKey.As<Text>();
-    return FontOf(faces.Item(name ? Value(KeyOf(*name, fontType)) : indexOrKey));
+    const Text* name = fontType == fontTrueType ? indexOrKey.As<Text>() : nullptr;
+    return FontOf(faces.Item(name ? Value(WithoutBlanks(*name)) : indexOrKey));
   });
 }
 
@@ -180,8 +179,10 @@ const PDFFonts::FaceList& PDFFonts::FacesOf(PDFFontType fontType) const {
 std::shared_ptr<const PDFFontInfo> PDFFonts::FindFaceRecord(const Text& name,
                                                             PDFFontType fontType) const {
   const FaceList& faces = FacesOf(fontType);
-  const Text key = KeyOf(name, fontType);
-  return faces.KeyExists(key) ? faces.Item(key) : nullptr;
+  const auto find = [&](const Text& key) {
+    return faces.KeyExists(key) ? faces.Item(key) : nullptr;
+  };
+  return fontType == fontTrueType ? find(WithoutBlanks(name)) : find(name);
 }
 
 std::shared_ptr<const PDFFontInfo> PDFFonts::AddStandardFace(const Text& faceName) {

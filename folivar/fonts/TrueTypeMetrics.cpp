@@ -73,7 +73,7 @@ std::uint16_t CodeOf(std::uint16_t character) {
 
 std::shared_ptr<PDFFontInfo> LoadTrueTypeMetrics(const FaceWanted& wanted, SystemFace& face,
                                                  Warnings& warnings) {
-  const Text name = NameOf(face, wanted.name, warnings);
+  Text name = NameOf(face, wanted.name, warnings);
   const auto os2 = TableOf<OS2Table>(face);
   PDFFontInfo::Private own;
   if (wanted.embed) own.program = ProgramToEmbed(face, name, os2.MayEmbed(), warnings);
@@ -91,7 +91,7 @@ std::shared_ptr<PDFFontInfo> LoadTrueTypeMetrics(const FaceWanted& wanted, Syste
   info->m_FontType = fontTrueType;
   info->m_EmbedFont = info->Program() != nullptr;
   info->m_Embeddable = os2.MayEmbed();
-  info->m_FontFace = name;
+  info->m_FontFace = std::move(name);
   info->m_StrikeoutPosition = info->m_Ascender / 3;
   info->m_StrikeoutSize = os2.StrikeoutSize();
   info->m_UnderlinePosition = info->m_Descender / 2;
