@@ -5,6 +5,7 @@
 #include <string>
 
 #include "folivar/base/Error.h"
+#include "folivar/file/FileHandle.h"
 #include "folivar/file/FileSystem.h"
 
 namespace folivar {
@@ -53,7 +54,10 @@ std::optional<FileStamp> StampOf(const Text& name) {
   return FileStamp{size, time.time_since_epoch().count()};
 }
 
-Text AbsoluteName(const Text& name) { return NameOf(fs::absolute(name.Utf8())); }
+Text AbsoluteName(const Text& name) {
+  CheckFileName(name);
+  return NameOf(fs::absolute(name.Utf8()));
+}
 
 std::vector<FolderEntry> EntriesOf(const Text& folder, std::error_code& error) {
   std::vector<FolderEntry> entries;

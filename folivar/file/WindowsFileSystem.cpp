@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "folivar/base/Error.h"
+#include "folivar/file/FileHandle.h"
 #include "folivar/file/FileSystem.h"
 
 namespace folivar {
@@ -50,6 +51,7 @@ std::optional<FileStamp> StampOf(const Text& name) {
 }
 
 Text AbsoluteName(const Text& name) {
+  CheckFileName(name);
   const std::wstring relative = WideFrom(name);
   std::wstring absolute(MAX_PATH, L'\0');
   for (;;) {

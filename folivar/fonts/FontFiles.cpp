@@ -42,13 +42,6 @@ bool IsNamedLikeAFont(const Text& path) {
   });
 }
 
-// The file or folder, wherever the working folder will be. Raises 52 for what cannot be a name.
-Text NameIn(TextView name) {
-  const Text text(name);
-  CheckFileName(text);
-  return AbsoluteName(text);
-}
-
 std::int32_t NumberOf(const std::error_code& error) {
   if (error == std::errc::permission_denied) return Error::kPermissionDenied;
   if (error == std::errc::no_such_file_or_directory) return Error::kPathNotFound;
@@ -89,14 +82,14 @@ FontFiles::FontFiles() = default;
 FontFiles::~FontFiles() = default;
 
 void FontFiles::AddFile(TextView fileName) {
-  InMember("FontFiles.AddFile", [&] { Add(NameIn(fileName)); });
+  InMember("FontFiles.AddFile", [&] { Add(AbsoluteName(Text(fileName))); });
 }
 
 std::vector<Text> FontFiles::AddFolder(TextView folderName) {
   return InMember("FontFiles.AddFolder", [&] {
     std::vector<Text> leftOut;
     std::vector<Text> files;
-    std::vector<Text> folders = {NameIn(folderName)};
+    std::vector<Text> folders = {AbsoluteName(Text(folderName))};
     ListFolder(folders.front(), files, folders);
     // The list grows by the folders that are found.
     for (std::size_t i = 1; i < folders.size(); ++i) {

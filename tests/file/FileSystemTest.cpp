@@ -1,0 +1,125 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <system_error>
+#include <vector>
+
+#include "folivar/base/Error.h"
+#include "folivar/file/FileSystem.h"
+#include "tests/support/Content.h"
+#include "tests/support/TestFiles.h"
+
+namespace folivar::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+Text NameOf(const fs::path& path) { return Text(path.u8string()); }
+
+// A new folder with a file, a folder, and a link to each and to nothing.
+class FileSystem : public testing::Test {
+ protected:
+  FileSystem() {
+    fs::create_directories(folder_ / "below");
+    WriteBytes(folder_ / "file", "bytes");
+    fs::create_symlink("file", folder_ / "to file");
+    fs::create_symlink("below", folder_ / "to folder");
+    fs::create_symlink("missing", folder_ / "to nothing");
+  }
+
+  // The entries' own names, sorted: "file: kFile", "to file: kFile, a link".
+  std::vector<std::string> Listed() const {
+    static const std::vector<std::string> kKinds = {"kNone", "kFile", "kFolder", "kOther"};
+    std::error_code error;
+    std::vector<std::string> lines;
+    for (const FolderEntry& entry : EntriesOf(NameOf(folder_), error)) {
+      const fs::path path = entry.name.Utf8();
+      EXPECT_EQ(path.parent_path(), folder_);
+      lines.push_back(path.filename().string() + ": " +
+                      kKinds[static_cast<std::size_t>(entry.kind)] +
+                      (entry.isLink ? ", a link" : ""));
+    }
+    EXPECT_FALSE(error) << error.message();
+    std::sort(lines.begin(), lines.end());
+    return lines;
+  }
+
+  const fs::path folder_ = OutputPath("folder");
+};
+
+using Lines = std::vector<std::string>;
+
+TEST_F(FileSystem, TheKindOfALinkIsThatOfWhatItLeadsTo) {
+  EXPECT_EQ(KindOf(NameOf(folder_ / "file")), FileKind::kFile);
+  EXPECT_EQ(KindOf(NameOf(folder_ / "below")), FileKind::kFolder);
+  EXPECT_EQ(KindOf(NameOf(folder_ / "missing")), FileKind::kNone);
+  EXPECT_EQ(KindOf(NameOf(folder_ / "file" / "below a file")), FileKind::kNone);
+  EXPECT_EQ(KindOf(Text("/dev/null")), FileKind::kOther);
+  EXPECT_EQ(KindOf(NameOf(folder_ / "to file")), FileKind::kFile);
+  EXPECT_EQ(KindOf(NameOf(folder_ / "to folder")), FileKind::kFolder);
+  EXPECT_EQ(KindOf(NameOf(folder_ / "to nothing")), FileKind::kNone);
+}
+
+TEST_F(FileSystem, AStampChangesWhenTheFileDoes) {
+  const fs::path path = folder_ / "file";
+  const FileStamp before = *StampOf(NameOf(path));
+  EXPECT_EQ(before.size, 5U);
+  EXPECT_EQ(StampOf(NameOf(path))->time, before.time) << "nothing has changed";
+
+  fs::last_write_time(path, fs::last_write_time(path) - std::chrono::seconds(2));
+  const FileStamp older = *StampOf(NameOf(path));
+  EXPECT_EQ(older.size, 5U);
+  EXPECT_LT(older.time, before.time);
+
+  WriteBytes(path, "more bytes");
+  EXPECT_EQ(StampOf(NameOf(path))->size, 10U);
+}
+
+TEST_F(FileSystem, WhatIsNotThereHasNoStamp) {
+  EXPECT_FALSE(StampOf(NameOf(folder_ / "missing")).has_value());
+  EXPECT_FALSE(StampOf(NameOf(folder_ / "to nothing")).has_value());
+}
+
+TEST_F(FileSystem, ANameIsTakenFromTheWorkingFolder) {
+  const fs::path before = fs::current_path();
+  fs::current_path(folder_);
+  const Text name = AbsoluteName(Text("below/file"));
+  fs::current_path(before);
+  EXPECT_EQ(name, NameOf(folder_ / "below" / "file"));
+  EXPECT_EQ(AbsoluteName(name), name) << "wherever the working folder is";
+}
+
+TEST_F(FileSystem, WhatCannotBeANameRaises52) {
+  EXPECT_EQ(ErrorNumberOf([] { AbsoluteName(Text()); }), Error::kBadFileName);
+  EXPECT_EQ(ErrorNumberOf([] { AbsoluteName(Text(std::string("a\0b", 3))); }), Error::kBadFileName);
+}
+
+TEST_F(FileSystem, AFolderListsItsEntriesWithTheirKinds) {
+  EXPECT_EQ(Listed(), (Lines{"below: kFolder", "file: kFile", "to file: kFile, a link",
+                             "to folder: kFolder, a link", "to nothing: kNone, a link"}));
+}
+
+TEST_F(FileSystem, ANameThatIsNotUtf8IsShownAsFarAsItIsAscii) {
+  for (const auto& entry : fs::directory_iterator(folder_)) fs::remove_all(entry.path());
+  WriteBytes(folder_ / "caf\xE9", "");
+  EXPECT_EQ(Listed(), Lines{"caf?: kFile"});
+  EXPECT_EQ(KindOf(NameOf(folder_ / "caf?")), FileKind::kNone);
+}
+
+TEST_F(FileSystem, WhatIsNoFolderListsNothingAndSaysWhy) {
+  std::error_code error;
+  EXPECT_TRUE(EntriesOf(NameOf(folder_ / "missing"), error).empty());
+  EXPECT_EQ(error, std::errc::no_such_file_or_directory);
+  EXPECT_TRUE(EntriesOf(NameOf(folder_ / "file"), error).empty());
+  EXPECT_EQ(error, std::errc::not_a_directory);
+  EXPECT_TRUE(EntriesOf(NameOf(folder_ / "below"), error).empty());
+  EXPECT_FALSE(error) << "an empty folder is none the less one";
+}
+
+}  // namespace
+}  // namespace folivar::test
