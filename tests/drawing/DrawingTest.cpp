@@ -172,13 +172,6 @@ TEST(DrawText, WhatCannotBeWrittenAppendsNothing) {
       "");
 }
 
-TEST(DrawText, ErrorNamesTheMemberAndTheValue) {
-  ContentAfter([](PDFPage& page) {
-    EXPECT_EQ(ErrorTextOf([&] { page.DrawText("a", kInfinity, 0); }),
-              "PDFPage.DrawText: a value of inf cannot be written: PDF numbers are below 2^31");
-  });
-}
-
 TEST(DrawTextAligned, EmptyTextDrawsNothing) {
   EXPECT_EQ(ContentAfter([](PDFPage& page) { page.DrawTextAligned("", 0, 0, 10, 10); }), "");
 }
@@ -364,10 +357,6 @@ TEST(DrawLine, StrokesAndMovesThePen) {
             "10  20  m\n30  40  l\nS\n30  40  m\n50  60  l\nS\n");
 }
 
-TEST(DrawLineTo, StartsAtTheOriginOfANewPage) {
-  EXPECT_EQ(ContentAfter([](PDFPage& page) { page.DrawLineTo(5, 6); }), "0  0  m\n5  6  l\nS\n");
-}
-
 TEST(DrawLine, FailureDoesNotMoveThePen) {
   EXPECT_EQ(ContentAfter([](PDFPage& page) {
               page.SetCurPos(1, 2);
@@ -377,16 +366,6 @@ TEST(DrawLine, FailureDoesNotMoveThePen) {
               page.DrawLineTo(3, 4);
             }),
             "1  2  m\n3  4  l\nS\n");
-}
-
-TEST(SetCurPos, AppendsNothingAndIsRead) {
-  EXPECT_EQ(ContentAfter([](PDFPage& page) {
-              page.SetCurPos(7.5F, -3);
-              const auto [x, y] = page.GetCurPos();
-              EXPECT_EQ(x, 7.5F);
-              EXPECT_EQ(y, -3);
-            }),
-            "");
 }
 
 // Deliberate: the "m" before "re" and the "n" after "f" change nothing.
@@ -543,8 +522,6 @@ TEST(DrawImage, WhatCannotBeDrawnIsNeitherWrittenNorListed) {
   EXPECT_EQ(number(Value::Empty(), {}), Error::kTypeMismatch);
   EXPECT_EQ(number({}, Value::Null()), Error::kInvalidNull);
   EXPECT_EQ(ErrorNumberOf([&] { page->DrawImage(nullptr, 0, 0); }), Error::kObjectNotSet);
-  EXPECT_EQ(ErrorTextOf([&] { page->DrawImage(nullptr, 0, 0); }),
-            "PDFPage.DrawImage: no image is given");
   EXPECT_EQ(ContentOf(*page), "");
   const SavedDocument saved = Save(*document, "nothing.pdf");
   EXPECT_EQ(saved.pdf.Object(4).find("/XObject"), std::string_view::npos);

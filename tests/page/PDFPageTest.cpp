@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <any>
 #include <limits>
 #include <memory>
 #include <string>
@@ -16,16 +15,13 @@
 namespace folivar::test {
 namespace {
 
-TEST(PDFPage, StartsAsLetterInTheDefaultFontWithoutAClipBox) {
+TEST(PDFPage, StartsAsLetterWithoutAClipBox) {
   const auto document = PDFDocument::Create();
   const auto page = document->Pages()->Add();
   EXPECT_EQ(page->Width(), 612);
   EXPECT_EQ(page->Height(), 792);
   EXPECT_EQ(page->Key(), "");
-  EXPECT_EQ(page->Font()->FontFace(), "Helvetica");
-  EXPECT_EQ(page->Font()->Size(), 10);
   EXPECT_EQ(page->ParentDocument(), document);
-  EXPECT_TRUE(page->Tag().IsEmpty());
   const auto [left, bottom, right, top] = page->GetClipBox();
   EXPECT_EQ(left, -1);
   EXPECT_EQ(bottom, -1);
@@ -79,36 +75,6 @@ TEST(PDFPage, FontChosenIsListedEvenWhenNothingIsDrawn) {
   EXPECT_NE(saved.pdf.Object(4).find("/Font << /F0 6 0 R\n /F1 7 0 R\n >>\n"), std::string::npos);
 }
 
-TEST(PDFPage, NoFontRaisesAndKeepsTheOldOne) {
-  const auto document = PDFDocument::Create();
-  const auto page = document->Pages()->Add();
-  const auto font = page->Font();
-  EXPECT_EQ(ErrorNumberOf([&] { page->SetFont(nullptr); }), Error::kObjectNotSet);
-  EXPECT_EQ(page->Font(), font);
-}
-
-TEST(PDFPage, FontOfAnotherDocumentIsRefused) {
-  const auto document = PDFDocument::Create();
-  const auto other = PDFDocument::Create();
-  const auto page = document->Pages()->Add();
-  const auto font = page->Font();
-  EXPECT_EQ(ErrorTextOf([&] { page->SetFont(other->Fonts()->Add("Courier")); }),
-            "PDFPage.Font: font 'Courier': belongs to another document");
-  EXPECT_EQ(page->Font(), font);
-}
-
-TEST(PDFPage, FontChangedLaterShowsInWhatIsDrawnLater) {
-  const auto document = PDFDocument::Create();
-  const auto page = document->Pages()->Add();
-  const auto font = page->Font()->Clone();
-  page->SetFont(font);
-  page->DrawText("a", 0, 0);
-  font->SetSize(12.5F);
-  page->DrawText("b", 0, 0);
-  EXPECT_EQ(ContentOf(*page),
-            "BT\n/F0 10  Tf\n0  0  Td\n(a) Tj\nET\nBT\n/F0 12.5  Tf\n0  0  Td\n(b) Tj\nET\n");
-}
-
 TEST(PDFPage, SizeThatCannotBeWrittenFailsTheSaveAndNamesThePage) {
   const auto document = PDFDocument::Create();
   const auto page = document->Pages()->Add("cover");
@@ -127,19 +93,6 @@ TEST(PDFPage, NegativeAndZeroSizesAreWrittenAsGiven) {
   document->Pages()->Add()->SetPageExtents(0, -5.5F);
   const SavedDocument saved = Save(*document, "negative", Check::kForm);
   EXPECT_NE(saved.pdf.Object(4).find("/MediaBox [ 0 0 0  -5.5 ]\n"), std::string::npos);
-}
-
-TEST(PDFPage, TagHoldsAnything) {
-  const auto document = PDFDocument::Create();
-  const auto page = document->Pages()->Add();
-  page->SetTag(42);
-  EXPECT_EQ(*page->Tag().As<std::int64_t>(), 42);
-  page->SetTag("text");
-  EXPECT_EQ(*page->Tag().As<Text>(), "text");
-  page->SetTag(page->Font());
-  EXPECT_EQ(*page->Tag().As<std::shared_ptr<Object>>(), page->Font());
-  page->SetTag(Value::Host(std::string("my own")));
-  EXPECT_EQ(std::any_cast<std::string>(*page->Tag().As<std::any>()), "my own");
 }
 
 TEST(PDFPage, ThumbnailIsWrittenWhenItIsSet) {
@@ -194,16 +147,6 @@ TEST(PDFPage, TextBoxesAreDrawnBehindThePagesOwnContentInTheirOrder) {
   page->TextBoxes()->ReOrder("first");
   const std::string reordered(Save(*document, "boxes.pdf").pdf.Stream(5));
   EXPECT_GT(reordered.find("(a) Tj"), reordered.find("9.44"));
-}
-
-TEST(PDFPage, AGraphicsStateOfATextBoxIsItsOwn) {
-  EXPECT_EQ(ContentAfter([](PDFPage& page) {
-              const auto box = page.TextBoxes()->Add();
-              box->GraphicsState()->SetFillColor(7);
-              EXPECT_EQ(page.GraphicsState()->FillColor(), 0);
-              page.TextBoxes()->Remove(1);
-            }),
-            "");
 }
 
 }  // namespace
