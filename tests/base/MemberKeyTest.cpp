@@ -7,21 +7,21 @@
 namespace folivar::test {
 namespace {
 
-TEST(MemberKeyTest, IsEmptyWithoutAKey) {
+TEST(MemberKey, IsEmptyWithoutAKey) {
   EXPECT_EQ(MemberKey(TextView()).AsText(), "");
   EXPECT_EQ(MemberKey(u"").AsText(), "");
 }
 
-TEST(MemberKeyTest, KeepsTheKeyAsItIs) {
+TEST(MemberKey, KeepsTheKeyAsItIs) {
   EXPECT_EQ(MemberKey("Seite \u00C4").AsText(), u"Seite \u00C4");
   EXPECT_EQ(MemberKey(u"1").AsText(), "1");
 }
 
-TEST(MemberKeyTest, IsUtf8) {
+TEST(MemberKey, IsUtf8) {
   EXPECT_EQ(ErrorNumberOf([] { const MemberKey key("\xFF"); }), Error::kInvalidArgument);
 }
 
-TEST(MemberKeyTest, TakesNoMoreThanAPointer) { EXPECT_EQ(sizeof(MemberKey), sizeof(void*)); }
+TEST(MemberKey, TakesNoMoreThanAPointer) { EXPECT_EQ(sizeof(MemberKey), sizeof(void*)); }
 
 }  // namespace
 }  // namespace folivar::test
