@@ -39,15 +39,6 @@ TEST(StandardFaces, ANameThatIsNotUtf8Raises5) {
   EXPECT_EQ(ErrorNumberOf([] { FindStandardFace("\xFF"); }), Error::kInvalidArgument);
 }
 
-TEST(StandardFaces, AreBuiltInByteForByte) {
-  for (const StandardFaceFile& file : StandardFaceFiles()) {
-    std::string bytes;
-    for (std::size_t i = 0; i < file.pieceCount; ++i) bytes += file.pieces[i];
-    // Not EXPECT_EQ, which would print both.
-    EXPECT_TRUE(bytes == AfmBytes(file.name)) << file.name;
-  }
-}
-
 TEST(StandardFaces, AreReadOncePerProcessFromAnyThread) {
   constexpr std::size_t kThreads = 8;
   std::vector<std::vector<const AfmMetrics*>> found(kThreads);
