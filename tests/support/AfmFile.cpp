@@ -34,10 +34,7 @@ AfmFile ReadAfmFile(std::string_view face) {
     if (std::regex_match(line, match, kGlyph)) {
       ++glyphLines;
       const int code = std::stoi(match[1]);
-      if (code == -1) {
-        ++afm.unencodedGlyphs;
-        continue;
-      }
+      if (code == -1) continue;
       const AfmFile::Glyph glyph{
           std::stof(match[2]),
           {std::stof(match[3]), std::stof(match[4]), std::stof(match[5]), std::stof(match[6])}};

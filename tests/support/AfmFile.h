@@ -22,8 +22,6 @@ struct AfmFile {
   std::map<std::string, std::vector<float>> header;
   // The encoded glyphs, by code.
   std::map<int, Glyph> glyphs;
-  // How many lines have the code -1.
-  int unencodedGlyphs = 0;
 };
 
 // `face` is a face's name: "Helvetica".
