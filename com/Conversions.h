@@ -55,7 +55,7 @@ struct Given {
   template <class Wanted>
   operator std::shared_ptr<Wanted>() const {
     auto wanted = std::dynamic_pointer_cast<Wanted>(object);
-    if (object && !wanted) throw Error::TypeMismatch("An object is of the wrong class");
+    if (object && !wanted) throw Error::TypeMismatch("an object is of the wrong class");
     return wanted;
   }
   Shared<Object> object;

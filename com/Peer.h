@@ -1,9 +1,7 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <tuple>
-#include <utility>
 
 #include "com/ComPrefix.h"
 #include "com/Conversions.h"

@@ -87,7 +87,7 @@ Shared<Object> ObjectBehind(IUnknown* pointer) {
   if (pointer == nullptr) return nullptr;
   Microsoft::WRL::ComPtr<PeerBase> peer;
   if (FAILED(pointer->QueryInterface(kPeerId, &peer))) {
-    throw Error::TypeMismatch("An object is none of Folivar's");
+    throw Error::TypeMismatch("an object is none of Folivar's");
   }
   return peer->TheObject();
 }

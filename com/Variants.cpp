@@ -138,7 +138,7 @@ Value TagFrom(const VARIANT& tag) {
 Value ObjectTagFrom(const VARIANT& tag) {
   const Variant held(tag);
   if (held->vt != VT_DISPATCH && held->vt != VT_UNKNOWN) {
-    throw Error(kObjectRequired, "A tag that is set by reference must be an object");
+    throw Error(kObjectRequired, "a tag that is set by reference must be an object");
   }
   return TagFrom(tag);
 }
@@ -146,7 +146,7 @@ Value ObjectTagFrom(const VARIANT& tag) {
 void CopyTag(const Value& tag, VARIANT* result) {
   if (const auto* host = tag.As<std::any>()) {
     const VARIANT& held = ***std::any_cast<TagVariant>(host);
-    if (!Copy(&VariantCopy, result, held)) throw Error::TypeMismatch("A tag cannot be copied");
+    if (!Copy(&VariantCopy, result, held)) throw Error::TypeMismatch("a tag cannot be copied");
   }
 }
 

@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <iterator>
 #include <memory>
-#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -75,15 +74,15 @@ class MemberList {
   Iterator begin() const {
     std::vector<std::shared_ptr<T>> members;
     members.reserve(members_.Count());
-    for (Members::Member& member : members_.All()) {
-      members.push_back(std::static_pointer_cast<T>(std::move(member)));
-    }
+    members_.ForEach([&](Object& member) {
+      members.push_back(std::static_pointer_cast<T>(member.shared_from_this()));
+    });
     return Iterator(std::move(members));
   }
   std::default_sentinel_t end() const { return {}; }
 
  protected:
-  explicit MemberList(const char* name) : members_(name) {}
+  MemberList(const Internal& internal, const char* name) : members_(internal, name) {}
   ~MemberList() = default;
 
   // visit(T&) for each in order; the members must not change meanwhile.

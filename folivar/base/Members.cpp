@@ -6,7 +6,8 @@
 
 namespace folivar {
 
-Members::Members(const char* name) : list_(std::make_unique<KelCollection<Member>>(name)) {}
+Members::Members(const Internal&, const char* name)
+    : list_(std::make_unique<KelCollection<Member>>(name)) {}
 
 Members::~Members() = default;
 
@@ -15,13 +16,6 @@ std::size_t Members::Count() const { return list_->Count(); }
 const Members::Member& Members::Item(const Value& index) const { return list_->Item(index); }
 
 bool Members::KeyExists(const Value& index) const noexcept { return list_->KeyExists(index); }
-
-std::vector<Members::Member> Members::All() const {
-  std::vector<Member> all;
-  all.reserve(list_->Count());
-  list_->ForEach([&](const Member& member) { all.push_back(member); });
-  return all;
-}
 
 void Members::Add(Member member, TextView key, const Value& before, const Value& after) {
   list_->Add(std::move(member), key, before, after);

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <memory>
-#include <vector>
 
 #include "folivar/base/Api.h"
 #include "folivar/base/Object.h"
@@ -11,24 +10,23 @@
 
 namespace folivar {
 
+class Internal;
 template <class T>
 class KelCollection;
 
-// What a MemberList keeps: members of any class in order, each with an optional key. The rules and
-// the errors are KelCollection's.
+// What a MemberList keeps: members of any class in order, each with an optional key. One list
+// serves all classes, and hosts need not see it. The rules and the errors are KelCollection's.
 class FOLIVAR_API Members {
  public:
   using Member = std::shared_ptr<Object>;
 
   // `name` stands in error texts, for example "PDFPages"; a literal.
-  explicit Members(const char* name);
+  Members(const Internal&, const char* name);
   ~Members();
 
   std::size_t Count() const;
   const Member& Item(const Value& index) const;
   bool KeyExists(const Value& index) const noexcept;
-  // As they are now.
-  std::vector<Member> All() const;
 
   void Add(Member member, TextView key, const Value& before, const Value& after);
   void Remove(const Value& index);

@@ -116,6 +116,9 @@ char* FormatReal(char* out, double x) {
   return WriteFraction(out, static_cast<std::uint32_t>(scaled % 10000));
 }
 
+const Text& MaxOf(const Text& a, const Text& b) { return CompareIgnoringCase(a, b) >= 0 ? a : b; }
+const Text& MinOf(const Text& a, const Text& b) { return CompareIgnoringCase(a, b) <= 0 ? a : b; }
+
 std::int16_t FindLastInRange(TextView s, TextView find, std::int16_t start, std::int16_t stop) {
   const std::u16string text = FoldCase(s);
   const std::u16string wanted = FoldCase(find);

@@ -25,7 +25,7 @@ char* FormatReal(char* out, double x);
 template <class T>
 concept Arithmetic = std::is_arithmetic_v<T>;
 
-// On a tie the first argument.
+// On a tie the first argument. Texts compare without regard to case.
 template <Arithmetic Number>
 constexpr Number MaxOf(Number a, Number b) {
   return a >= b ? a : b;
@@ -34,6 +34,8 @@ template <Arithmetic Number>
 constexpr Number MinOf(Number a, Number b) {
   return a <= b ? a : b;
 }
+const Text& MaxOf(const Text& a, const Text& b);
+const Text& MinOf(const Text& a, const Text& b);
 
 // The position (from 1) of the last `find` in `s` between positions `start` and `stop`, compared
 // without regard to case; a stop of 0, or beyond the end, is the end, a start below 1 is 1.

@@ -84,13 +84,11 @@ class KelCollection {
     }
   }
 
-  // Whether Item would succeed. Never raises; `index` is anything that makes a Value.
-  template <class Index>
-  bool KeyExists(const Index& index) const noexcept {
+  // Whether Item would succeed. Never raises.
+  bool KeyExists(const Value& index) const noexcept {
     try {
-      const Value& value = index;
-      if (const auto* key = value.template As<Text>()) return byKey_.contains(FoldCase(*key));
-      return Holds(PositionFrom(value));
+      if (const auto* key = index.template As<Text>()) return byKey_.contains(FoldCase(*key));
+      return Holds(PositionFrom(index));
     } catch (...) {
       return false;
     }

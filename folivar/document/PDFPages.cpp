@@ -11,9 +11,9 @@
 
 namespace folivar {
 
-PDFPages::PDFPages(const Internal&, std::weak_ptr<PDFDocument> document,
+PDFPages::PDFPages(const Internal& internal, std::weak_ptr<PDFDocument> document,
                    std::shared_ptr<PDFFont> defaultFont)
-    : MemberList("PDFPages"),
+    : MemberList(internal, "PDFPages"),
       document_(std::move(document)),
       defaultFont_(std::move(defaultFont)) {}
 

@@ -1,5 +1,6 @@
 #include "folivar/document/PDFResourceDictionary.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -19,8 +20,13 @@ void AddOnce(std::unique_ptr<XObjects>& objects, const std::shared_ptr<const XOb
 }
 
 template <class XObjects>
-void AppendEntries(PDFText& text, const XObjects* objects) {
-  if (objects == nullptr) return;
+bool HasEntries(const std::unique_ptr<XObjects>& objects) {
+  return objects && objects->Count() > 0;
+}
+
+template <class XObjects>
+void AppendEntries(PDFText& text, const std::unique_ptr<XObjects>& objects) {
+  if (!HasEntries(objects)) return;
   objects->ForEach([&](const std::shared_ptr<const XObject>& object) {
     text.Append(" ", std::string_view(object->ResourceName(Internal())), " ",
                 object->ObjectNumber(Internal()), "\n");
@@ -31,9 +37,10 @@ void AppendEntries(PDFText& text, const XObjects* objects) {
 
 void PDFResourceDictionary::AddFontResource(const PDFFont& font) {
   const std::shared_ptr<const PDFFontInfo>& face = font.FontInfo(Internal());
-  if (face.get() == latestFace_) return;
+  if (std::find(recentFaces_.begin(), recentFaces_.end(), face.get()) != recentFaces_.end()) return;
   if (!fonts_.KeyExists(face->m_PDFName)) fonts_.Add(face, face->m_PDFName);
-  latestFace_ = face.get();
+  recentFaces_[oldestFace_++] = face.get();
+  oldestFace_ %= recentFaces_.size();
 }
 
 void PDFResourceDictionary::AddTemplateResource(const std::shared_ptr<const XObject>& placed) {
@@ -50,10 +57,10 @@ void PDFResourceDictionary::BuildResourceText(PDFText& text) const {
     text.Append(" ", std::string_view(face->m_PDFName), " ", face->ObjectNumber(), "\n");
   });
   text.Append(" >>\n");
-  if (templates_ || images_) {
+  if (HasEntries(templates_) || HasEntries(images_)) {
     text.Append("/XObject <<");
-    AppendEntries(text, templates_.get());
-    AppendEntries(text, images_.get());
+    AppendEntries(text, templates_);
+    AppendEntries(text, images_);
     text.Append(" >>\n");
   }
   text.Append(">>\n");

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <memory>
 
 #include "folivar/document/KelCollection.h"
@@ -15,8 +17,8 @@ class XObject;
 // first use. Entries are never removed.
 class PDFResourceDictionary {
  public:
-  // Lists the font's face; doing so again is harmless, and costs nothing for the face of the last
-  // call: every text drawn calls this.
+  // Lists the font's face; doing so again is harmless, and costs next to nothing for the faces
+  // listed last: every text drawn calls this.
   void AddFontResource(const PDFFont& font);
 
   // List a template or an image; doing so again is harmless.
@@ -41,7 +43,9 @@ class PDFResourceDictionary {
   using XObjects = KelCollection<std::shared_ptr<const XObject>>;
 
   Faces fonts_{"PDFResourceDictionary"};
-  const PDFFontInfo* latestFace_ = nullptr;  // held by fonts_
+  // Held by fonts_. Text changes to and fro between few faces.
+  std::array<const PDFFontInfo*, 4> recentFaces_{};
+  std::size_t oldestFace_ = 0;  // of the recent ones
   // Made on first use: most pages have none.
   std::unique_ptr<XObjects> templates_;
   std::unique_ptr<XObjects> images_;

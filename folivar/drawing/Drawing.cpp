@@ -288,7 +288,7 @@ void Drawing::DrawRect(float left, float bottom, float width, float height, Pain
 //   Q
 void Drawing::DrawTemplate(const std::shared_ptr<const XObject>& placed, const Value& x,
                            const Value& y) {
-  surface_.CheckIsOfDocument(placed.get(), "template");
+  surface_.CheckIsOfDocument(placed.get(), "PDFTemplate");
   const std::string_view name = placed->ResourceName(Internal());
   Operation operation(surface_, growing_);
   if (x.IsMissing() || y.IsMissing()) {
@@ -307,7 +307,7 @@ void Drawing::DrawTemplate(const std::shared_ptr<const XObject>& placed, const V
 //   Q
 void Drawing::DrawImage(const std::shared_ptr<PDFImage>& image, float x, float y,
                         const Value& width, const Value& height, AspectRatio aspectRatio) {
-  surface_.CheckIsOfDocument(image.get(), "image");
+  surface_.CheckIsOfDocument(image.get(), "PDFImage");
   const double pixelWidth = image->Width();
   const double pixelHeight = image->Height();
   double drawnWidth = MeasureOf(width, pixelWidth);
@@ -315,7 +315,7 @@ void Drawing::DrawImage(const std::shared_ptr<PDFImage>& image, float x, float y
   if (aspectRatio == AspectRatio::kKeep) {
     if (pixelWidth == 0 || pixelHeight == 0) {
       throw Error::DivisionByZero("has no pixels whose ratio could be kept")
-          .WithObject("image " + image->NameInErrors(Internal()));
+          .WithObject("PDFImage " + image->NameInErrors(Internal()));
     }
     const double scale = MinOf(drawnWidth / pixelWidth, drawnHeight / pixelHeight);
     drawnWidth = scale * pixelWidth;

@@ -34,11 +34,11 @@ bool Surface::IsOfSameDocument(const Surface& other) const {
   return AreSame(document_, other.document_);
 }
 
-void Surface::CheckIsOfDocument(const XObject* object, std::string_view kind) const {
-  if (object == nullptr) throw Error::ObjectNotSet("no " + std::string(kind) + " is given");
+void Surface::CheckIsOfDocument(const XObject* object, std::string_view className) const {
+  if (object == nullptr) throw Error::ObjectNotSet("no " + std::string(className) + " is given");
   if (!AreSame(object->ParentDocument(Internal()), document_)) {
     throw Error::InvalidArgument("belongs to another document")
-        .WithObject(std::string(kind) + " " + object->NameInErrors(Internal()));
+        .WithObject(std::string(className) + " " + object->NameInErrors(Internal()));
   }
 }
 

@@ -52,8 +52,8 @@ class Surface {
   // Also when the document is gone.
   bool IsOfSameDocument(const Surface& other) const;
   // Raises 91 for null and 5 for an object of another document, which would be missing in the file.
-  // `kind` stands in the error's text: "template".
-  void CheckIsOfDocument(const XObject* object, std::string_view kind) const;
+  // `className` stands in the error's text: "PDFTemplate".
+  void CheckIsOfDocument(const XObject* object, std::string_view className) const;
 
   // What the graphics state remembers of the values set, and what it has saved of them.
   GRAPHICS_STATE& State() { return state_; }

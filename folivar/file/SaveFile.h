@@ -39,12 +39,11 @@ class SaveFile {
   //
   // `write(ByteSink&)` writes exactly `length` bytes.
   template <class Write>
-  void WriteStream(StreamKind kind, std::uint64_t length, Write write) {
+  void WriteStream(StreamKind kind, [[maybe_unused]] std::uint64_t length, Write write) {
     BeginStream();
-    const std::uint64_t start = Position();
+    [[maybe_unused]] const std::uint64_t start = Position();
     write(static_cast<ByteSink&>(stream_));
     assert(Position() - start == length);
-    (void)start, (void)length;
     EndStream(kind);
   }
 

@@ -59,7 +59,7 @@ Text AbsoluteName(const Text& name) {
                                           absolute.data(), nullptr);
     if (length == 0) {
       throw Error::BadFileName("cannot be a name: " + LastError().message())
-          .WithObject("'" + name.Utf8() + "'");
+          .WithObject(FileNamed(name.Utf8()));
     }
     const bool fits = length < absolute.size();
     absolute.resize(length);

@@ -17,6 +17,9 @@ class PDFDocument;
 // What templates and images have in common: they are in the file once, and painted by name.
 class FOLIVAR_API XObject {
  public:
+  XObject(const XObject&) = delete;
+  XObject& operator=(const XObject&) = delete;
+
   // The key given when it was added; empty without one.
   const Text& Key() const { return key_.AsText(); }
 
@@ -34,8 +37,6 @@ class FOLIVAR_API XObject {
  protected:
   XObject(std::weak_ptr<PDFDocument> document, TextView key, std::string resourceName);
   ~XObject() = default;
-  XObject(const XObject&) = delete;
-  XObject& operator=(const XObject&) = delete;
 
   void TakeNumber(ObjectNumbers& numbers);
 

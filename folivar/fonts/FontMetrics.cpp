@@ -1,7 +1,5 @@
 #include "folivar/fonts/FontMetrics.h"
 
-#include <string>
-
 #include "folivar/base/Internal.h"
 #include "folivar/base/Numbers.h"
 

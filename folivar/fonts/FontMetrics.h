@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "folivar/base/Error.h"
 #include "folivar/fonts/PDFFont.h"
 #include "folivar/fonts/PDFFontInfo.h"
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <string>
 
 #include "folivar/fonts/FaceWriter.h"
 #include "folivar/fonts/PDFFontInfo.h"

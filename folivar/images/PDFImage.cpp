@@ -98,7 +98,7 @@ std::int32_t PDFImage::Height() const { return reader_ ? reader_->Height() : 0; 
 void PDFImage::NumberObjects(const Internal& internal, ObjectNumbers& numbers) {
   if (!reader_) {
     throw Error::ObjectNotSet("was never given a file")
-        .WithObject("image " + NameInErrors(internal));
+        .WithObject("PDFImage " + NameInErrors(internal));
   }
   TakeNumber(numbers);
 }

@@ -8,8 +8,8 @@
 
 namespace folivar {
 
-PDFImages::PDFImages(const Internal&, std::weak_ptr<PDFDocument> document)
-    : MemberList("PDFImages"), document_(std::move(document)) {}
+PDFImages::PDFImages(const Internal& internal, std::weak_ptr<PDFDocument> document)
+    : MemberList(internal, "PDFImages"), document_(std::move(document)) {}
 
 // The first image is "/I1".
 std::shared_ptr<PDFImage> PDFImages::Add(TextView key, const Value& before, const Value& after) {

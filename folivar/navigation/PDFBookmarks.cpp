@@ -7,7 +7,7 @@
 
 namespace folivar {
 
-PDFBookmarks::PDFBookmarks(const Internal&) : MemberList("PDFBookmarks") {}
+PDFBookmarks::PDFBookmarks(const Internal& internal) : MemberList(internal, "PDFBookmarks") {}
 
 // Bookmarks may lie so deep that each ending those below it would use up the call stack. So the
 // collections below that nobody else holds are strung together first, level by level, and end one

@@ -8,8 +8,8 @@
 
 namespace folivar {
 
-PDFHyperLinks::PDFHyperLinks(const Internal&, std::weak_ptr<PDFPages> pages)
-    : MemberList("PDFHyperLinks"), pages_(std::move(pages)) {}
+PDFHyperLinks::PDFHyperLinks(const Internal& internal, std::weak_ptr<PDFPages> pages)
+    : MemberList(internal, "PDFHyperLinks"), pages_(std::move(pages)) {}
 
 std::shared_ptr<PDFHyperLink> PDFHyperLinks::Add(TextView key, const Value& before,
                                                  const Value& after) {

@@ -47,7 +47,7 @@ std::shared_ptr<PDFHyperLinks> PDFPage::HyperLinks() {
 void PDFPage::SetThumbnail(std::shared_ptr<PDFImage> thumbnail) {
   if (thumbnail) {
     InMember("PDFPage.Thumbnail",
-             [&] { TheSurface().CheckIsOfDocument(thumbnail.get(), "image"); });
+             [&] { TheSurface().CheckIsOfDocument(thumbnail.get(), "PDFImage"); });
   }
   thumbnail_ = std::move(thumbnail);
 }

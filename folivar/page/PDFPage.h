@@ -2,7 +2,6 @@
 
 #include <exception>
 #include <memory>
-#include <string_view>
 
 #include "folivar/base/Api.h"
 #include "folivar/base/Event.h"

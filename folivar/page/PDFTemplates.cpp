@@ -9,9 +9,9 @@
 
 namespace folivar {
 
-PDFTemplates::PDFTemplates(const Internal&, std::weak_ptr<PDFDocument> document,
+PDFTemplates::PDFTemplates(const Internal& internal, std::weak_ptr<PDFDocument> document,
                            std::shared_ptr<PDFFont> defaultFont)
-    : MemberList("PDFTemplates"),
+    : MemberList(internal, "PDFTemplates"),
       document_(std::move(document)),
       defaultFont_(std::move(defaultFont)) {}
 

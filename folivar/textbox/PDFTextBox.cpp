@@ -153,7 +153,7 @@ void PDFTextBox::Copy(const std::shared_ptr<PDFTextBox>& source) {
     if (!source) throw Error::ObjectNotSet("no text box is given");
     if (!parentSurface_->IsOfSameDocument(*source->parentSurface_)) {
       throw Error::InvalidArgument("belongs to another document")
-          .WithObject(KeyedName("text box", source->Key()));
+          .WithObject(KeyedName("PDFTextBox", source->Key()));
     }
     own_->text.CopyFrom(source->own_->text);
     own_->geometry = source->own_->geometry;

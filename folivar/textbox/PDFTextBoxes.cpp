@@ -10,9 +10,9 @@
 
 namespace folivar {
 
-PDFTextBoxes::PDFTextBoxes(const Internal&, std::weak_ptr<Canvas> parent,
+PDFTextBoxes::PDFTextBoxes(const Internal& internal, std::weak_ptr<Canvas> parent,
                            std::shared_ptr<Surface> parentSurface)
-    : MemberList("PDFTextBoxes"),
+    : MemberList(internal, "PDFTextBoxes"),
       parent_(std::move(parent)),
       parentSurface_(std::move(parentSurface)) {}
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "folivar/base/Error.h"
+#include "folivar/base/Internal.h"
 #include "folivar/base/MemberList.h"
 #include "tests/support/Content.h"
 
@@ -20,7 +21,7 @@ struct Thing final : Object {
 // A collection as the object model has them: each thing is named as its key.
 class Things final : public MemberList<Thing> {
  public:
-  Things() : MemberList("PDFThings") {}
+  Things() : MemberList(Internal(), "PDFThings") {}
 
   std::shared_ptr<Thing> Add(const std::string& key) {
     auto thing = std::make_shared<Thing>(key);

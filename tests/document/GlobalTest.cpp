@@ -181,6 +181,25 @@ TEST(MaxOfMinOf, ATieOfNumbersGivesTheFirst) {
   EXPECT_FALSE(std::signbit(MinOf(0.0, -0.0)));
 }
 
+TEST(MaxOfMinOf, CompareTextsWithoutRegardToCase) {
+  const Text apple("apple");
+  const Text bear("BEAR");
+  const Text cat("cat");
+  EXPECT_EQ(MaxOf(apple, bear), "BEAR");
+  EXPECT_EQ(MaxOf(cat, bear), "cat");
+  EXPECT_EQ(MinOf(bear, apple), "apple");
+  EXPECT_EQ(MinOf(bear, cat), "BEAR");
+}
+
+TEST(MaxOfMinOf, ATieOfTextsGivesTheFirst) {
+  const Text small("\u00E9t\u00E9");
+  const Text large("\u00C9T\u00C9");
+  EXPECT_EQ(&MaxOf(small, large), &small);
+  EXPECT_EQ(&MaxOf(large, small), &large);
+  EXPECT_EQ(&MinOf(small, large), &small);
+  EXPECT_EQ(&MinOf(large, small), &large);
+}
+
 TEST(FindLastInRange, FindsTheLastOccurrence) {
   EXPECT_EQ(FindLastInRange("a.b.c", ".", 1, 0), 4);
   EXPECT_EQ(FindLastInRange("a.b.c", ".", 1, 3), 2);

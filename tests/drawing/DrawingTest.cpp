@@ -325,11 +325,11 @@ TEST(DrawTemplate, TemplateOfAnotherDocumentIsRefusedByName) {
               EXPECT_EQ(ErrorNumberOf([&] { page.DrawTemplate(named, 1, 2); }),
                         Error::kInvalidArgument);
               EXPECT_EQ(ErrorTextOf([&] { page.DrawTemplate(named, 1, 2); }),
-                        "PDFPage.DrawTemplate: template 'logo': belongs to another document");
+                        "PDFPage.DrawTemplate: PDFTemplate 'logo': belongs to another document");
               EXPECT_EQ(ErrorTextOf([&] { page.DrawTemplate(unnamed); }),
-                        "PDFPage.DrawTemplate: template /T2: belongs to another document");
+                        "PDFPage.DrawTemplate: PDFTemplate /T2: belongs to another document");
               EXPECT_EQ(ErrorTextOf([&] { page.DrawTemplate(nullptr); }),
-                        "PDFPage.DrawTemplate: no template is given");
+                        "PDFPage.DrawTemplate: no PDFTemplate is given");
             }),
             "");
 }
@@ -536,9 +536,9 @@ TEST(DrawImage, ImageOfAnotherDocumentIsRefused) {
               EXPECT_EQ(ErrorNumberOf([&] { mine.DrawImage(image, 0, 0); }),
                         Error::kInvalidArgument);
               EXPECT_EQ(ErrorTextOf([&] { mine.DrawImage(image, 0, 0); }),
-                        "PDFPage.DrawImage: image /I1: belongs to another document");
+                        "PDFPage.DrawImage: PDFImage /I1: belongs to another document");
               EXPECT_EQ(ErrorTextOf([&] { mine.DrawImage(keyed, 0, 0); }),
-                        "PDFPage.DrawImage: image 'logo': belongs to another document");
+                        "PDFPage.DrawImage: PDFImage 'logo': belongs to another document");
             }),
             "");
 }

@@ -98,7 +98,7 @@ TEST_F(SurfaceOfADocument, AnObjectThatIsNoneOrOfAnotherDocumentIsRefusedByItsKi
   const auto image = other->Images()->Add();
   const auto drawn = other->Templates()->Add("logo");
   const auto number = [&](const XObject* object) {
-    return ErrorNumberOf([&] { surface_.CheckIsOfDocument(object, "image"); });
+    return ErrorNumberOf([&] { surface_.CheckIsOfDocument(object, "PDFImage"); });
   };
   const auto text = [&](const XObject* object, const char* kind) {
     return ErrorTextOf([&] { surface_.CheckIsOfDocument(object, kind); });
@@ -106,9 +106,9 @@ TEST_F(SurfaceOfADocument, AnObjectThatIsNoneOrOfAnotherDocumentIsRefusedByItsKi
   EXPECT_EQ(number(document_->Images()->Add().get()), 0);
   EXPECT_EQ(number(nullptr), Error::kObjectNotSet);
   EXPECT_EQ(number(image.get()), Error::kInvalidArgument);
-  EXPECT_EQ(text(nullptr, "image"), "no image is given");
-  EXPECT_EQ(text(image.get(), "image"), "image /I1: belongs to another document");
-  EXPECT_EQ(text(drawn.get(), "template"), "template 'logo': belongs to another document");
+  EXPECT_EQ(text(nullptr, "PDFImage"), "no PDFImage is given");
+  EXPECT_EQ(text(image.get(), "PDFImage"), "PDFImage /I1: belongs to another document");
+  EXPECT_EQ(text(drawn.get(), "PDFTemplate"), "PDFTemplate 'logo': belongs to another document");
 }
 
 TEST_F(SurfaceOfADocument, SurfacesOfTheSameDocumentAreKnownAlsoWhenItIsGone) {

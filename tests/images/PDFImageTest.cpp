@@ -214,11 +214,11 @@ TEST_F(PDFImageInADocument, WithoutAFileTheSaveRaises91AndNamesTheImage) {
   EXPECT_EQ(ErrorNumberOf([&] { document_->SavePDFFile(OutputPath("broken").u8string()); }),
             Error::kObjectNotSet);
   EXPECT_EQ(ErrorTextOf([&] { document_->SavePDFFile(OutputPath("broken").u8string()); }),
-            "PDFDocument.SavePDFFile: image 'logo': was never given a file");
+            "PDFDocument.SavePDFFile: PDFImage 'logo': was never given a file");
   ASSERT_EQ(FileNameError("a.bmp", Bmp()), 0);
   document_->Images()->Add();
   EXPECT_EQ(ErrorTextOf([&] { document_->SavePDFFile(OutputPath("broken").u8string()); }),
-            "PDFDocument.SavePDFFile: image /I2: was never given a file");
+            "PDFDocument.SavePDFFile: PDFImage /I2: was never given a file");
 }
 
 TEST_F(PDFImageInADocument, FileThatHasGoneRaises53AtTheSave) {

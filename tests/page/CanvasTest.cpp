@@ -220,7 +220,7 @@ TYPED_TEST(EveryCanvas, ErrorsNameTheClassAndTheMember) {
   EXPECT_EQ(ErrorTextOf([&] { canvas.DrawRect(0, 0, 0, kInfinity); }),
             this->Member("DrawRect: a sum of coordinates is beyond a single"));
   EXPECT_EQ(ErrorTextOf([&] { canvas.DrawImage(nullptr, -500, 0); }),
-            this->Member("DrawImage: no image is given"));
+            this->Member("DrawImage: no PDFImage is given"));
   EXPECT_EQ(this->Stream(), "q\nQ\n");
 }
 

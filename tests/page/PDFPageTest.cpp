@@ -121,7 +121,7 @@ TEST(PDFPage, ThumbnailOfAnotherDocumentIsRefused) {
   const auto other = PDFDocument::Create()->Images()->Add();
   EXPECT_EQ(ErrorNumberOf([&] { page->SetThumbnail(other); }), Error::kInvalidArgument);
   EXPECT_EQ(ErrorTextOf([&] { page->SetThumbnail(other); }),
-            "PDFPage.Thumbnail: image /I1: belongs to another document");
+            "PDFPage.Thumbnail: PDFImage /I1: belongs to another document");
   EXPECT_EQ(page->Thumbnail(), image);
 }
 
