@@ -11,8 +11,7 @@ using Pointer = std::weak_ptr<int>;
 
 TEST(SameOwner, PointersToTheSameObjectAreTheSame) {
   const auto object = std::make_shared<int>(1);
-  const std::shared_ptr<int> copy = object;
-  EXPECT_TRUE(AreSame(Pointer(object), Pointer(copy)));
+  EXPECT_TRUE(AreSame(Pointer(object), Pointer(object)));
 }
 
 TEST(SameOwner, EqualObjectsAreNotTheSame) {
