@@ -14,7 +14,7 @@
 #include "folivar/file/FileSource.h"
 #include "folivar/file/FileSystem.h"
 #include "folivar/fonts/FontPrograms.h"
-#include "folivar/fonts/FontTables.h"
+#include "folivar/fonts/FontTableFields.h"
 #include "folivar/fonts/TrueTypeFontTables.h"
 
 namespace folivar {

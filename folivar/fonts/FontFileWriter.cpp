@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "folivar/base/BigEndian.h"
-#include "folivar/fonts/FontTables.h"
+#include "folivar/fonts/FontTableFields.h"
 
 namespace folivar {
 namespace {

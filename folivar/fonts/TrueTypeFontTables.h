@@ -10,7 +10,7 @@
 
 #include "folivar/base/Text.h"
 #include "folivar/file/ByteSource.h"
-#include "folivar/fonts/FontTables.h"
+#include "folivar/fonts/FontTableFields.h"
 #include "folivar/fonts/SystemFonts.h"
 
 namespace folivar {

@@ -8,7 +8,7 @@
 
 #include "folivar/base/CaseFold.h"
 #include "folivar/document/Global.h"
-#include "folivar/fonts/FontTables.h"
+#include "folivar/fonts/FontTableFields.h"
 
 namespace folivar {
 namespace {

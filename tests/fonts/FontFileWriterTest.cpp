@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "folivar/fonts/FontFileWriter.h"
-#include "folivar/fonts/FontTables.h"
+#include "folivar/fonts/FontTableFields.h"
 #include "tests/support/FontBuilder.h"
 
 namespace folivar::test {

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "folivar/fonts/FontTables.h"
+#include "folivar/fonts/FontTableFields.h"
 #include "tests/support/FontBuilder.h"
 
 namespace folivar::test {
@@ -45,7 +45,7 @@ std::string Head(const HeadFields& fields) {
          None(2) + None(2);                                   // index format, glyph format
 }
 
-TEST(FontTables, HeadHasEmBoxAndStyle) {
+TEST(FontTableFields, HeadHasEmBoxAndStyle) {
   ASSERT_EQ(Head({}).size(), HeadTable::kSize);
   const auto head = With<HeadTable>(Head({}));
   EXPECT_EQ(head.UnitsPerEm(), 2048);
@@ -63,11 +63,11 @@ TEST(FontTables, HeadHasEmBoxAndStyle) {
   EXPECT_FALSE(others.IsItalic());
 }
 
-TEST(FontTables, TheAdjustmentOfHeadIsBehindVersionAndRevision) {
+TEST(FontTableFields, TheAdjustmentOfHeadIsBehindVersionAndRevision) {
   EXPECT_EQ(HeadTable::kChecksumAdjustment, 4U + 4U);
 }
 
-TEST(FontTables, HheaHasHeightsAndTheNumberOfWidths) {
+TEST(FontTableFields, HheaHasHeightsAndTheNumberOfWidths) {
   const std::string bytes = None(4) +                                // version
                             U16(905) + U16(0xFF2C) +                 // ascender, descender
                             None(2) + None(2) +                      // gap, greatest width
@@ -81,7 +81,7 @@ TEST(FontTables, HheaHasHeightsAndTheNumberOfWidths) {
   EXPECT_EQ(hhea.WidthCount(), 668);
 }
 
-TEST(FontTables, MaxpHasTheNumberOfGlyphs) {
+TEST(FontTableFields, MaxpHasTheNumberOfGlyphs) {
   const std::string bytes = None(4) + U16(0xFFFF);  // version, number of glyphs
   ASSERT_EQ(bytes.size(), MaxpTable::kSize);
   EXPECT_EQ(With<MaxpTable>(bytes).GlyphCount(), 65535);
@@ -108,7 +108,7 @@ std::string OS2(const OS2Fields& fields) {
          U32(fields.codePages) + None(4);         // code pages
 }
 
-TEST(FontTables, OS2HasHeightsAndCharacters) {
+TEST(FontTableFields, OS2HasHeightsAndCharacters) {
   ASSERT_EQ(OS2({}).size(), OS2Table::kSize);
   const auto os2 = With<OS2Table>(OS2({}));
   EXPECT_EQ(os2.StrikeoutSize(), -50);
@@ -118,14 +118,14 @@ TEST(FontTables, OS2HasHeightsAndCharacters) {
   EXPECT_EQ(os2.WinDescent(), 0x8002);
 }
 
-TEST(FontTables, OnlyTheLicenceOf2ForbidsEmbedding) {
+TEST(FontTableFields, OnlyTheLicenceOf2ForbidsEmbedding) {
   EXPECT_FALSE(With<OS2Table>(OS2({.fsType = 2})).MayEmbed());
   for (const std::uint32_t fsType : {0U, 1U, 4U, 6U, 8U, 10U, 0x0102U, 0x0200U, 0xFFFFU}) {
     EXPECT_TRUE(With<OS2Table>(OS2({.fsType = fsType})).MayEmbed()) << fsType;
   }
 }
 
-TEST(FontTables, TheClassOfSymbolsIs12WhateverTheSubclass) {
+TEST(FontTableFields, TheClassOfSymbolsIs12WhateverTheSubclass) {
   EXPECT_TRUE(With<OS2Table>(OS2({.familyClass = 0x0C00})).IsSymbolic());
   EXPECT_TRUE(With<OS2Table>(OS2({.familyClass = 0x0CFF})).IsSymbolic());
   for (const std::uint32_t familyClass : {0x0000U, 0x000CU, 0x0B00U, 0x0D00U, 0x1C00U}) {
@@ -133,7 +133,7 @@ TEST(FontTables, TheClassOfSymbolsIs12WhateverTheSubclass) {
   }
 }
 
-TEST(FontTables, OS2HasTheStyle) {
+TEST(FontTableFields, OS2HasTheStyle) {
   const auto italic = With<OS2Table>(OS2({.fsSelection = 0x0001}));
   EXPECT_TRUE(italic.IsItalic());
   EXPECT_FALSE(italic.IsBold());
@@ -145,13 +145,13 @@ TEST(FontTables, OS2HasTheStyle) {
   EXPECT_FALSE(others.IsBold());
 }
 
-TEST(FontTables, TheSymbolCharacterSetIsTheOnlyCodePage) {
+TEST(FontTableFields, TheSymbolCharacterSetIsTheOnlyCodePage) {
   EXPECT_TRUE(With<OS2Table>(OS2({.codePages = 0x80000000})).HasSymbolCharacterSet());
   EXPECT_FALSE(With<OS2Table>(OS2({.codePages = 0x80000001})).HasSymbolCharacterSet());
   EXPECT_FALSE(With<OS2Table>(OS2({.codePages = 0x00000001})).HasSymbolCharacterSet());
 }
 
-TEST(FontTables, PCLTHasTheHeightOfCapitals) {
+TEST(FontTableFields, PCLTHasTheHeightOfCapitals) {
   const std::string bytes = None(4) + None(4) +            // version, font number
                             None(2) + None(2) + None(2) +  // pitch, height of "x", style
                             None(2) + U16(1409) +          // type family, height of capitals
@@ -161,7 +161,7 @@ TEST(FontTables, PCLTHasTheHeightOfCapitals) {
   EXPECT_EQ(With<PCLTTable>(bytes).CapHeight(), 1409);
 }
 
-TEST(FontTables, WhatIsMissingReadsAsZeros) {
+TEST(FontTableFields, WhatIsMissingReadsAsZeros) {
   const OneTable none{"none", ""};
   EXPECT_EQ(TableOf<HeadTable>(none).UnitsPerEm(), 0);
   EXPECT_TRUE(TableOf<OS2Table>(none).MayEmbed());
