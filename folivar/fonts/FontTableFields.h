@@ -71,8 +71,8 @@ struct OS2Table {
   static constexpr std::string_view kTag = "OS/2";
   static constexpr std::size_t kSize = 86;
 
-  // Only this value forbids embedding; together with other bits it does not.
-  bool MayEmbed() const { return U16At(bytes, 8) != 2; }
+  // Under which licence the font may be embedded.
+  std::uint16_t Licence() const { return U16At(bytes, 8); }
   std::int16_t StrikeoutSize() const { return S16At(bytes, 26); }
   // Of the class of symbols, the high byte of two that say which family the font resembles.
   bool IsSymbolic() const { return bytes[30] == 12; }

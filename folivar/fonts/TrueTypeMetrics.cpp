@@ -23,6 +23,12 @@ Text NameOf(SystemFace& face, const Text& wanted, Warnings& warnings) {
   return name;
 }
 
+// Only this licence forbids it; together with other bits it does not.
+bool MayEmbed(const OS2Table& os2) {
+  constexpr std::uint16_t kRestricted = 2;
+  return os2.Licence() != kRestricted;
+}
+
 // Null for a font that forbids embedding or does not give its program.
 std::shared_ptr<const std::string> ProgramToEmbed(SystemFace& face, const Text& name,
                                                   bool isEmbeddable, Warnings& warnings) {
@@ -76,7 +82,7 @@ std::shared_ptr<PDFFontInfo> LoadTrueTypeMetrics(const FaceWanted& wanted, Syste
   Text name = NameOf(face, wanted.name, warnings);
   const auto os2 = TableOf<OS2Table>(face);
   PDFFontInfo::Private own;
-  if (wanted.embed) own.program = ProgramToEmbed(face, name, os2.MayEmbed(), warnings);
+  if (wanted.embed) own.program = ProgramToEmbed(face, name, MayEmbed(os2), warnings);
   const SystemFace::TextMetrics text = face.Metrics();
   own.firstCharacter = CodeOf(text.firstCharacter);
   own.lastCharacter = CodeOf(text.lastCharacter);
@@ -90,7 +96,7 @@ std::shared_ptr<PDFFontInfo> LoadTrueTypeMetrics(const FaceWanted& wanted, Syste
   info->m_Descender = -static_cast<float>(text.descent);
   info->m_FontType = fontTrueType;
   info->m_EmbedFont = info->Program() != nullptr;
-  info->m_Embeddable = os2.MayEmbed();
+  info->m_Embeddable = MayEmbed(os2);
   info->m_FontFace = std::move(name);
   info->m_StrikeoutPosition = info->m_Ascender / 3;
   info->m_StrikeoutSize = os2.StrikeoutSize();
@@ -102,6 +108,6 @@ std::shared_ptr<PDFFontInfo> LoadTrueTypeMetrics(const FaceWanted& wanted, Syste
   return info;
 }
 
-bool IsEmbeddable(SystemFace& face) { return TableOf<OS2Table>(face).MayEmbed(); }
+bool IsEmbeddable(SystemFace& face) { return MayEmbed(TableOf<OS2Table>(face)); }
 
 }  // namespace folivar

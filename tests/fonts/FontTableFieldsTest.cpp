@@ -118,11 +118,8 @@ TEST(FontTableFields, OS2HasHeightsAndCharacters) {
   EXPECT_EQ(os2.WinDescent(), 0x8002);
 }
 
-TEST(FontTableFields, OnlyTheLicenceOf2ForbidsEmbedding) {
-  EXPECT_FALSE(With<OS2Table>(OS2({.fsType = 2})).MayEmbed());
-  for (const std::uint32_t fsType : {0U, 1U, 4U, 6U, 8U, 10U, 0x0102U, 0x0200U, 0xFFFFU}) {
-    EXPECT_TRUE(With<OS2Table>(OS2({.fsType = fsType})).MayEmbed()) << fsType;
-  }
+TEST(FontTableFields, OS2HasTheLicence) {
+  EXPECT_EQ(With<OS2Table>(OS2({.fsType = 0x0102})).Licence(), 0x0102);
 }
 
 TEST(FontTableFields, TheClassOfSymbolsIs12WhateverTheSubclass) {
@@ -164,7 +161,7 @@ TEST(FontTableFields, PCLTHasTheHeightOfCapitals) {
 TEST(FontTableFields, WhatIsMissingReadsAsZeros) {
   const OneTable none{"none", ""};
   EXPECT_EQ(TableOf<HeadTable>(none).UnitsPerEm(), 0);
-  EXPECT_TRUE(TableOf<OS2Table>(none).MayEmbed());
+  EXPECT_EQ(TableOf<OS2Table>(none).Licence(), 0);
   EXPECT_FALSE(TableOf<OS2Table>(none).IsSymbolic());
   const auto head = With<HeadTable>(Head({.macStyle = 3}).substr(0, 40));  // ends within the box
   EXPECT_EQ(head.YMin(), -254);

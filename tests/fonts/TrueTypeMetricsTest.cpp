@@ -131,10 +131,20 @@ TEST_F(TrueTypeMetrics, AProgramThatCannotBeHadIsNotEmbedded) {
   EXPECT_TRUE(warnings_.empty());
 }
 
-TEST_F(TrueTypeMetrics, AFaceThatMayNotBeEmbeddedWarnsWhenItShouldBe) {
+TEST_F(TrueTypeMetrics, OnlyTheLicenceOf2ForbidsEmbedding) {
+  for (const int licence : {0, 1, 4, 6, 8, 10, 0x0102, 0x0200, 0xFFFF}) {
+    plain_.SetU16("OS/2", 8, licence);
+    EXPECT_TRUE(IsEmbeddable(*Selected())) << licence;
+    EXPECT_TRUE(Loaded()->m_Embeddable) << licence;
+  }
   plain_.SetU16("OS/2", 8, 2);
   EXPECT_FALSE(IsEmbeddable(*Selected()));
   EXPECT_FALSE(Loaded()->m_Embeddable);
+}
+
+TEST_F(TrueTypeMetrics, AFaceThatMayNotBeEmbeddedWarnsWhenItShouldBe) {
+  plain_.SetU16("OS/2", 8, 2);
+  Loaded();
   EXPECT_TRUE(warnings_.empty());
   const auto record = Loaded({Text("Plain"), false, false, true});
   EXPECT_FALSE(record->m_Embeddable);
