@@ -20,9 +20,8 @@ class Document {
   Document(std::string path, const std::string& fontFile) : path_(std::move(path)) {
     if (fontFile.empty()) return;
     document_->FontFiles()->AddFile(fontFile);
-    const bool embed = true;
     font_ = document_->Fonts()->Add(document_->FontFiles()->FaceNames().front(),
-                                    folivar::fontTrueType, embed);
+                                    folivar::fontTrueType, folivar::Embedding::kEmbed);
     font_->SetSize(bench::kFontSize);
   }
 
