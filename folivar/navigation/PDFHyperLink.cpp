@@ -5,7 +5,6 @@
 #include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
 #include "folivar/base/KeyedName.h"
-#include "folivar/file/ObjectNumbers.h"
 #include "folivar/file/SaveFile.h"
 
 namespace folivar {
@@ -41,13 +40,9 @@ void PDFHyperLink::SetBorderDashPattern(float dashOn, float dashOff) {
   dashOff_ = dashOff;
 }
 
-void PDFHyperLink::NumberObjects(const Internal&, ObjectNumbers& numbers) {
-  object_ = numbers.Take();
-}
-
-void PDFHyperLink::WriteObjects(const Internal&, SaveFile& file,
-                                const std::weak_ptr<PDFPages>& pages) const {
-  AppendAnnotation(file.BeginObject(object_), pages);
+void PDFHyperLink::WriteObject(const Internal&, SaveFile& file, Reference object,
+                               const std::weak_ptr<PDFPages>& pages) const {
+  AppendAnnotation(file.BeginObject(object), pages);
   file.EndObject();
 }
 

@@ -15,7 +15,6 @@
 namespace folivar {
 
 class Internal;
-class ObjectNumbers;
 class PDFPages;
 class PDFText;
 class SaveFile;
@@ -51,11 +50,9 @@ class FOLIVAR_API PDFHyperLink final : public Tagged, public Region<PDFHyperLink
 
   PDFHyperLink(const Internal&, TextView key);
 
-  void NumberObjects(const Internal&, ObjectNumbers& numbers);
-  // Destinations lead to `pages`.
-  void WriteObjects(const Internal&, SaveFile& file, const std::weak_ptr<PDFPages>& pages) const;
-  // As numbered by the save in progress.
-  Reference ObjectNumber(const Internal&) const { return object_; }
+  // The links of a page keep its number. The destination leads to `pages`.
+  void WriteObject(const Internal&, SaveFile& file, Reference object,
+                   const std::weak_ptr<PDFPages>& pages) const;
 
  private:
   void AppendAnnotation(PDFText& text, const std::weak_ptr<PDFPages>& pages) const;
@@ -68,7 +65,6 @@ class FOLIVAR_API PDFHyperLink final : public Tagged, public Region<PDFHyperLink
   float borderWidth_ = 1;
   float dashOn_ = 1;
   float dashOff_ = 0;
-  Reference object_;
 };
 
 }  // namespace folivar

@@ -4,6 +4,7 @@
 
 #include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
+#include "folivar/file/ObjectNumbers.h"
 #include "folivar/file/PDFText.h"
 
 namespace folivar {
@@ -22,20 +23,23 @@ std::shared_ptr<PDFHyperLink> PDFHyperLinks::Add(TextView key, const Value& befo
 
 void PDFHyperLinks::Remove(const Value& indexOrKey) { members_.Remove(indexOrKey); }
 
-void PDFHyperLinks::NumberObjects(const Internal& internal, ObjectNumbers& numbers) {
-  ForEach([&](PDFHyperLink& link) { link.NumberObjects(internal, numbers); });
+void PDFHyperLinks::NumberObjects(const Internal&, ObjectNumbers& numbers) {
+  objects_.clear();
+  objects_.reserve(members_.Count());
+  while (objects_.size() < members_.Count()) objects_.push_back(numbers.Take());
 }
 
 //   /Annots [ 12 0 R 13 0 R ]
-void PDFHyperLinks::AppendAnnots(const Internal& internal, PDFText& text) const {
-  if (count() == 0) return;
+void PDFHyperLinks::AppendAnnots(const Internal&, PDFText& text) const {
+  if (objects_.empty()) return;
   text.Append("/Annots [ ");
-  ForEach([&](const PDFHyperLink& link) { text.Append(link.ObjectNumber(internal), " "); });
+  for (const Reference object : objects_) text.Append(object, " ");
   text.Append("]\n");
 }
 
 void PDFHyperLinks::WriteObjects(const Internal& internal, SaveFile& file) const {
-  ForEach([&](const PDFHyperLink& link) { link.WriteObjects(internal, file, pages_); });
+  auto object = objects_.begin();
+  ForEach([&](const PDFHyperLink& link) { link.WriteObject(internal, file, *object++, pages_); });
 }
 
 }  // namespace folivar

@@ -1,19 +1,23 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "folivar/base/Api.h"
 #include "folivar/base/MemberList.h"
 #include "folivar/base/Object.h"
 #include "folivar/base/Text.h"
 #include "folivar/base/Value.h"
+#include "folivar/file/Reference.h"
 #include "folivar/navigation/PDFHyperLink.h"
 
 namespace folivar {
 
 class Internal;
+class ObjectNumbers;
 class PDFPages;
 class PDFText;
+class SaveFile;
 
 // The links of one page; reached through PDFPage::HyperLinks. Where links overlap, readers follow
 // the later one.
@@ -41,6 +45,7 @@ class FOLIVAR_API PDFHyperLinks final : public Object, public MemberList<PDFHype
 
  private:
   std::weak_ptr<PDFPages> pages_;
+  std::vector<Reference> objects_;  // of the links, in order
 };
 
 }  // namespace folivar
