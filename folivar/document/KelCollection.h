@@ -198,6 +198,7 @@ class KelCollection {
     if (position == count_ && !blocks_.empty()) {
       place.block = blocks_.size() - 1;
       place.index = blocks_.back()->entries.size();
+      if (place.index < kBlockSize) return place;
     }
     for (; place.block < blocks_.size(); ++place.block) {
       const std::size_t size = blocks_[place.block]->entries.size();

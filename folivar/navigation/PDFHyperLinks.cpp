@@ -24,9 +24,8 @@ std::shared_ptr<PDFHyperLink> PDFHyperLinks::Add(TextView key, const Value& befo
 void PDFHyperLinks::Remove(const Value& indexOrKey) { members_.Remove(indexOrKey); }
 
 void PDFHyperLinks::NumberObjects(const Internal&, ObjectNumbers& numbers) {
-  objects_.clear();
-  objects_.reserve(members_.Count());
-  while (objects_.size() < members_.Count()) objects_.push_back(numbers.Take());
+  objects_.resize(members_.Count());
+  for (Reference& object : objects_) object = numbers.Take();
 }
 
 //   /Annots [ 12 0 R 13 0 R ]
