@@ -45,7 +45,9 @@ class Callback {
  private:
   // A callable or the pointer to it. Bytes, because a callable may have padding, which no other
   // type can take over.
-  using Target = std::array<std::byte, sizeof(void*)>;
+  struct Target {
+    alignas(void*) std::array<std::byte, sizeof(void*)> bytes{};
+  };
 
   struct Kind {
     void (*call)(Target target, Args... args);
