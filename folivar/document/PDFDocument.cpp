@@ -78,7 +78,7 @@ void PDFDocument::Save(TextView fileName) {
     *end++ = numbers.NextObjectNumber();
   });
 
-  SaveFile file(sink);
+  SaveFile file(sink, static_cast<std::size_t>(numbers.NextObjectNumber()) - 1);
   end = ends.begin();
   forEachWriter([&](auto& writer) {
     writer.WriteObjects(internal, file);

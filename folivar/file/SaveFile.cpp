@@ -16,7 +16,10 @@ constexpr std::size_t kLarge = std::size_t{64} * 1024;   // not worth a copy
 
 }  // namespace
 
-SaveFile::SaveFile(ByteSink& sink) : sink_(sink) { gathered_.Append(kHeader); }
+SaveFile::SaveFile(ByteSink& sink, std::size_t objectCount) : sink_(sink) {
+  objectLengths_.reserve(objectCount);
+  gathered_.Append(kHeader);
+}
 
 PDFText& SaveFile::BeginObject(Reference object) {
   assert(!isObjectOpen_);

@@ -21,8 +21,9 @@ enum class StreamKind { kText, kData };
 // made; nothing is read back. Bytes are gathered and reach the sink in large pieces.
 class SaveFile {
  public:
-  // Writes the header: "%PDF-1.3\n%\xE2\xE3\xCF\xD3\n".
-  explicit SaveFile(ByteSink& sink);
+  // Writes the header: "%PDF-1.3\n%\xE2\xE3\xCF\xD3\n". There is room for the lengths of
+  // `objectCount` objects; more may come.
+  explicit SaveFile(ByteSink& sink, std::size_t objectCount = 0);
   SaveFile(const SaveFile&) = delete;
   SaveFile& operator=(const SaveFile&) = delete;
 
