@@ -20,7 +20,12 @@ class FOLIVAR_API Tagged : public Object {
   ~Tagged() override;
 
  private:
-  std::unique_ptr<const Value> tag_;  // null until it is set: few are
+  struct Held {
+    Value value;
+    std::unique_ptr<Held> next;  // the next one that ends
+  };
+
+  std::unique_ptr<Held> tag_;  // null until it is set: few are
 };
 
 }  // namespace folivar
