@@ -98,12 +98,13 @@ class MemberList {
   template <class Before, class After, class Remove>
   void MoveMember(TextView key, const Before& before, const After& after, Remove remove) noexcept {
     try {
-      const Value name(key);
-      const Value& beforePlace = before;
+      // What `remove` calls may let go of, or change, what is given.
+      const Text kept(key);
+      const Value beforePlace = before;
       const Value afterPlace = beforePlace.IsMissing() ? Value(after) : Value();
-      Members::Member member = members_.Item(name);
-      remove(name);
-      members_.Add(std::move(member), key, beforePlace, afterPlace);
+      Members::Member member = members_.Item(kept);
+      remove(Value(kept));
+      members_.Add(std::move(member), kept, beforePlace, afterPlace);
     } catch (...) {
       return;
     }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -30,8 +31,13 @@ class Things final : public MemberList<Thing> {
   }
   void Remove(const Value& indexOrKey) { members_.Remove(indexOrKey); }
   void ReOrder(TextView key, const Value& before = {}, const Value& after = {}) {
-    MoveMember(key, before, after, [this](const Value& name) { Remove(name); });
+    MoveMember(key, before, after, [this](const Value& name) {
+      Remove(name);
+      if (onRemove) onRemove();
+    });
   }
+
+  std::function<void()> onRemove;
 
   std::string Visited() const {
     std::string names;
@@ -143,6 +149,24 @@ TEST_F(MemberListOfThree, WhatCannotBeMovedChangesNothing) {
   things_.ReOrder("", 1);
   things_.ReOrder("\xFF", 1);
   EXPECT_EQ(NamesOf(things_), "abc");
+}
+
+TEST_F(MemberListOfThree, AMoveGoesByWhatItWasGivenWhateverHandlersDoToThat) {
+  std::string key = "a";
+  Value before = 2;
+  Value after = "c";
+  things_.onRemove = [&] {
+    key = "x";
+    before = 1;
+    after = "b";
+  };
+  const auto thing = things_.Item("a");
+  things_.ReOrder(key, before);
+  EXPECT_EQ(NamesOf(things_), "bac");
+  key = "a";
+  things_.ReOrder(key, {}, after);
+  EXPECT_EQ(NamesOf(things_), "bca");
+  EXPECT_EQ(things_.Item("a"), thing);
 }
 
 // Deliberate: unlike in Add, giving both is no error.
