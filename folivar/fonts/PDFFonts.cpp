@@ -102,9 +102,8 @@ std::shared_ptr<PDFFont> PDFFonts::Add(TextView faceName, PDFFontType fontType,
   return InMember("PDFFonts.Add", [&] {
     Text name(faceName);
     if (auto face = FindFaceRecord(name, fontType)) return FontOf(std::move(face));
-    const bool embed = embedding == Embedding::kEmbed;
-    return FontOf(fontType == fontType1 ? AddStandardFace(name)
-                                        : AddTrueTypeFace({std::move(name), false, false, embed}));
+    if (fontType == fontType1) return AddStandardFace(name);
+    return AddTrueTypeFace({std::move(name), false, false, embedding == Embedding::kEmbed});
   });
 }
 
@@ -162,7 +161,8 @@ std::shared_ptr<const PDFFontInfo> PDFFonts::StyledFace(const Internal&, const P
                                                         IfAbsent ifAbsent) {
   auto styled = FindFaceRecord(BaseFontNameOf(face.m_FontFace, isBold, isItalic), face.m_FontType);
   if (styled || ifAbsent == IfAbsent::kLeave) return styled;
-  return AddTrueTypeFace({face.m_FontFace, isBold, isItalic, face.m_EmbedFont});
+  const auto font = AddTrueTypeFace({face.m_FontFace, isBold, isItalic, face.m_EmbedFont});
+  return font->FontInfo(Internal());
 }
 
 const PDFFonts::FaceList& PDFFonts::FacesOf(PDFFontType fontType) const {
@@ -185,21 +185,20 @@ std::shared_ptr<const PDFFontInfo> PDFFonts::FindFaceRecord(const Text& name,
   return fontType == fontTrueType ? find(WithoutBlanks(name)) : find(name);
 }
 
-std::shared_ptr<const PDFFontInfo> PDFFonts::AddStandardFace(const Text& faceName) {
+std::shared_ptr<PDFFont> PDFFonts::AddStandardFace(const Text& faceName) {
   auto standardFace = FindStandardFace(faceName);
   if (!standardFace) {
     standardFace = SubstituteFor(faceName);
     const std::string substitute(StandardFaceName(*standardFace));
     warnings_->Show(Text("WARNING: Font '" + faceName.Utf8() + "' could not be found.  Using '" +
                          substitute + "' instead."));
-    if (auto face = FindFaceRecord(Text(substitute), fontType1)) return face;
+    if (auto face = FindFaceRecord(Text(substitute), fontType1)) return FontOf(std::move(face));
   }
   auto face = LoadStandardMetrics(*standardFace);
-  AddFaceRecord(face, std::make_unique<StandardFaceWriter>(face));
-  return face;
+  return AddFaceRecord(face, std::make_unique<StandardFaceWriter>(face));
 }
 
-std::shared_ptr<const PDFFontInfo> PDFFonts::AddTrueTypeFace(const FaceWanted& wanted) {
+std::shared_ptr<PDFFont> PDFFonts::AddTrueTypeFace(const FaceWanted& wanted) {
   const auto selected = SelectFace(wanted);
   if (!selected) {
     throw Error::ActionNotSupported(
@@ -209,9 +208,10 @@ std::shared_ptr<const PDFFontInfo> PDFFonts::AddTrueTypeFace(const FaceWanted& w
   }
   auto face = LoadTrueTypeMetrics(wanted, *selected, *warnings_);
   // What the system put in the place of the face wanted may be here already.
-  if (auto existing = FindFaceRecord(face->BaseFontName(), fontTrueType)) return existing;
-  AddFaceRecord(face, std::make_unique<TrueTypeFaceWriter>(face));
-  return face;
+  if (auto existing = FindFaceRecord(face->BaseFontName(), fontTrueType)) {
+    return FontOf(std::move(existing));
+  }
+  return AddFaceRecord(face, std::make_unique<TrueTypeFaceWriter>(face));
 }
 
 std::unique_ptr<SystemFace> PDFFonts::SelectFace(const FaceWanted& wanted) const {
@@ -227,13 +227,16 @@ std::unique_ptr<SystemFace> PDFFonts::SelectFace(const FaceWanted& wanted) const
 }
 
 // The face gets its name only here: a host's warnings may have added others while it was loaded.
-void PDFFonts::AddFaceRecord(const std::shared_ptr<PDFFontInfo>& face,
-                             std::unique_ptr<FaceWriter> writer) {
+// Its first font is made before it is listed, so that it is not when memory runs out.
+std::shared_ptr<PDFFont> PDFFonts::AddFaceRecord(const std::shared_ptr<PDFFontInfo>& face,
+                                                 std::unique_ptr<FaceWriter> writer) {
   face->m_PDFName = NextResourceName();
+  std::shared_ptr<PDFFont> font = FontOf(face);
   if (writers_.size() == writers_.capacity()) writers_.reserve(2 * writers_.size() + 1);
   FaceList& faces = face->m_FontType == fontType1 ? *type1_ : *trueType_;
   faces.Add(face, face->BaseFontName());
   writers_.push_back(std::move(writer));
+  return font;
 }
 
 // "/F0" for the first face.

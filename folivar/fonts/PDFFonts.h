@@ -87,10 +87,11 @@ class FOLIVAR_API PDFFonts final : public Object {
   std::shared_ptr<const PDFFontInfo> FindFaceRecord(const Text& name, PDFFontType fontType) const;
   std::vector<Text> TrueTypeFaceNames(bool embeddable) const;
   bool MayBeEmbedded(const Text& faceName) const;
-  std::shared_ptr<const PDFFontInfo> AddStandardFace(const Text& faceName);
-  std::shared_ptr<const PDFFontInfo> AddTrueTypeFace(const FaceWanted& wanted);
+  std::shared_ptr<PDFFont> AddStandardFace(const Text& faceName);
+  std::shared_ptr<PDFFont> AddTrueTypeFace(const FaceWanted& wanted);
   std::unique_ptr<SystemFace> SelectFace(const FaceWanted& wanted) const;
-  void AddFaceRecord(const std::shared_ptr<PDFFontInfo>& face, std::unique_ptr<FaceWriter> writer);
+  std::shared_ptr<PDFFont> AddFaceRecord(const std::shared_ptr<PDFFontInfo>& face,
+                                         std::unique_ptr<FaceWriter> writer);
   std::string NextResourceName() const;
   std::shared_ptr<PDFFont> FontOf(std::shared_ptr<const PDFFontInfo> face);
 
