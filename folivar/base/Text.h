@@ -11,6 +11,8 @@
 
 namespace folivar {
 
+class Internal;
+
 template <class T, class Target>
 concept ConvertsTo = std::is_convertible_v<const T&, Target>;
 
@@ -86,6 +88,11 @@ class FOLIVAR_API Text {
   // Unit by unit, telling letter cases apart.
   friend bool operator==(const Text&, const Text&) = default;
   friend bool operator==(const Text& a, TextView b) { return a == Text(b); }
+
+  // For the library
+
+  // To be changed in place.
+  std::u16string& Units(const Internal&) { return units_; }
 
  private:
   std::u16string units_;

@@ -259,8 +259,7 @@ std::shared_ptr<PDFGraphicsState> PDFTextBox::GraphicsState() {
 
 void PDFTextBox::RegisterFaces(const Internal&) const {
   PDFResourceDictionary& resources = parentSurface_->ResourceDictionary();
-  own_->text.Runs().ForEach(
-      [&](const TEXT_FORMAT_RANGE& run) { resources.AddFontResource(*run.Font); });
+  own_->text.ForEachDrawnFont([&](const PDFFont& font) { resources.AddFontResource(font); });
 }
 
 void PDFTextBox::RenderTextBox(const Internal&, PDFText& content) {

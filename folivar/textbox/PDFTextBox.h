@@ -188,7 +188,7 @@ class FOLIVAR_API PDFTextBox final : public Tagged {
   PDFTextBox(const Internal&, std::weak_ptr<Canvas> parent, std::shared_ptr<Surface> parentSurface,
              TextView key);
 
-  // Lists the faces of all runs among the owner's resources.
+  // Lists the faces of all text that is drawn among the owner's resources.
   void RegisterFaces(const Internal&) const;
   // Appends what draws the box, which is sized first if it sizes itself.
   void RenderTextBox(const Internal&, PDFText& content);

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "folivar/base/Error.h"
+#include "folivar/base/Internal.h"
 
 namespace folivar {
 namespace {
@@ -109,19 +110,18 @@ folivar::Text RichText::SelText() const {
           .substr(static_cast<std::size_t>(selStart_), static_cast<std::size_t>(SelLength())));
 }
 
+// In place, so that a text that grows piece by piece is not copied for each.
 void RichText::SetSelText(TextView text) {
   const folivar::Text inserted = WithLineFeeds(text);
-  const std::u16string_view old = text_.Utf16();
-  const auto start = static_cast<std::size_t>(selStart_);
-  const auto end = static_cast<std::size_t>(selEnd_);
-  const std::size_t size = old.size() - (end - start) + inserted.Utf16().size();
-  LengthOf(size);
-  std::u16string units;
-  units.reserve(size);
-  units.append(old.substr(0, start)).append(inserted.Utf16()).append(old.substr(end));
   const std::int32_t length = LengthOf(inserted);
+  const auto removed = static_cast<std::size_t>(SelLength());
+  std::u16string& units = text_.Units(Internal());
+  const std::size_t size = units.size() - removed + inserted.Utf16().size();
+  LengthOf(size);
+  // Nothing may fail any more once the runs are changed.
+  if (size > units.capacity()) units.reserve(std::max(size, 2 * units.capacity()));
   ResizeSelectedRuns(length);
-  text_ = folivar::Text::Of(std::move(units));
+  units.replace(static_cast<std::size_t>(selStart_), removed, inserted.Utf16());
   selStart_ += length;
   selEnd_ = selStart_;
 }
@@ -288,7 +288,8 @@ void RichText::ChangeRuns(Range range, Change change) {
 void RichText::ResizeSelectedRuns(std::int32_t newLength) {
   const Found found = FindSelectionRuns(Selection());
   const std::int64_t before = selStart_ - found.first.start;
-  const std::int64_t after = EndOf(found.last) - selEnd_;
+  const std::int64_t end = found.last.start + runs_[found.last.index].Length;
+  const std::int64_t after = std::max<std::int64_t>(end - selEnd_, 0);
   if (found.IsOneRun()) {
     runs_.SetLength(found.first.index, AsLength(before + newLength + after));
     return;

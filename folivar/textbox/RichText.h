@@ -1,9 +1,11 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <string_view>
 
 #include "folivar/base/Text.h"
 #include "folivar/base/Value.h"
@@ -56,6 +58,21 @@ class RichText {
   // A flag of the fonts, by its members there: &PDFFont::Bold and &PDFFont::SetBold.
   std::optional<bool> SelFlag(bool (PDFFont::*flag)() const) const;
   void SetSelFlag(void (PDFFont::*setFlag)(bool), const Value& value);
+
+  // visit(const PDFFont&) for the runs in order that have text to draw: more than line ends.
+  template <class Visit>
+  void ForEachDrawnFont(Visit visit) const {
+    const std::u16string_view units = text_.Utf16();
+    std::size_t start = 0;
+    std::size_t index = 0;
+    runs_.ForEach([&](const TEXT_FORMAT_RANGE& run) {
+      std::size_t length = units.size() - start;
+      if (!runs_.IsLast(index++)) length = std::min(length, static_cast<std::size_t>(run.Length));
+      const std::u16string_view part = units.substr(start, length);
+      if (part.find_first_not_of(u'\n') != std::u16string_view::npos) visit(*run.Font);
+      start += length;
+    });
+  }
 
   // The same text, formats and selection, with fonts of its own.
   void CopyFrom(const RichText& source);

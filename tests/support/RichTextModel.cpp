@@ -88,7 +88,8 @@ int RichTextModel::SetSelText(const std::u16string& text) {
   Place last{};
   Find(start_, end_, first, last);
   const std::int64_t before = start_ - first.start;
-  const std::int64_t after = EndOf(last) - end_;
+  const std::int64_t after =
+      std::max<std::int64_t>(runs_[last.index].length - (end_ - last.start), 0);
   if (first.index == last.index) {
     runs_[first.index].length = before + added + after;
   } else {

@@ -229,6 +229,57 @@ TEST(RichText, DeliberateReplacingRaises9WhereNoRunHasTheOldNumber) {
             std::string::npos);
 }
 
+TEST(RichText, WhatIsLeftOfTheLastRunGoesByItsLengthAndNotByTheText) {
+  RichText text{RunFont(StandardFont())};
+  text.SetText("abcdefghij");
+  Select(text, 4, 10);
+  text.SetSelFontSize(20);
+  Replace(text, 2, 7, "XYZ");  // leaves runs of 4 and 3 for 8 units
+  EXPECT_EQ(LengthsOf(text), (Lengths{4, 3}));
+  Replace(text, 2, 7, "Q");
+  EXPECT_EQ(text.Text(), "abQj");
+  EXPECT_EQ(LengthsOf(text), Lengths{4});
+  text.SetSelStart(4);
+  EXPECT_EQ(text.SelFontSize(), 10);
+}
+
+TEST(RichText, WhatIsLeftOfTheLastRunIsNeverNegative) {
+  RichText text = TextBeyondItsRuns();
+  text.SetSelStart(20);
+  text.SetSelText("ab");
+  EXPECT_EQ(LengthsOf(text), (Lengths{4, 18})) << "16 before the caret, and 2";
+}
+
+TEST(RichText, ATextMayGrowByItself) {
+  RichText text{RunFont(StandardFont())};
+  text.SetText("ab");
+  text.SetSelText(text.Text());
+  text.SetSelText(text.Text());
+  EXPECT_EQ(text.Text(), "abababab");
+  EXPECT_EQ(LengthsOf(text), Lengths{8});
+}
+
+TEST(RichText, OnlyRunsWithTextToDrawAreDrawn) {
+  RichText text{RunFont(StandardFont())};
+  const auto drawn = [&] {
+    std::vector<float> sizes;
+    text.ForEachDrawnFont([&](const PDFFont& font) { sizes.push_back(font.Size()); });
+    return sizes;
+  };
+  EXPECT_EQ(drawn(), std::vector<float>{});
+  text.SetText("ab\n\ncd");
+  const auto resize = [&](std::int32_t start, std::int32_t end, float size) {
+    Select(text, start, end);
+    text.SetSelFontSize(size);
+  };
+  resize(0, 2, 11);
+  resize(2, 4, 12);  // line ends alone
+  resize(4, 4, 13);  // nothing at all
+  resize(5, 6, 14);
+  EXPECT_EQ(LengthsOf(text), (Lengths{2, 2, 0, 1, 1}));
+  EXPECT_EQ(drawn(), (std::vector<float>{11, 10, 14}));
+}
+
 TEST(RichText, ANewTextIsOneRunInTheFirstFormat) {
   RichText text = TextInRuns({4, 6});
   text.SetText("7 units");
