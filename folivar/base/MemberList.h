@@ -100,7 +100,7 @@ class MemberList {
     try {
       // What `remove` calls may let go of, or change, what is given.
       const Text kept(key);
-      const Value beforePlace = before;
+      const Value beforePlace = before;  // NOLINT(performance-unnecessary-copy-initialization)
       const Value afterPlace = beforePlace.IsMissing() ? Value(after) : Value();
       Members::Member member = members_.Item(kept);
       remove(Value(kept));

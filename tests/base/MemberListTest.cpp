@@ -164,6 +164,7 @@ TEST_F(MemberListOfThree, AMoveGoesByWhatItWasGivenWhateverHandlersDoToThat) {
   things_.ReOrder(key, before);
   EXPECT_EQ(NamesOf(things_), "bac");
   key = "a";
+  after = "c";
   things_.ReOrder(key, {}, after);
   EXPECT_EQ(NamesOf(things_), "bca");
   EXPECT_EQ(things_.Item("a"), thing);
