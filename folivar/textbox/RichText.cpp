@@ -64,9 +64,11 @@ TEXT_FORMAT_RANGE CopyOf(const TEXT_FORMAT_RANGE& source) {
   return copy;
 }
 
-[[noreturn]] void RaiseNoSuchRun(std::size_t number, std::size_t count) {
+// `outcome` is what has been done all the same.
+[[noreturn]] void RaiseNoSuchRun(std::size_t number, std::size_t count, const char* outcome) {
   throw Error::SubscriptOutOfRange("position " + std::to_string(number) + " is outside 1 to " +
-                                   std::to_string(count) + " in the runs of the text box");
+                                   std::to_string(count) + " in the runs of the text box; " +
+                                   outcome);
 }
 
 }  // namespace
@@ -298,7 +300,9 @@ void RichText::ResizeSelectedRuns(std::int32_t newLength) {
   runs_.Erase(last, found.last.index);
   runs_.SetLength(last, AsLength(after));
   if (after > 0) return;
-  if (found.last.index >= runs_.Count()) RaiseNoSuchRun(found.last.index + 1, runs_.Count());
+  if (found.last.index >= runs_.Count()) {
+    RaiseNoSuchRun(found.last.index + 1, runs_.Count(), "the text is as it was");
+  }
   runs_.Erase(found.last.index, found.last.index + 1);
 }
 
@@ -313,7 +317,9 @@ void RichText::RemoveOtherRuns() {
     ++index;
   });
   runs_.Replace(1, count, kept);
-  if (count >= 3) RaiseNoSuchRun(count / 2 + 2, runs_.Count());
+  if (count >= 3) {
+    RaiseNoSuchRun(count / 2 + 2, runs_.Count(), "the text is set, and every other format is gone");
+  }
 }
 
 }  // namespace folivar

@@ -248,6 +248,9 @@ TEST(RichText, WhatIsLeftOfTheLastRunIsNeverNegative) {
   text.SetSelStart(20);
   text.SetSelText("ab");
   EXPECT_EQ(LengthsOf(text), (Lengths{4, 18})) << "16 before the caret, and 2";
+  text = TextBeyondItsRuns();
+  Replace(text, 1, 15, "a");
+  EXPECT_EQ(LengthsOf(text), Lengths{4}) << "nothing is left, and the run goes";
 }
 
 TEST(RichText, ATextMayGrowByItself) {
@@ -319,9 +322,6 @@ TEST(RichText, TheLastRunTakesWhatIsLeftOfALongerText) {
   SetColor(text, 8, 9, 9);
   EXPECT_EQ(LengthsOf(text), (Lengths{4, 4, 1, 11}));
   EXPECT_EQ(ColorsOf(text), (Colors{0, 2, 9, 2}));
-  text = TextBeyondItsRuns();
-  Replace(text, 1, 15, "a");
-  EXPECT_EQ(LengthsOf(text), (Lengths{4, 5}));
 }
 
 TEST(RichText, ACopyHasFontsOfItsOwn) {
