@@ -7,7 +7,6 @@
 #include <memory>
 
 #include "common/Box.h"
-#include "common/Color.h"
 #include "common/FittedText.h"
 #include "common/Ink.h"
 
@@ -17,6 +16,7 @@ using folivar::PDFFont;
 using folivar::PDFImage;
 using folivar::PDFPage;
 using folivar::PDFTemplate;
+using folivar::Rgb;
 
 namespace {
 

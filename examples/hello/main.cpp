@@ -6,7 +6,7 @@ int main(int argc, char** argv) {
   page->SetPageExtents(420, 240);  // points, of which 72 are an inch
   page->DrawText("Text, lines and rectangles, placed from the bottom left corner.", 40, 48);
   page->DrawLine(40, 72, 380, 72);
-  page->GraphicsState()->SetFillColor(0x5F4E1F);  // blue, green, red
+  page->GraphicsState()->SetFillColor(folivar::Rgb(31, 78, 95));
   page->DrawRect(0, 160, 420, 80, folivar::Paint::kFill);
   page->SetFont(document->Fonts()->Add("Helvetica-Bold"));
   page->Font()->SetSize(40);

@@ -16,6 +16,7 @@ using folivar::PDFDocument;
 using folivar::PDFFont;
 using folivar::PDFPage;
 using folivar::PDFTextBox;
+using folivar::Rgb;
 
 // A4; points.
 constexpr float kPageWidth = 595.276F;
@@ -29,7 +30,7 @@ constexpr float kFooter = 50;
 constexpr float kTextSize = 11;
 constexpr float kHeadingSize = 14;
 constexpr float kGapSize = 7;
-constexpr std::int32_t kHeadingColor = 0x5F4E1F;
+constexpr std::int32_t kHeadingColor = Rgb(31, 78, 95);
 
 const std::string& TextOfColumn(const Span& span, const Block& block, const std::string& path,
                                 const std::vector<std::string>& columns,

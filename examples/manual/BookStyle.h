@@ -8,11 +8,12 @@
 
 #include "Manual.h"
 #include "common/Box.h"
-#include "common/Color.h"
 #include "common/Ink.h"
 #include "common/Typeface.h"
 
 // What a book looks like. Lengths are points; y grows upwards.
+
+using folivar::Rgb;
 
 constexpr std::int32_t kInk = Rgb(0x1E, 0x21, 0x25);
 constexpr std::int32_t kQuietInk = Rgb(0x6B, 0x70, 0x78);

@@ -10,7 +10,6 @@
 #include <string_view>
 
 #include "CodePage1252.h"
-#include "common/Color.h"
 
 using folivar::htaCenter;
 using folivar::htaLeft;
@@ -19,6 +18,7 @@ using folivar::PDFDocument;
 using folivar::PDFFont;
 using folivar::PDFHorzTextAlignment;
 using folivar::PDFPage;
+using folivar::Rgb;
 using folivar::Text;
 using folivar::TextView;
 

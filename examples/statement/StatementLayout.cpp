@@ -10,7 +10,6 @@
 #include <utility>
 #include <vector>
 
-#include "common/Color.h"
 #include "common/FittedText.h"
 
 using folivar::htaLeft;
@@ -19,6 +18,7 @@ using folivar::PDFDocument;
 using folivar::PDFFont;
 using folivar::PDFHorzTextAlignment;
 using folivar::PDFPage;
+using folivar::Rgb;
 
 namespace {
 

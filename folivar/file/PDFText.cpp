@@ -107,8 +107,8 @@ char* PDFText::Put(char* out, Name name) {
 
 char* PDFText::Put(char* out, Ansi text) { return PutAnsi(out, text.units); }
 
-char* PDFText::Put(char* out, Rgb rgb) {
-  const auto color = static_cast<std::uint32_t>(rgb.color);
+char* PDFText::Put(char* out, ColorShares shares) {
+  const auto color = static_cast<std::uint32_t>(shares.color);
   for (const int shift : {0, 8, 16}) {
     const ShareText& text = kColorShares[color >> shift & 0xFF];
     std::memcpy(out, &text, sizeof text);

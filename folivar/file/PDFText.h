@@ -22,8 +22,8 @@ struct Real {
   double value;
 };
 
-// The shares of red, green and blue of a colour 0x00BBGGRR: Rgb{0x8000FF} is "1 0 0.502 ".
-struct Rgb {
+// The shares of red, green and blue of a colour 0x00BBGGRR: ColorShares{0x8000FF} is "1 0 0.502 ".
+struct ColorShares {
   std::int32_t color;
 };
 
@@ -87,9 +87,9 @@ class PDFText {
   }
   static std::size_t SizeBound(std::string_view bytes) { return bytes.size(); }
   static std::size_t SizeBound(Real) { return kLongestReal; }
-  static std::size_t SizeBound(Rgb) { return 3 * kLongestColorShare; }
+  static std::size_t SizeBound(ColorShares) { return 3 * kLongestColorShare; }
   static std::size_t SizeBound(const ColorOp& set) {
-    return SizeBound(Rgb{set.color}) + set.op.size();
+    return SizeBound(ColorShares{set.color}) + set.op.size();
   }
   static std::size_t SizeBound(Reference) { return kLongestInteger + 4; }
   static std::size_t SizeBound(TenDigits) { return 10; }
@@ -115,8 +115,10 @@ class PDFText {
     return out + bytes.size();
   }
   static char* Put(char* out, Real real) { return FormatReal(out, real.value); }
-  static char* Put(char* out, Rgb rgb);
-  static char* Put(char* out, const ColorOp& set) { return Put(Put(out, Rgb{set.color}), set.op); }
+  static char* Put(char* out, ColorShares shares);
+  static char* Put(char* out, const ColorOp& set) {
+    return Put(Put(out, ColorShares{set.color}), set.op);
+  }
   static char* Put(char* out, Reference reference) {
     return Put(Put(out, reference.Number()), " 0 R");
   }

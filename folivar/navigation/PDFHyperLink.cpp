@@ -65,7 +65,7 @@ void PDFHyperLink::AppendAnnotation(PDFText& text, const std::weak_ptr<PDFPages>
            });
   // Deliberate: black is 0, which stands for the reader's own choice, and that is black.
   if (borderColor_ != 0) {
-    text.Append("/C [", Rgb{borderColor_}, "]\n");
+    text.Append("/C [", ColorShares{borderColor_}, "]\n");
   }
   text.Append(">>\n");
 }

@@ -3,9 +3,9 @@
 #include <utility>
 
 #include "folivar/base/InMember.h"
-#include "folivar/base/Numbers.h"
 #include "folivar/document/Global.h"
 #include "folivar/drawing/Angle.h"
+#include "folivar/drawing/Color.h"
 #include "folivar/drawing/Surface.h"
 #include "folivar/file/PDFText.h"
 
@@ -18,13 +18,7 @@ void EmitToOwner(Surface& surface, const char* member, const Parts&... parts) {
   InMember(member, [&] { surface.AppendContent(parts...); });
 }
 
-// Colours (n, n, n) for a gray level; false for what is no gray level.
-bool GrayAsColor(float gray, std::int32_t& color) {
-  if (!(gray >= 0 && gray <= 1)) return false;
-  const auto n = static_cast<std::int32_t>(RoundHalfToEven(double{gray} * 255));
-  color = n + n * 0x100 + n * 0x10000;
-  return true;
-}
+bool IsGrayLevel(float gray) { return gray >= 0 && gray <= 1; }
 
 }  // namespace
 
@@ -51,18 +45,16 @@ void PDFGraphicsState::SetStrokeColor(std::int32_t color) {
 }
 
 void PDFGraphicsState::SetFillGrayColor(float gray) {
-  std::int32_t color = 0;
-  if (!GrayAsColor(gray, color)) return;
+  if (!IsGrayLevel(gray)) return;
   EmitToOwner(*surface_, "PDFGraphicsState.FillGrayColor", Real{gray}, "g\n");
-  surface_->State().FillColor = color;
+  surface_->State().FillColor = Gray(gray);
 }
 
 void PDFGraphicsState::SetStrokeGrayColor(float gray) {
-  std::int32_t color = 0;
-  if (!GrayAsColor(gray, color)) return;
+  if (!IsGrayLevel(gray)) return;
   EmitToOwner(*surface_, "PDFGraphicsState.StrokeGrayColor", Real{gray}, "G\n");
   // Deliberate: the stroke's gray is reported as the fill colour; existing hosts rely on it.
-  surface_->State().FillColor = color;
+  surface_->State().FillColor = Gray(gray);
 }
 
 void PDFGraphicsState::SetLineWidth(float width) {

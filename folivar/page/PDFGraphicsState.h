@@ -17,7 +17,8 @@ class Surface;
 // getter. Numbers that PDF cannot hold (not finite, or 2^31 and beyond) raise 6, and then nothing
 // is stored or appended.
 //
-// Colours are 0x00BBGGRR, red in the low byte; the top byte is kept but means nothing.
+// Colours are 0x00BBGGRR, red in the low byte; Rgb and Gray make them. The top byte is kept but
+// means nothing.
 class FOLIVAR_API PDFGraphicsState final : public Object {
  public:
   // Black at first.
