@@ -53,7 +53,7 @@ HRESULT RunGuarded(const IID& source, void (*action)(void* context), void* conte
     action(context);
     return S_OK;
   } catch (const Error& error) {
-    return Report(source, error.Number(), error.what());
+    return Report(source, error.Number(), error.Description());
   } catch (const std::bad_alloc&) {
     return Report(source, kOutOfMemory, "Out of memory");
   } catch (const std::exception& error) {

@@ -4,15 +4,16 @@
 
 namespace folivar {
 
-Error::Error(std::int32_t number, const std::string& cause) : Error(number, Words{{}, {}, cause}) {}
+Error::Error(std::int32_t number, const std::string& cause)
+    : Error(number, Words{{}, {}, cause, {}}) {}
 
 Error::Error(std::int32_t number, Words words)
-    : std::runtime_error(TextOf(number, words)),
+    : std::runtime_error(TextOf(words)),
       number_(number),
       words_(std::make_shared<const Words>(std::move(words))) {}
 
-std::string Error::TextOf(std::int32_t number, const Words& words) {
-  if (number == kUnknownImageType) return words.cause;
+std::string Error::TextOf(const Words& words) {
+  if (!words.description.empty()) return words.description + " (" + words.cause + ")";
   std::string text;
   for (const std::string* part : {&words.member, &words.object}) {
     if (!part->empty()) text += *part + ": ";
@@ -24,14 +25,20 @@ const std::string& Error::Member() const noexcept { return words_->member; }
 const std::string& Error::Object() const noexcept { return words_->object; }
 const std::string& Error::Cause() const noexcept { return words_->cause; }
 
+const char* Error::Description() const noexcept {
+  return words_->description.empty() ? what() : words_->description.c_str();
+}
+
 Error Error::WithMember(const std::string& member) const {
-  return {number_, Words{member, words_->object, words_->cause}};
+  Words words = *words_;
+  words.member = member;
+  return {number_, std::move(words)};
 }
 
 Error Error::WithObject(const std::string& object) const {
-  const std::string& part = words_->object;
-  return {number_,
-          Words{words_->member, part.empty() ? object : part + " of " + object, words_->cause}};
+  Words words = *words_;
+  words.object = words.object.empty() ? object : words.object + " of " + object;
+  return {number_, std::move(words)};
 }
 
 Error Error::InvalidArgument(const std::string& cause) { return {kInvalidArgument, cause}; }
@@ -51,6 +58,8 @@ Error Error::InvalidNull(const std::string& cause) { return {kInvalidNull, cause
 Error Error::InvalidFileFormat(const std::string& cause) { return {kInvalidFileFormat, cause}; }
 Error Error::ActionNotSupported(const std::string& cause) { return {kActionNotSupported, cause}; }
 Error Error::KeyInUse(const std::string& cause) { return {kKeyInUse, cause}; }
-Error Error::UnknownImageType(const std::string& cause) { return {kUnknownImageType, cause}; }
+Error Error::UnknownImageType(const std::string& description, const std::string& cause) {
+  return {kUnknownImageType, Words{{}, {}, cause, description}};
+}
 
 }  // namespace folivar

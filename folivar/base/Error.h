@@ -15,7 +15,8 @@ namespace folivar {
 //
 // what() is all the words, in UTF-8: member, object and cause, as far as they are known, parted by
 // colons. "PDFDocument.SavePDFFile: PDFBookmark 'Chapter 1': a value of 3e+09 cannot be written".
-// The text of kUnknownImageType is the cause alone; there are programs that know it by heart.
+// Of kUnknownImageType there are programs that know the description by heart: it comes first, and
+// the cause behind it: "Unknown BMP format (compression 1, in file 'a.bmp')".
 class FOLIVAR_API Error : public std::runtime_error {
  public:
   // The numbers are those of automation.
@@ -56,8 +57,12 @@ class FOLIVAR_API Error : public std::runtime_error {
   // "file 'a.pdf'". Empty when it is the one whose member was called, or no object.
   const std::string& Object() const noexcept;
 
-  // What went wrong.
+  // What went wrong, and where it helps, what would go well.
   const std::string& Cause() const noexcept;
+
+  // What automation hosts are told: the description alone where programs know it by heart, else
+  // what().
+  const char* Description() const noexcept;
 
   // The same error, as one of this member; of members that call each other the outer one stays.
   Error WithMember(const std::string& member) const;
@@ -83,17 +88,18 @@ class FOLIVAR_API Error : public std::runtime_error {
   static Error InvalidFileFormat(const std::string& cause);
   static Error ActionNotSupported(const std::string& cause);
   static Error KeyInUse(const std::string& cause);
-  static Error UnknownImageType(const std::string& cause);
+  static Error UnknownImageType(const std::string& description, const std::string& cause);
 
  private:
   struct Words {
     std::string member;
     std::string object;
     std::string cause;
+    std::string description;  // empty for most
   };
 
   Error(std::int32_t number, Words words);
-  static std::string TextOf(std::int32_t number, const Words& words);
+  static std::string TextOf(const Words& words);
 
   std::int32_t number_;
   std::shared_ptr<const Words> words_;

@@ -24,7 +24,8 @@ constexpr std::size_t kPaletteEntry = 4;  // blue, green, red and a byte without
 constexpr std::size_t kLargestPalette = 256;
 
 [[noreturn]] void Refuse(const std::string& reason, const ImageFile& file) {
-  throw Error::UnknownImageType("Unknown BMP format: " + reason + ", in " + file.Name())
+  throw Error::UnknownImageType(
+      "Unknown BMP format", reason + ", in " + file.Name() + "; " + std::string(kReadablePictures))
       .WithObject(file.Name());
 }
 

@@ -9,6 +9,10 @@ namespace folivar {
 class ByteSink;
 class ImageFile;
 
+// What to do with a picture of another kind, for error texts.
+inline constexpr std::string_view kReadablePictures =
+    "JPEG and uncompressed BMP files can be read: convert it to one of them";
+
 // Role of what knows one format of image files. A reader is made for one file: it inspects the file
 // once, and then writes the image's data as often as the document is saved. It does not keep the
 // file open. (A further format is a class with this role, and its line in PDFImage.cpp.)

@@ -83,7 +83,8 @@ void PDFImage::SetFileName(TextView fileName) {
       if (!reader->LoadImageInfo(file)) reader.reset();
     }
     if (!reader) {
-      throw Error::UnknownImageType("Error: Image type unknown for " + name.Utf8() + ".")
+      throw Error::UnknownImageType("Error: Image type unknown for " + name.Utf8() + ".",
+                                    std::string(kReadablePictures))
           .WithObject(FileNamed(name.Utf8()));
     }
     fileName_ = std::move(name);

@@ -16,7 +16,7 @@ void ExpectNumber(const Error& error, std::int32_t name, std::int32_t number) {
 }
 
 TEST(Error, MakersAndNamesGiveTheNumbersOfAutomation) {
-  ExpectNumber(Error::UnknownImageType(""), Error::kUnknownImageType, -2147220504);
+  ExpectNumber(Error::UnknownImageType("", ""), Error::kUnknownImageType, -2147220504);
   ExpectNumber(Error::InvalidArgument(""), Error::kInvalidArgument, 5);
   ExpectNumber(Error::Overflow(""), Error::kOverflow, 6);
   ExpectNumber(Error::SubscriptOutOfRange(""), Error::kSubscriptOutOfRange, 9);
@@ -73,13 +73,20 @@ TEST(Error, AnObjectInAnObjectIsAPartOfIt) {
   EXPECT_EQ(error.Object(), "Destination of link 'a'");
 }
 
-TEST(Error, TheTextOfAnUnknownImageStandsAlone) {
-  const Error error = Error::UnknownImageType("Error: Image type unknown for a.gif.")
+TEST(Error, TheDescriptionOfAnUnknownImageStandsAlone) {
+  const Error error = Error::UnknownImageType("Error: Image type unknown for a.gif.", "no reader")
                           .WithObject("file 'a.gif'")
                           .WithMember("PDFImage.FileName");
-  EXPECT_STREQ(error.what(), "Error: Image type unknown for a.gif.");
+  EXPECT_STREQ(error.Description(), "Error: Image type unknown for a.gif.");
+  EXPECT_STREQ(error.what(), "Error: Image type unknown for a.gif. (no reader)");
+  EXPECT_EQ(error.Cause(), "no reader");
   EXPECT_EQ(error.Member(), "PDFImage.FileName");
   EXPECT_EQ(error.Object(), "file 'a.gif'");
+}
+
+TEST(Error, OtherDescriptionsAreAllTheWords) {
+  const Error error = Error::Overflow("too large").WithMember("A.B");
+  EXPECT_STREQ(error.Description(), "A.B: too large");
 }
 
 TEST(Error, IsCaughtAsAStandardException) {

@@ -50,7 +50,9 @@ std::string ErrorFor(std::string_view bytes) {
 }
 
 std::string Refusal(std::string_view reason) {
-  return "-2147220504 Unknown BMP format: " + std::string(reason) + ", in file 'a.bmp'";
+  return "-2147220504 Unknown BMP format (" + std::string(reason) +
+         ", in file 'a.bmp'; JPEG and uncompressed BMP files can be read: convert it to one of "
+         "them)";
 }
 
 std::string Palette(std::size_t count, std::uint32_t (*colorOf)(std::uint32_t)) {

@@ -261,7 +261,7 @@ TEST_F(ForeignBmp, OtherKindsAreRefused) {
         << testing::PrintToString(command);
     EXPECT_TRUE(ErrorTextOf([&] {
                   image->SetFileName(path.u8string());
-                }).starts_with("Unknown BMP format: "));
+                }).starts_with("Unknown BMP format ("));
   }
 }
 

@@ -146,11 +146,13 @@ TEST_F(PDFImageInADocument, OtherExtensionsAreUnknownTypes) {
     EXPECT_EQ(FileNameError(name, Jpeg()), Error::kUnknownImageType) << name;
   }
   // Only the name counts, so the file need not be there.
+  const std::string advice =
+      " (JPEG and uncompressed BMP files can be read: convert it to one of them)";
   EXPECT_EQ(FileNameErrorText("no/such.folder/picture"),
-            "Error: Image type unknown for no/such.folder/picture.");
+            "Error: Image type unknown for no/such.folder/picture." + advice);
   EXPECT_EQ(FileNameErrorText("Gr\u00FC\u00DFe.png"),
-            "Error: Image type unknown for Gr\u00FC\u00DFe.png.");
-  EXPECT_EQ(FileNameErrorText(""), "Error: Image type unknown for .");
+            "Error: Image type unknown for Gr\u00FC\u00DFe.png." + advice);
+  EXPECT_EQ(FileNameErrorText(""), "Error: Image type unknown for ." + advice);
 }
 
 TEST_F(PDFImageInADocument, AnExtensionBeyond16BitsRaises6) {
@@ -163,15 +165,15 @@ TEST_F(PDFImageInADocument, AnExtensionBeyond16BitsRaises6) {
 TEST_F(PDFImageInADocument, JpegWithoutAFrameHeaderIsAnUnknownType) {
   EXPECT_EQ(FileNameError("a.jpg", Bmp()), Error::kUnknownImageType);
   const std::string name = (OutputFolder() / "a.jpg").string();
-  EXPECT_EQ(FileNameErrorText(name), "Error: Image type unknown for " + name + ".");
+  EXPECT_TRUE(FileNameErrorText(name).starts_with("Error: Image type unknown for " + name + ". ("));
 }
 
 TEST_F(PDFImageInADocument, BmpOfAnotherFormatIsNamedWithItsFile) {
   EXPECT_EQ(FileNameError("a.bmp", Jpeg()), Error::kUnknownImageType);
   const std::string name = (OutputFolder() / "a.bmp").string();
   const std::string text = FileNameErrorText(name);
-  EXPECT_TRUE(text.starts_with("Unknown BMP format: ")) << text;
-  EXPECT_TRUE(text.ends_with(", in file '" + name + "'")) << text;
+  EXPECT_TRUE(text.starts_with("Unknown BMP format (")) << text;
+  EXPECT_NE(text.find(", in file '" + name + "'; "), std::string::npos) << text;
 }
 
 TEST_F(PDFImageInADocument, FileThatCannotBeReadIsNamed) {

@@ -12,6 +12,6 @@ Outcome "no extension"
 image.FileName = "text.jpg"
 Outcome "no JPEG"
 image.FileName = "text.bmp"
-Say "no BMP", Err.Number & " " & Left(Err.Description, 18)
+Say "no BMP", Err.Number & " " & Err.Description
 Say "in hexadecimal", Hex(Err.Number)
 WScript.Echo "DONE"
