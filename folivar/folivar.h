@@ -11,6 +11,8 @@
 // Failures are thrown as folivar::Error. Objects are used by one thread at a time; documents on
 // different threads do not disturb each other.
 
+#if __cplusplus > 201703L || (defined(_MSVC_LANG) && _MSVC_LANG > 201703L)
+
 #include "folivar/base/Error.h"
 #include "folivar/base/Event.h"
 #include "folivar/base/Text.h"
@@ -20,6 +22,7 @@
 #include "folivar/document/PDFPages.h"
 #include "folivar/document/PDFViewerPreferences.h"
 #include "folivar/document/Platform.h"
+#include "folivar/drawing/Color.h"
 #include "folivar/fonts/FontFiles.h"
 #include "folivar/fonts/PDFFont.h"
 #include "folivar/fonts/PDFFonts.h"
@@ -38,3 +41,7 @@
 #include "folivar/page/PDFTemplates.h"
 #include "folivar/textbox/PDFTextBox.h"
 #include "folivar/textbox/PDFTextBoxes.h"
+
+#else
+#error "Folivar is for C++20: compile with -std=c++20, or /std:c++20"
+#endif

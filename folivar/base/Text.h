@@ -1,7 +1,9 @@
 #pragma once
 
 #include <compare>
+#include <concepts>
 #include <cstddef>
+#include <iosfwd>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -16,8 +18,17 @@ class Internal;
 template <class T, class Target>
 concept ConvertsTo = std::is_convertible_v<const T&, Target>;
 
+// std::filesystem::path, whose header few programs need.
+template <class T>
+concept NativePath = requires(const T& path) {
+  { path.native() } -> std::same_as<const std::basic_string<typename T::value_type>&>;
+  path.lexically_normal();
+};
+
 // A text argument: UTF-8 or UTF-16, borrowed for the length of the call. Anything that is a string
 // of char, char8_t or char16_t converts to it. A null pointer is the empty text.
+//
+// A std::filesystem::path converts too, in the form in which its system has it.
 //
 // UTF-8 is checked where the text is used: what is not UTF-8 raises 5 and names the byte position.
 // UTF-16 is taken as it is, lone surrogates included.
@@ -38,6 +49,12 @@ class FOLIVAR_API TextView {
 
   template <ConvertsTo<std::u16string_view> String>
   TextView(const String& utf16) : TextView(std::u16string_view(utf16)) {}
+
+  // Windows keeps UTF-16 as wchar_t.
+  template <NativePath Path>
+  TextView(const Path& path)
+      : data_(path.native().data()),
+        sizeAndForm_(2 * path.native().size() + (sizeof(typename Path::value_type) > 1 ? 1 : 0)) {}
 
   TextView(std::string_view utf8) : data_(utf8.data()), sizeAndForm_(2 * utf8.size()) {}
   TextView(std::u8string_view utf8) : data_(utf8.data()), sizeAndForm_(2 * utf8.size()) {}
@@ -88,6 +105,9 @@ class FOLIVAR_API Text {
   // Unit by unit, telling letter cases apart.
   friend bool operator==(const Text&, const Text&) = default;
   friend bool operator==(const Text& a, TextView b) { return a == Text(b); }
+
+  // Writes it in UTF-8.
+  friend FOLIVAR_API std::ostream& operator<<(std::ostream& stream, const Text& text);
 
   // For the library
 

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -37,6 +39,18 @@ TEST(TextView, TakesEveryKindOfString) {
   EXPECT_EQ(Text(HostString()).Utf16(), u"host");
   EXPECT_EQ(Text(HostString16()).Utf16(), u"host");
   EXPECT_EQ(Text(TextView(Text("again"))).Utf16(), u"again");
+}
+
+TEST(TextView, TakesAPath) {
+  const std::filesystem::path path = std::filesystem::path("folder") / u8"Gr\u00FC\u00DFe.pdf";
+  EXPECT_EQ(Text(path).Utf16(), u"folder/Gr\u00FC\u00DFe.pdf");
+  EXPECT_TRUE(TextView(std::filesystem::path()).IsEmpty());
+}
+
+TEST(Text, IsWrittenToAStreamInUtf8) {
+  std::ostringstream stream;
+  stream << Text(u"caf\u00E9 \U0001F600") << '.';
+  EXPECT_EQ(stream.str(), "caf\u00E9 \U0001F600.");
 }
 
 TEST(TextView, ANullPointerIsTheEmptyText) {

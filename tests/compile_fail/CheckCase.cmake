@@ -1,11 +1,14 @@
 # Compiles one case of cases.cpp. With a REASON the compiler must fail and one of its error lines
 # must match it; without one it must succeed.
 #
-#   cmake -DCOMPILER= -DINCLUDE= -DSOURCE= -DCASE= -DREASON= -P CheckCase.cmake
+#   cmake -DCOMPILER= -DINCLUDE= -DSOURCE= -DCASE= -DREASON= [-DSTANDARD=20] -P CheckCase.cmake
 
 set(ENV{LC_ALL} C)
+if(NOT STANDARD)
+  set(STANDARD 20)
+endif()
 execute_process(
-  COMMAND "${COMPILER}" -std=c++20 -fsyntax-only "-I${INCLUDE}" "-DCASE_${CASE}" "${SOURCE}"
+  COMMAND "${COMPILER}" "-std=c++${STANDARD}" -fsyntax-only "-I${INCLUDE}" "-DCASE_${CASE}" "${SOURCE}"
   RESULT_VARIABLE status
   OUTPUT_VARIABLE messages
   ERROR_VARIABLE messages)

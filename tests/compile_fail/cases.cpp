@@ -8,6 +8,8 @@
 #endif
 #include <folivar/folivar.h>
 
+#if !defined(CASE_OlderStandard)
+
 #include <memory>
 
 void Host(folivar::PDFPage& page, [[maybe_unused]] folivar::PDFTemplate& drawn,
@@ -90,3 +92,5 @@ void Host(folivar::PDFPage& page, [[maybe_unused]] folivar::PDFTemplate& drawn,
   folivar::PDFText().Append('a');
 #endif
 }
+
+#endif

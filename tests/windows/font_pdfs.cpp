@@ -69,7 +69,7 @@ void SaveSpecimen(const std::string& family, folivar::Embedding embedding,
       top -= 180;
     }
   }
-  document->SavePDFFile(fileName);
+  document->SavePDFFile(std::filesystem::path(fileName));
 }
 
 std::ofstream Open(const std::filesystem::path& fileName) {
