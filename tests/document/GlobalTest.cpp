@@ -271,6 +271,14 @@ TEST(FileExists, IsFalseForWhatIsNoPath) {
   EXPECT_FALSE(FileExists(OutputPath("no-such-folder/file").u8string()));
 }
 
+TEST(FileExists, TakesThePathAsItStands) {
+  const auto folder = OutputPath("pattern");
+  std::filesystem::create_directory(folder);
+  WriteBytes(folder / "file.txt", "");
+  EXPECT_FALSE(FileExists((folder / "*.txt").u8string()));
+  EXPECT_FALSE(FileExists((folder / "file.???").u8string()));
+}
+
 TEST(CeilDiv, Raises6ForAQuotientThatDoesNotFit) {
   EXPECT_EQ(ErrorNumberOf([] { CeilDiv(std::numeric_limits<std::int64_t>::min(), -1); }),
             Error::kOverflow);

@@ -83,6 +83,18 @@ TEST(PDFGraphicsState, GrayLevelIsStoredAsAColour) {
             "0.25 g\n1 g\n");
 }
 
+// The singles nearest to 0.3 and 0.9 are a little above 0.3 and below 0.9: times 255 they are
+// 76.500003 and 229.499994. Rounded to singles, the products would be 76.5 and 229.5, and the
+// levels 76 and 230.
+TEST(PDFGraphicsState, GrayLevelsAreMultipliedInDoublePrecision) {
+  After([](PDFGraphicsState& state) {
+    state.SetFillGrayColor(0.3F);
+    EXPECT_EQ(state.FillColor(), 0x4D4D4D);  // 77
+    state.SetFillGrayColor(0.9F);
+    EXPECT_EQ(state.FillColor(), 0xE5E5E5);  // 229
+  });
+}
+
 // 127.5 is rounded to the even 128.
 TEST(PDFGraphicsState, DeliberateStrokeGrayIsStoredAsTheFillColour) {
   EXPECT_EQ(After([](PDFGraphicsState& state) {
