@@ -620,6 +620,18 @@ TEST_F(PDFTextBoxTest, SizingAnEmptyTextLeavesTheMargins) {
   EXPECT_EQ(box_->Height(), 4);
 }
 
+// Sizes are set as a host sets them: -7 by -20 is turned to the left and upwards.
+TEST_F(PDFTextBoxTest, SizingBelow0TurnsTheBoxOver) {
+  box_->SetWordWrap(false);
+  box_->Move(100, 50);
+  box_->SetMargins(-3, -10, -4, -10);
+  box_->AutoSizeNow();
+  EXPECT_EQ(box_->Left(), 93);
+  EXPECT_EQ(box_->Width(), 7);
+  EXPECT_EQ(box_->Top(), 70);
+  EXPECT_EQ(box_->Height(), 20);
+}
+
 TEST_F(PDFTextBoxTest, SizingBeyondASingleRaises6AndKeepsTheSize) {
   box_->SetWordWrap(false);
   box_->SetText("text");

@@ -228,6 +228,14 @@ TEST_F(TextBoxRendererTest, DecorationsAreStrokesBehindTheText) {
             "Q\n");
 }
 
+// Four characters of 6 from 74 on; escaping adds none that is seen.
+TEST_F(TextBoxRendererTest, DecorationsAreAsLongAsTheTextWithoutItsEscapes) {
+  font_->SetUnderline(true);
+  Add("(a\\)");
+  frame_.borderWidth = 0;
+  EXPECT_EQ(Decorations(), "q\n0.5  w\n74  706  m\n98  706  l\nS\nQ\n");
+}
+
 TEST_F(TextBoxRendererTest, DecorationsFollowTheLinesAndTheirShift) {
   font_->SetUnderline(true);
   Add("one\n");
