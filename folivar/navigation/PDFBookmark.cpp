@@ -5,6 +5,7 @@
 #include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
 #include "folivar/file/PDFText.h"
+#include "folivar/navigation/EscapeTitle.h"
 #include "folivar/navigation/OutlinePlace.h"
 #include "folivar/navigation/PDFBookmarks.h"
 
@@ -17,6 +18,10 @@ PDFBookmark::~PDFBookmark() = default;
 
 void PDFBookmark::SetTitle(TextView title) {
   InMember("PDFBookmark.Title", [&] { title_ = Text(title); });
+}
+
+void PDFBookmark::SetPlainTitle(TextView text) {
+  InMember("PDFBookmark.SetPlainTitle", [&] { title_ = EscapeTitle(text); });
 }
 
 const std::shared_ptr<PDFBookmarks>& PDFBookmark::SubBookmarks() {

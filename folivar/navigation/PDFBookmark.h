@@ -23,10 +23,19 @@ class FOLIVAR_API PDFBookmark final : public Tagged {
   ~PDFBookmark() override;
 
   // Empty at first. Deliberate: it is written as it stands, between parentheses, so that hosts may
-  // escape it in their own ways: a parenthesis without its other, or a backslash, spoils the
-  // outline. EscapeTitle makes any text a title.
+  // escape it in their own ways. So a title is a piece of the file's syntax: a parenthesis without
+  // its other, or a backslash, spoils the outline, and
+  //
+  //   Chapter 1) /A << /S /Launch /F (cmd.exe) >> /X (
+  //
+  // is a bookmark that starts a program. Text that comes from strangers, such as a heading of their
+  // document, goes through SetPlainTitle or EscapeTitle.
   const Text& Title() const { return title_; }
   void SetTitle(TextView title);
+
+  // Makes any text the title, to be read as it is: SetTitle(EscapeTitle(text)). Title then has it
+  // as it is written, with its escapes. Raises 5 for text that is not UTF-8.
+  void SetPlainTitle(TextView text);
 
   // Whether the bookmarks below it show; false at first.
   bool Expanded() const { return expanded_; }

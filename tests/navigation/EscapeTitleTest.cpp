@@ -9,15 +9,14 @@ namespace {
 
 TEST(EscapeTitle, LeavesPlainTextAsItIs) {
   EXPECT_EQ(EscapeTitle(""), "");
-  EXPECT_EQ(EscapeTitle("1.2 Plain, with a tab\tand\na line end"),
-            "1.2 Plain, with a tab\tand\na line end");
+  EXPECT_EQ(EscapeTitle("1.2 Plain, with a tab\tin it"), "1.2 Plain, with a tab\tin it");
   EXPECT_EQ(EscapeTitle(u8"Stra\u00DFe, \u00E9t\u00E9"), u8"Stra\u00DFe, \u00E9t\u00E9");
 }
 
 TEST(EscapeTitle, EscapesWhatAStringTakesForItsOwn) {
   EXPECT_EQ(EscapeTitle("a(b\\c)"), "a\\(b\\\\c\\)");
   EXPECT_EQ(EscapeTitle(":-("), ":-\\(");
-  EXPECT_EQ(EscapeTitle("one\rtwo"), "one\\rtwo");
+  EXPECT_EQ(EscapeTitle("one\rtwo\nthree\r\n"), "one\\rtwo\\nthree\\r\\n");
 }
 
 TEST(EscapeTitle, SaysOtherwiseWhatTitlesHaveAtOtherBytes) {

@@ -8,6 +8,8 @@
 #include "folivar/navigation/PDFBookmark.h"
 #include "tests/support/Content.h"
 #include "tests/support/SavedDocument.h"
+#include "tests/support/TestFiles.h"
+#include "tests/support/Tools.h"
 
 namespace folivar::test {
 namespace {
@@ -16,6 +18,12 @@ class PDFBookmarkTest : public testing::Test {
  protected:
   std::string ObjectText(std::size_t number) {
     return std::string(Save(*document_, "bookmark.pdf", Check::kForm).pdf.Object(number));
+  }
+
+  // With its keys sorted.
+  std::string ObjectAsQpdfHasIt(std::size_t number) {
+    const SavedDocument saved = Save(*document_, "bookmark.pdf");
+    return test::Run({"qpdf", "--show-object=" + std::to_string(number), saved.path.string()}).out;
   }
 
   std::shared_ptr<PDFDocument> document_ = PDFDocument::Create();
@@ -83,6 +91,40 @@ TEST_F(PDFBookmarkTest, ATitleThatIsNotUtf8Raises5AndTheOldOneStays) {
 TEST_F(PDFBookmarkTest, AnEscapedTitleIsAStringOfItsOwn) {
   bookmark_->SetTitle(EscapeTitle(":-) \\"));
   EXPECT_EQ(ObjectText(3), "<< /Title (:-\\) \\\\)\n/Parent 2 0 R\n>>\n");
+}
+
+TEST_F(PDFBookmarkTest, APlainTitleIsKeptEscaped) {
+  bookmark_->SetPlainTitle(":-) \\");
+  EXPECT_EQ(bookmark_->Title(), ":-\\) \\\\");
+  EXPECT_EQ(ObjectText(3), "<< /Title (:-\\) \\\\)\n/Parent 2 0 R\n>>\n");
+  EXPECT_EQ(ErrorTextOf([&] { bookmark_->SetPlainTitle("\xFF"); }),
+            "PDFBookmark.SetPlainTitle: text is not UTF-8: invalid byte at position 0 (counted "
+            "from 0)");
+  EXPECT_EQ(bookmark_->Title(), ":-\\) \\\\") << "it stays";
+}
+
+// Deliberate: who sets a title as it stands writes a piece of the file.
+TEST_F(PDFBookmarkTest, DeliberateATitleCanCarryAnActionAndAPlainOneCannot) {
+  const std::string attack = "Chapter 1) /A << /S /Launch /F (cmd.exe) >> /X (";
+  bookmark_->SetTitle(attack);
+  EXPECT_EQ(ObjectAsQpdfHasIt(3),
+            "<< /A << /F (cmd.exe) /S /Launch >> /Parent 2 0 R /Title (Chapter 1) /X () >>\n");
+  bookmark_->SetPlainTitle(attack);
+  EXPECT_EQ(ObjectAsQpdfHasIt(3),
+            "<< /Parent 2 0 R /Title (Chapter 1\\) /A << /S /Launch /F \\(cmd.exe\\) >> /X \\() "
+            ">>\n");
+}
+
+// Readers that find the table wrong look for lines that begin an object.
+TEST_F(PDFBookmarkTest, NoObjectIsFoundInsideAPlainTitle) {
+  bookmark_->SetPlainTitle("a\n99 0 obj\n<< /Hidden true >>\nendobj\n");
+  std::string bytes = Save(*document_, "bookmark.pdf").bytes;
+  bytes.replace(bytes.find("startxref\n") + 10, 1, "9");
+  const auto path = OutputPath("broken.pdf");
+  WriteBytes(path, bytes);
+  const ToolResult shown = test::Run({"qpdf", "--show-object=99", path.string()});
+  EXPECT_NE(shown.err.find("reconstruct"), std::string::npos) << shown.err;
+  EXPECT_EQ(shown.out, "null\n");
 }
 
 }  // namespace
