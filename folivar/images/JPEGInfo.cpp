@@ -21,15 +21,18 @@ constexpr std::uint8_t kStartOfImage = 0xD8;
 constexpr std::uint8_t kFirstFrameHeader = 0xC0;
 constexpr std::uint8_t kLastFrameHeader = 0xCB;
 constexpr std::size_t kShortestSegment = 2;  // its length counts itself
+constexpr std::size_t kPiece = 4096;
+constexpr std::size_t kMostPieces = JPEGInfo::kLongestSearch / kPiece;
 
 // A walk over a file from its front, read in pieces.
 class Walk {
  public:
   explicit Walk(ImageFile& file) : file_(file) {}
 
-  // The next bytes, valid until the next call; none when the file ends before.
+  // The next bytes, valid until the next call; none when the file ends before, or the search.
   std::span<const unsigned char> Take(std::size_t count) {
     if (position_ + count > start_ + size_) {
+      if (++pieces_ > kMostPieces) return {};
       start_ = position_;
       size_ = file_.Read(start_, {reinterpret_cast<char*>(piece_.data()), piece_.size()});
       if (size_ < count) return {};
@@ -43,7 +46,8 @@ class Walk {
 
  private:
   ImageFile& file_;
-  std::array<unsigned char, 4096> piece_;
+  std::array<unsigned char, kPiece> piece_;
+  std::size_t pieces_ = 0;   // that were read
   std::uint64_t start_ = 0;  // of the piece in the file
   std::size_t size_ = 0;
   std::uint64_t position_ = 0;
@@ -66,7 +70,8 @@ struct Frame {
 //   FF D8            start of image
 //   FF E0  00 10 ... a segment of 16 bytes, its length included
 //   FF C0  00 11  08  00 02  00 03 ...  the frame header: length, precision, height, width
-// False when there is no frame header, or what comes before it is cut short or has no length.
+// False when there is no frame header as far as is searched, or what comes before it is cut short
+// or has no length.
 bool FindFrame(ImageFile& file, Frame& frame) {
   Walk walk(file);
   for (auto marker = walk.Take(2); !marker.empty(); marker = walk.Take(2)) {

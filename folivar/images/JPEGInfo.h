@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -14,6 +15,11 @@ namespace folivar {
 // four components too.
 class JPEGInfo final : public ImageReader {
  public:
+  // How many bytes are read at most in search of the frame header, in pieces of 4096; segments are
+  // skipped unread. Files made to keep us reading for hours have none within that; the longest
+  // header that a camera could write, a thousand full segments of 64 KB, takes a sixteenth of it.
+  static constexpr std::size_t kLongestSearch = std::size_t{64} * 1024 * 1024;
+
   // True when there is a frame header. Raises 6 for a width or height of 32768 or more, and for a
   // file longer than 2^31 - 1 bytes.
   //

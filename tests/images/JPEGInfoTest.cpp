@@ -175,6 +175,56 @@ class LongSource final : public ByteSource {
   std::uint64_t size_;
 };
 
+// Zeros and then a frame header; counts what is read.
+class LateSource final : public ByteSource {
+ public:
+  explicit LateSource(std::uint64_t zeros) : zeros_(zeros) {}
+
+  std::uint64_t Size() const override { return zeros_ + frame_.size(); }
+  std::uint64_t BytesRead() const { return bytesRead_; }
+  std::size_t Read(std::uint64_t offset, std::span<char> out) override {
+    std::size_t size = 0;
+    for (; size < out.size() && offset + size < Size(); ++size) {
+      const std::uint64_t place = offset + size;
+      out[size] = place < zeros_ ? '\0' : frame_[static_cast<std::size_t>(place - zeros_)];
+    }
+    bytesRead_ += size;
+    return size;
+  }
+
+ private:
+  std::string frame_ = Frame(0xC0, 3, 2);
+  std::uint64_t zeros_;
+  std::uint64_t bytesRead_ = 0;
+};
+
+TEST(JPEGInfo, TheSearchForTheFrameHeaderEnds) {
+  static constexpr std::uint64_t kLongest = JPEGInfo::kLongestSearch;
+  const auto isFoundBehind = [](std::uint64_t zeros) {
+    LateSource source(zeros);
+    ImageFile file(source, "a.jpg");
+    JPEGInfo reader;
+    const bool isFound = reader.LoadImageInfo(file);
+    EXPECT_LE(source.BytesRead(), kLongest);
+    return isFound;
+  };
+  EXPECT_TRUE(isFoundBehind(kLongest / 2));
+  EXPECT_TRUE(isFoundBehind(kLongest - 4096));
+  EXPECT_FALSE(isFoundBehind(kLongest));
+  EXPECT_FALSE(isFoundBehind(std::uint64_t{1} << 40));
+}
+
+// More header than any file has: 80 MB of full segments, of which little is read.
+TEST(JPEGInfo, SegmentsThatAreSkippedDoNotCountForTheSearch) {
+  std::string bytes = kStart;
+  const std::string segment = Segment(0xE2, std::string(65533, 'p'));
+  bytes.reserve(1280 * segment.size() + 100);
+  for (int i = 0; i < 1280; ++i) bytes += segment;
+  bytes += Frame(0xC0, 3, 2);
+  EXPECT_GT(bytes.size(), JPEGInfo::kLongestSearch);
+  EXPECT_EQ(SizeOf(bytes), "3x2");
+}
+
 TEST(JPEGInfo, Raises6ForAFileLongerThan32BitsCanSay) {
   LongSource longest((std::uint64_t{1} << 31) - 1);
   ImageFile longestFile(longest, "a.jpg");
