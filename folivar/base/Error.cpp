@@ -1,8 +1,20 @@
 #include "folivar/base/Error.h"
 
+#include <cstddef>
 #include <utility>
 
 namespace folivar {
+namespace {
+
+// what() would end at a NUL, which a host's name may hold: it is shown as "\0".
+std::string WithVisibleNuls(std::string text) {
+  for (std::size_t nul = text.find('\0'); nul != std::string::npos; nul = text.find('\0', nul)) {
+    text.replace(nul, 1, "\\0");
+  }
+  return text;
+}
+
+}  // namespace
 
 Error::Error(std::int32_t number, const std::string& cause)
     : Error(number, Words{{}, {}, cause, {}}) {}
@@ -13,12 +25,14 @@ Error::Error(std::int32_t number, Words words)
       words_(std::make_shared<const Words>(std::move(words))) {}
 
 std::string Error::TextOf(const Words& words) {
-  if (!words.description.empty()) return words.description + " (" + words.cause + ")";
+  if (!words.description.empty()) {
+    return words.description + WithVisibleNuls(" (" + words.cause + ")");
+  }
   std::string text;
   for (const std::string* part : {&words.member, &words.object}) {
     if (!part->empty()) text += *part + ": ";
   }
-  return text + words.cause;
+  return WithVisibleNuls(text + words.cause);
 }
 
 const std::string& Error::Member() const noexcept { return words_->member; }
@@ -59,7 +73,7 @@ Error Error::InvalidFileFormat(const std::string& cause) { return {kInvalidFileF
 Error Error::ActionNotSupported(const std::string& cause) { return {kActionNotSupported, cause}; }
 Error Error::KeyInUse(const std::string& cause) { return {kKeyInUse, cause}; }
 Error Error::UnknownImageType(const std::string& description, const std::string& cause) {
-  return {kUnknownImageType, Words{{}, {}, cause, description}};
+  return {kUnknownImageType, Words{{}, {}, cause, WithVisibleNuls(description)}};
 }
 
 }  // namespace folivar

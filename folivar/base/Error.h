@@ -15,8 +15,9 @@ namespace folivar {
 //
 // what() is all the words, in UTF-8: member, object and cause, as far as they are known, parted by
 // colons. "PDFDocument.SavePDFFile: PDFBookmark 'Chapter 1': a value of 3e+09 cannot be written".
-// Of kUnknownImageType there are programs that know the description by heart: it comes first, and
-// the cause behind it: "Unknown BMP format (compression 1, in file 'a.bmp')".
+// A NUL in a host's name is shown as "\0". Of kUnknownImageType there are programs that know the
+// description by heart: it comes first, and the cause behind it: "Unknown BMP format (compression
+// 1, in file 'a.bmp')".
 class FOLIVAR_API Error : public std::runtime_error {
  public:
   // The numbers are those of automation.
@@ -30,7 +31,7 @@ class FOLIVAR_API Error : public std::runtime_error {
     kBadFileName = 52,         // empty, too long, or not a name at all
     kFileNotFound = 53,        // a picture or font file that is not there
     kDiskFull = 61,            // the file that is written does not fit
-    kInputPastEnd = 62,        // a picture's file has become shorter
+    kInputPastEnd = 62,        // a picture's file has become shorter or longer
     kPermissionDenied = 70,    // the system lets nobody, or not us
     kPathFileAccess = 75,      // any other failure to read or write a file
     kPathNotFound = 76,        // the folder of a file to be written, or a folder of fonts

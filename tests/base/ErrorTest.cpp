@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <stdexcept>
+#include <string>
 #include <type_traits>
 
 #include "folivar/base/Error.h"
@@ -42,6 +43,14 @@ TEST(Error, OfACauseAloneHasNoMemberAndNoObject) {
   EXPECT_EQ(error.Cause(), "caf\u00E9 is too large");
   EXPECT_EQ(error.Member(), "");
   EXPECT_EQ(error.Object(), "");
+}
+
+TEST(Error, ItsTextGoesOnBehindANul) {
+  using std::string_literals::operator""s;
+  EXPECT_STREQ(Error::InvalidArgument("key 'a\0b\0' is in use"s).what(),
+               "key 'a\\0b\\0' is in use");
+  EXPECT_STREQ(Error::UnknownImageType("\0.gif"s).what(), "\\0.gif");
+  EXPECT_STREQ(Error::DiskFull("no room").WithObject("file '\0'"s).what(), "file '\\0': no room");
 }
 
 TEST(Error, MayHaveANumberOfItsOwn) {
