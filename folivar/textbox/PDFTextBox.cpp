@@ -125,8 +125,8 @@ void PDFTextBox::Move(float left, std::optional<float> top, std::optional<float>
 }
 
 void PDFTextBox::AutoSizeNow() {
-  SetAutoSize(true);
   InMember("PDFTextBox.AutoSizeNow", [&] { AutoSizeBox(); });
+  SetAutoSize(true);
 }
 
 // Deliberate: the margins are added to the width with word wrap too, so that every sizing widens

@@ -639,6 +639,7 @@ TEST_F(PDFTextBoxTest, SizingBeyondASingleRaises6AndKeepsTheSize) {
   const float height = box_->Height();
   EXPECT_EQ(ErrorNumberOf([&] { box_->AutoSizeNow(); }), Error::kOverflow);
   EXPECT_EQ(box_->Height(), height);
+  EXPECT_FALSE(box_->AutoSize()) << "later saves do not fail for it";
 }
 
 TEST_F(PDFTextBoxTest, DeliberateEverySaveSizesABoxThatSizesItself) {
