@@ -3,6 +3,8 @@
 #include <cerrno>
 #include <cstdio>
 
+#include "folivar/file/WriteSignals.h"
+
 namespace folivar {
 
 FileSink::FileSink(TextView fileName) {
@@ -12,6 +14,7 @@ FileSink::FileSink(TextView fileName) {
 }
 
 void FileSink::Write(std::string_view bytes) {
+  const WriteSignals held;
   errno = 0;
   if (std::fwrite(bytes.data(), 1, bytes.size(), file_.get()) != bytes.size()) {
     throw FileError(FileAction::kWrite, name_, errno);

@@ -1,8 +1,11 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/mman.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -10,6 +13,7 @@
 #include <iterator>
 #include <stdexcept>
 #include <string>
+#include <thread>
 
 #include "folivar/base/Error.h"
 #include "folivar/file/FileSink.h"
@@ -147,6 +151,52 @@ TEST(FileSink, AFileThatRefusesBytesIs70) {
   ASSERT_EQ(fcntl(file, F_ADD_SEALS, F_SEAL_WRITE), 0);
   ExpectFileError("/proc/self/fd/" + std::to_string(file), Error::kPermissionDenied, EPERM);
   close(file);
+}
+
+TEST(FileSink, APipeThatNobodyReadsAnyMoreIs75AndEndsNoProgram) {
+  const auto isRaised = [] {
+    std::array<int, 2> ends{};
+    if (pipe(ends.data()) != 0) return false;
+    const std::string name = "/proc/self/fd/" + std::to_string(ends[1]);
+    FileSink sink(name);
+    close(ends[0]);
+    const auto write = [&] { sink.Write("bytes"); };
+    return ErrorNumberOf(write) == Error::kPathFileAccess &&
+           ErrorTextOf(write) == "file '" + name + "': cannot be written: Broken pipe";
+  };
+  EXPECT_EXIT(std::_Exit(isRaised() ? 0 : 1), testing::ExitedWithCode(0), "");
+}
+
+TEST(FileSink, AFileBeyondTheLimitOfItsSizeIs61AndEndsNoProgram) {
+  const std::string name = OutputPath("limited").string();
+  const auto isRaised = [&](void (*write)(const std::string&)) {
+    const rlimit limit = {4, 4};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    return ErrorNumberOf([&] { write(name); }) == Error::kDiskFull;
+  };
+  for (const auto& write : {WriteThroughSink, SaveDocument}) {
+    EXPECT_EXIT(std::_Exit(isRaised(write) ? 0 : 1), testing::ExitedWithCode(0), "");
+  }
+  EXPECT_EQ(std::filesystem::file_size(name), 4U);
+}
+
+TEST(FileSink, AFileInMemoryAndAPipeAreWrittenLikeFiles) {
+  const auto document = PDFDocument::Create();
+  const auto path = OutputPath("file.pdf");
+  document->SavePDFFile(path.u8string());
+  const std::string expected = ReadBytes(path);
+
+  const int memory = memfd_create("document", 0);
+  ASSERT_NE(memory, -1);
+  document->SavePDFFile("/dev/fd/" + std::to_string(memory));
+  EXPECT_EQ(ReadBytes("/proc/self/fd/" + std::to_string(memory)), expected);
+  close(memory);
+
+  const auto fifo = OutputPath("fifo");
+  ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+  std::thread writer([&] { document->SavePDFFile(fifo.u8string()); });
+  EXPECT_EQ(ReadBytes(fifo), expected);
+  writer.join();
 }
 
 TEST(FileSink, AFailureLeavesNoFileOpen) {
