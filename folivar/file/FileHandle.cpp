@@ -1,5 +1,10 @@
 #include "folivar/file/FileHandle.h"
 
+#ifndef _WIN32
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
 #include <cerrno>
 #include <cstdint>
 #include <system_error>
@@ -8,14 +13,26 @@ namespace folivar {
 namespace {
 
 // Null, with errno set, when the file cannot be opened.
-std::FILE* Open(const Text& name, FileAction action) {
 #ifdef _WIN32
+std::FILE* Open(const Text& name, FileAction action) {
   const std::wstring path(name.Utf16().begin(), name.Utf16().end());
   return _wfopen(path.c_str(), action == FileAction::kRead ? L"rb" : L"wb");
-#else
-  return std::fopen(name.Utf8().c_str(), action == FileAction::kRead ? "rb" : "wb");
-#endif
 }
+#else
+// Programs that the host starts meanwhile get none of the files.
+std::FILE* Open(const Text& name, FileAction action) {
+  if (action == FileAction::kWrite) return std::fopen(name.Utf8().c_str(), "wbe");
+  const int descriptor = open(name.Utf8().c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  if (descriptor < 0) return nullptr;
+  std::FILE* const file = fdopen(descriptor, "rb");
+  if (file == nullptr) {
+    const int reason = errno;
+    close(descriptor);
+    errno = reason;
+  }
+  return file;
+}
+#endif
 
 std::int32_t NumberOf(FileAction action, int reason) {
   switch (reason) {

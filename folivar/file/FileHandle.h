@@ -21,7 +21,8 @@ using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
 
 enum class FileAction { kRead, kWrite };
 
-// Opens a file for reading, or creates it, or cuts it to length 0, for writing. Raises what
+// Opens a file for reading, or creates it, or cuts it to length 0, for writing. What is opened for
+// reading and is no file, such as a pipe that nobody writes into, is not waited for. Raises what
 // CheckFileName does, and what FileError makes of the system's refusal.
 FileHandle OpenFile(const Text& name, FileAction action);
 

@@ -20,12 +20,24 @@ int SeekTo(std::FILE* file, std::int64_t offset, int origin) {
 std::int64_t PositionIn(std::FILE* file) { return ftello(file); }
 #endif
 
+// A pipe or a device has no size and no end. Of what is not there the system tells more.
+void RefuseAllButFiles(FileKind kind, const std::string& name) {
+  if (kind == FileKind::kFolder) throw FileError(FileAction::kRead, name, EISDIR);
+  if (kind == FileKind::kOther) {
+    throw Error::PathFileAccess("cannot be read: it is a pipe, a socket or a device, not a file")
+        .WithObject(FileNamed(name));
+  }
+}
+
 }  // namespace
 
 FileSource::FileSource(const Text& name) : name_(name.Utf8()) {
-  // Some systems open a folder like a file, others refuse it like one that is locked.
-  if (KindOf(name) == FileKind::kFolder) throw FileError(FileAction::kRead, name_, EISDIR);
+  CheckFileName(name);
+  // Before it is opened, which some devices take for a command, and after: it may be another by
+  // then.
+  RefuseAllButFiles(KindOf(name), name_);
   file_ = OpenFile(name, FileAction::kRead);
+  RefuseAllButFiles(KindOf(file_.get()), name_);
   Seek(0, SEEK_END);
   const std::int64_t end = PositionIn(file_.get());
   if (end < 0) throw FileError(FileAction::kRead, name_, errno);

@@ -9,7 +9,8 @@
 namespace folivar {
 
 // A file opened for reading. Failures raise the file errors (52, 53 for a file that is not there,
-// 70, 75 also for a folder, 76); their text names the file and gives the system's reason.
+// 70, 75 also for a folder, pipe, socket or device, 76); their text names the file and gives the
+// system's reason.
 class FileSource final : public ByteSource {
  public:
   explicit FileSource(const Text& name);

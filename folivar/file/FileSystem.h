@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstdio>
 #include <optional>
 #include <system_error>
 #include <vector>
@@ -16,6 +17,8 @@ enum class FileKind { kNone, kFile, kFolder, kOther };
 
 // Links count as what they lead to. kNone also where the system does not tell.
 FileKind KindOf(const Text& name);
+// Of what is open.
+FileKind KindOf(std::FILE* file);
 
 // What changes when a file does.
 struct FileStamp {
@@ -24,6 +27,15 @@ struct FileStamp {
 };
 // Nothing where the system does not tell.
 std::optional<FileStamp> StampOf(const Text& name);
+
+// Which file it is, whatever its name: links lead to it, and it may have several names. Nothing for
+// what is not there or is not told.
+struct FileId {
+  std::uint64_t volume;
+  std::uint64_t file;
+  friend bool operator==(const FileId&, const FileId&) = default;
+};
+std::optional<FileId> FileIdOf(const Text& name);
 
 // The name taken from the working folder, as long as that is the same. Raises 52 for what cannot be
 // a name.

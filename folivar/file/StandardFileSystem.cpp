@@ -1,4 +1,6 @@
-// The file system as the standard library has it.
+// The file system as the standard library has it; what that does not tell, as POSIX does.
+
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -45,6 +47,13 @@ FileKind KindOf(const Text& name) {
   return KindOf(fs::status(name.Utf8(), ignored));
 }
 
+FileKind KindOf(std::FILE* file) {
+  struct stat status;
+  if (fstat(fileno(file), &status) != 0) return FileKind::kNone;
+  if (S_ISREG(status.st_mode)) return FileKind::kFile;
+  return S_ISDIR(status.st_mode) ? FileKind::kFolder : FileKind::kOther;
+}
+
 std::optional<FileStamp> StampOf(const Text& name) {
   const fs::path path = name.Utf8();
   std::error_code error;
@@ -52,6 +61,12 @@ std::optional<FileStamp> StampOf(const Text& name) {
   if (error) return std::nullopt;
   const auto time = fs::last_write_time(path, error);
   return FileStamp{size, time.time_since_epoch().count()};
+}
+
+std::optional<FileId> FileIdOf(const Text& name) {
+  struct stat status;
+  if (stat(name.Utf8().c_str(), &status) != 0) return std::nullopt;
+  return FileId{status.st_dev, status.st_ino};
 }
 
 Text AbsoluteName(const Text& name) {

@@ -2,6 +2,7 @@
 
 #define NOMINMAX
 #define WIN32_LEAN_AND_MEAN
+#include <io.h>
 #include <windows.h>
 
 #include <cwchar>
@@ -32,6 +33,8 @@ struct SearchCloser {
 };
 using Search = std::unique_ptr<HANDLE, SearchCloser>;
 
+std::uint64_t Joined(DWORD high, DWORD low) { return std::uint64_t{high} << 32 | low; }
+
 }  // namespace
 
 FileKind KindOf(const Text& name) {
@@ -39,15 +42,32 @@ FileKind KindOf(const Text& name) {
   return attributes == INVALID_FILE_ATTRIBUTES ? FileKind::kNone : KindOf(attributes);
 }
 
+FileKind KindOf(std::FILE* file) {
+  const auto handle = reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(file)));
+  return GetFileType(handle) == FILE_TYPE_DISK ? FileKind::kFile : FileKind::kOther;
+}
+
 std::optional<FileStamp> StampOf(const Text& name) {
   WIN32_FILE_ATTRIBUTE_DATA data;
   if (!GetFileAttributesExW(WideFrom(name).c_str(), GetFileExInfoStandard, &data)) {
     return std::nullopt;
   }
-  const auto joined = [](DWORD high, DWORD low) { return std::uint64_t{high} << 32 | low; };
-  return FileStamp{joined(data.nFileSizeHigh, data.nFileSizeLow),
-                   static_cast<std::int64_t>(joined(data.ftLastWriteTime.dwHighDateTime,
+  return FileStamp{Joined(data.nFileSizeHigh, data.nFileSizeLow),
+                   static_cast<std::int64_t>(Joined(data.ftLastWriteTime.dwHighDateTime,
                                                     data.ftLastWriteTime.dwLowDateTime))};
+}
+
+// Opened without any right, so that it does not matter who else has the file open.
+std::optional<FileId> FileIdOf(const Text& name) {
+  constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  HANDLE file = CreateFileW(WideFrom(name).c_str(), 0, kShareAll, nullptr, OPEN_EXISTING,
+                            FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return std::nullopt;
+  BY_HANDLE_FILE_INFORMATION told;
+  const bool isTold = GetFileInformationByHandle(file, &told) != 0;
+  CloseHandle(file);
+  if (!isTold) return std::nullopt;
+  return FileId{told.dwVolumeSerialNumber, Joined(told.nFileIndexHigh, told.nFileIndexLow)};
 }
 
 Text AbsoluteName(const Text& name) {

@@ -76,11 +76,13 @@ void PDFImage::SetFileName(TextView fileName) {
     Text name(fileName);
     const Format* format = FormatOf(name);
     std::unique_ptr<ImageReader> reader;
+    std::uint64_t length = 0;
     if (format != nullptr) {
       FileSource source = Open(name);
       ImageFile file(source, name.Utf8());
       reader = format->makeReader();
       if (!reader->LoadImageInfo(file)) reader.reset();
+      length = file.Size();
     }
     if (!reader) {
       throw Error::UnknownImageType("Error: Image type unknown for " + name.Utf8() + ".",
@@ -88,6 +90,7 @@ void PDFImage::SetFileName(TextView fileName) {
           .WithObject(FileNamed(name.Utf8()));
     }
     fileName_ = std::move(name);
+    fileLength_ = length;
     filter_ = format->filter;
     reader_ = std::move(reader);
   });
@@ -107,6 +110,11 @@ void PDFImage::NumberObjects(const Internal& internal, ObjectNumbers& numbers) {
 void PDFImage::WriteObjects(const Internal& internal, SaveFile& file) const {
   FileSource source = Open(fileName_);
   ImageFile imageFile(source, fileName_.Utf8());
+  // A reader misses what a shorter file lacks; a longer one would be cut without a word.
+  if (imageFile.Size() > fileLength_) {
+    throw Error::InputPastEnd("has become longer than " + std::to_string(fileLength_) + " bytes")
+        .WithObject(imageFile.Name());
+  }
   AppendDictionary(file.BeginObject(ObjectNumber(internal)));
   file.WriteStream(StreamKind::kData, static_cast<std::uint64_t>(reader_->ImageStreamSize()),
                    [&](ByteSink& out) { reader_->WriteImageStream(imageFile, out); });

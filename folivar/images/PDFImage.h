@@ -37,14 +37,14 @@ class FOLIVAR_API PDFImage final : public Tagged, public XObject {
   //
   // The file is inspected at once and read again by every save, which copies its data piece by
   // piece; meanwhile it is not open. A save raises 53 when the file is gone, 62 when it has become
-  // shorter, and 91 for an image that was never given a file.
+  // shorter or longer, and 91 for an image that was never given a file.
   //
   // Raises -2147220504 for a file of another format, "Error: Image type unknown for a.gif.", and
   // for bitmaps of other kinds, "Unknown BMP format"; 53 for a file that is not found, whatever the
   // reason; 6 for a name whose last point is beyond its first 32767 units, and for a JPEG file of
   // 32768 pixels or more in width or height or longer than 2^31 - 1 bytes; 70 or 75 for a file that
-  // cannot be read. The image stays as it was then. A save raises 6 for an image whose object would
-  // be longer than 2^31 - 1 bytes.
+  // cannot be read, 75 also for a pipe, socket or device. The image stays as it was then. A save
+  // raises 6 for an image whose object would be longer than 2^31 - 1 bytes.
   const Text& FileName() const { return fileName_; }
   void SetFileName(TextView fileName);
 
@@ -64,6 +64,7 @@ class FOLIVAR_API PDFImage final : public Tagged, public XObject {
   void AppendDictionary(PDFText& text) const;
 
   Text fileName_;
+  std::uint64_t fileLength_ = 0;         // as it was inspected
   std::string_view filter_;              // "/Filter /DCTDecode", or empty
   std::unique_ptr<ImageReader> reader_;  // null without a file
   bool interpolate_ = false;

@@ -104,6 +104,15 @@ TEST(FileHandle, ARefusalIsNumberedByItsReason) {
   EXPECT_EQ(number(FileAction::kWrite, ENOENT), Error::kPathNotFound) << "its folder is missing";
 }
 
+// A program that is started while a file is open does not keep it open.
+TEST(FileHandle, NoOtherProgramInheritsAFile) {
+  const auto path = OutputPath("bytes");
+  for (const FileAction action : {FileAction::kWrite, FileAction::kRead}) {
+    const FileHandle file = OpenFile(NameOf(path), action);
+    EXPECT_EQ(fcntl(fileno(file.get()), F_GETFD), FD_CLOEXEC);
+  }
+}
+
 TEST(FileHandle, ARefusalNamesTheFileWhatWasWantedAndTheReason) {
   EXPECT_STREQ(FileError(FileAction::kWrite, "a.pdf", ENOSPC).what(),
                "file 'a.pdf': cannot be written: No space left on device");

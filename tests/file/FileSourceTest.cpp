@@ -1,4 +1,8 @@
 #include <gtest/gtest.h>
+#include <sys/mman.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <array>
 #include <filesystem>
@@ -60,6 +64,31 @@ TEST(FileSource, ReadsAnEmptyFile) {
   EXPECT_EQ(ReadFrom(source, 0, 1), "");
 }
 
+TEST(FileSource, WhatIsNoFileIs75AndNotWaitedFor) {
+  const auto fifo = OutputPath("fifo");
+  ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+  const int unbound = socket(AF_UNIX, SOCK_STREAM, 0);
+  ASSERT_NE(unbound, -1);
+  for (const std::string& name : {fifo.string(), std::string("/dev/null"), std::string("/dev/zero"),
+                                  "/proc/self/fd/" + std::to_string(unbound)}) {
+    const auto open = [&] { FileSource source((Text(name))); };
+    EXPECT_EQ(ErrorNumberOf(open), Error::kPathFileAccess) << name;
+    EXPECT_EQ(
+        ErrorTextOf(open),
+        "file '" + name + "': cannot be read: it is a pipe, a socket or a device, not a file");
+  }
+  close(unbound);
+}
+
+TEST(FileSource, ReadsAFileInMemory) {
+  const int memory = memfd_create("bytes", 0);
+  ASSERT_NE(memory, -1);
+  ASSERT_EQ(write(memory, "0123", 4), 4);
+  FileSource source(Text("/dev/fd/" + std::to_string(memory)));
+  EXPECT_EQ(ReadFrom(source, 1, 10), "123");
+  close(memory);
+}
+
 TEST(FileSource, TellsWhyAFileCannotBeRead) {
   const auto path = OutputPath("bytes");
   WriteBytes(path, "");
@@ -71,6 +100,7 @@ TEST(FileSource, TellsWhyAFileCannotBeRead) {
   EXPECT_EQ(numberFor(path.parent_path()), Error::kPathFileAccess);
   EXPECT_EQ(numberFor(""), Error::kBadFileName);
   EXPECT_EQ(numberFor(std::string("a\0b", 3)), Error::kBadFileName);
+  EXPECT_EQ(numberFor(std::string("/dev\0b", 6)), Error::kBadFileName) << "no folder's name";
   EXPECT_EQ(numberFor(path.parent_path() / std::string(300, 'x')), Error::kBadFileName);
   EXPECT_EQ(ErrorTextOf([&] { FileSource source(Text("no/such.file")); }),
             "file 'no/such.file': cannot be read: No such file or directory");

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <chrono>
 #include <cstddef>
+#include <cstdio>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <system_error>
@@ -63,6 +65,31 @@ TEST_F(FileSystem, TheKindOfALinkIsThatOfWhatItLeadsTo) {
   EXPECT_EQ(KindOf(NameOf(folder_ / "to file")), FileKind::kFile);
   EXPECT_EQ(KindOf(NameOf(folder_ / "to folder")), FileKind::kFolder);
   EXPECT_EQ(KindOf(NameOf(folder_ / "to nothing")), FileKind::kNone);
+}
+
+TEST_F(FileSystem, WhatIsOpenTellsItsKind) {
+  const auto kindOf = [](const fs::path& path) {
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"),
+                                                               std::fclose);
+    return KindOf(file.get());
+  };
+  EXPECT_EQ(kindOf(folder_ / "to file"), FileKind::kFile);
+  EXPECT_EQ(kindOf(folder_ / "below"), FileKind::kFolder);
+  EXPECT_EQ(kindOf("/dev/null"), FileKind::kOther);
+}
+
+TEST_F(FileSystem, AFileIsTheSameUnderAllItsNames) {
+  fs::create_hard_link(folder_ / "file", folder_ / "second name");
+  WriteBytes(folder_ / "twin", "bytes");
+  const auto idOf = [&](const char* name) { return FileIdOf(NameOf(folder_ / name)); };
+  ASSERT_TRUE(idOf("file").has_value());
+  for (const char* same : {"file", "to file", "second name", "below/../file", ".//file"}) {
+    EXPECT_EQ(idOf(same), idOf("file")) << same;
+  }
+  for (const char* other : {"twin", "below", "to folder", "missing", "to nothing"}) {
+    EXPECT_NE(idOf(other), idOf("file")) << other;
+  }
+  EXPECT_FALSE(idOf("missing").has_value());
 }
 
 TEST_F(FileSystem, AStampChangesWhenTheFileDoes) {

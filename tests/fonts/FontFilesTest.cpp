@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 #include <memory>
@@ -51,6 +52,14 @@ class FontFilesOfADocument : public testing::Test {
   std::shared_ptr<FontFiles> files_;
   std::shared_ptr<PDFFonts> fonts_;
 };
+
+TEST_F(FontFilesOfADocument, APipeIs75AndNotWaitedFor) {
+  const path fifo = OutputPath("fifo.ttf");
+  ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+  const auto add = [&] { files_->AddFile(fifo.u8string()); };
+  EXPECT_EQ(ErrorNumberOf(add), Error::kPathFileAccess);
+  EXPECT_NE(ErrorTextOf(add).find("'" + fifo.string() + "'"), std::string::npos);
+}
 
 TEST_F(FontFilesOfADocument, AddedAfterCreationCountFromThenOn) {
   EXPECT_EQ(ErrorNumberOf([&] { fonts_->Add("Liberation Sans", fontTrueType); }),

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 #include <memory>
@@ -253,13 +254,38 @@ TEST_F(PDFImageInADocument, FileThatBecameShorterRaises62AtTheSave) {
   }
 }
 
-TEST_F(PDFImageInADocument, OfAFileThatGrewTheDeclaredBytesAreWritten) {
-  ASSERT_EQ(FileNameError("a.bmp", Bmp()), 0);
-  WriteBytes(OutputFolder() / "a.bmp", Bmp() + "more");
-  EXPECT_EQ(SaveWithPage("bmp.pdf").pdf.Stream(6), "321654987rgbRGBzyx");
+// It would be written cut.
+TEST_F(PDFImageInADocument, FileThatBecameLongerRaises62AtTheSave) {
+  for (const std::string& bytes : {Jpeg(), Bmp()}) {
+    const char* name = bytes == Jpeg() ? "a.jpg" : "a.bmp";
+    ASSERT_EQ(FileNameError(name, bytes), 0);
+    WriteBytes(OutputFolder() / name, bytes + "m");
+    const auto save = [&] { document_->SavePDFFile(OutputPath("broken").u8string()); };
+    EXPECT_EQ(ErrorNumberOf(save), Error::kInputPastEnd) << name;
+    EXPECT_EQ(ErrorTextOf(save),
+              "PDFDocument.SavePDFFile: file '" + (OutputFolder() / name).string() +
+                  "': has become longer than " + std::to_string(bytes.size()) + " bytes");
+    ASSERT_EQ(FileNameError(name, bytes + "m"), 0) << "given again, it is the picture";
+    SaveWithPage("longer.pdf");
+  }
+}
+
+TEST_F(PDFImageInADocument, APipeIs75AndNotWaitedFor) {
+  const auto fifo = OutputPath("fifo.jpg");
+  ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+  EXPECT_EQ(FileNameError(fifo), Error::kPathFileAccess);
+  EXPECT_EQ(FileNameErrorText(fifo.u8string()),
+            "PDFImage.FileName: file '" + fifo.string() +
+                "': cannot be read: it is a pipe, a socket or a device, not a file");
+}
+
+// A picture that a pipe has taken the place of.
+TEST_F(PDFImageInADocument, APipeIs75AtTheSave) {
   ASSERT_EQ(FileNameError("a.jpg", Jpeg()), 0);
-  WriteBytes(OutputFolder() / "a.jpg", Jpeg() + "more");
-  EXPECT_EQ(SaveWithPage("jpeg.pdf").pdf.Stream(6), Jpeg());
+  const auto path = OutputPath("a.jpg");
+  ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+  EXPECT_EQ(ErrorNumberOf([&] { document_->SavePDFFile(OutputPath("broken").u8string()); }),
+            Error::kPathFileAccess);
 }
 
 TEST_F(PDFImageInADocument, FileNameMayHoldAnyCharacter) {
