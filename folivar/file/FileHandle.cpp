@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <cstdint>
+#include <new>
 #include <system_error>
 
 namespace folivar {
@@ -84,6 +85,7 @@ FileHandle OpenFile(const Text& name, FileAction action) {
 std::string FileNamed(const std::string& name) { return "file '" + name + "'"; }
 
 Error FileError(FileAction action, const std::string& name, int reason) {
+  if (reason == ENOMEM) throw std::bad_alloc();
   const bool isReading = action == FileAction::kRead;
   const std::string cause = std::string(isReading ? "cannot be read: " : "cannot be written: ") +
                             std::generic_category().message(reason);

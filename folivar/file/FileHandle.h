@@ -31,7 +31,8 @@ std::string FileNamed(const std::string& name);
 
 // What the system refused, by its errno: 52, 53, 61, 70, 75 or 76, "file 'a.pdf': cannot be
 // written: No space left on device". A file to read that is not there is 53; when one to write
-// cannot be made, it is the folder that is missing: 76.
+// cannot be made, it is the folder that is missing: 76. Throws std::bad_alloc itself when it was
+// memory that the system lacked.
 Error FileError(FileAction action, const std::string& name, int reason);
 
 }  // namespace folivar

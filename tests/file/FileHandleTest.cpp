@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdio>
 #include <filesystem>
+#include <new>
 #include <string>
 #include <string_view>
 
@@ -102,6 +103,12 @@ TEST(FileHandle, ARefusalIsNumberedByItsReason) {
   }
   EXPECT_EQ(number(FileAction::kRead, ENOENT), Error::kFileNotFound);
   EXPECT_EQ(number(FileAction::kWrite, ENOENT), Error::kPathNotFound) << "its folder is missing";
+}
+
+TEST(FileHandle, MemoryThatTheSystemLacksIsBadAlloc) {
+  for (const FileAction action : {FileAction::kRead, FileAction::kWrite}) {
+    EXPECT_THROW(static_cast<void>(FileError(action, "a.pdf", ENOMEM)), std::bad_alloc);
+  }
 }
 
 // A program that is started while a file is open does not keep it open.
