@@ -3,13 +3,17 @@
 #include <array>
 #include <cassert>
 #include <cstdint>
+#include <optional>
 #include <utility>
+#include <vector>
 
 #include "folivar/base/InMember.h"
 #include "folivar/base/Internal.h"
 #include "folivar/document/PDFCatalog.h"
 #include "folivar/document/PDFPages.h"
+#include "folivar/file/FileHandle.h"
 #include "folivar/file/FileSink.h"
+#include "folivar/file/FileSystem.h"
 #include "folivar/file/ObjectNumbers.h"
 #include "folivar/file/SaveFile.h"
 #include "folivar/fonts/PDFFont.h"
@@ -56,7 +60,24 @@ void PDFDocument::SavePDFFile(TextView fileName) {
   InMember("PDFDocument.SavePDFFile", [&] { Save(fileName); });
 }
 
+// Opening one for writing would empty it.
+void PDFDocument::RefuseFilesOfItsOwn(const Text& target) const {
+  const std::vector<Text> fontFiles = fonts_->FileNames(Internal());
+  if (fontFiles.empty() && images_->count() == 0) return;
+  CheckFileName(target);
+  const std::optional<FileId> targetId = FileIdOf(target);
+  if (!targetId) return;
+  const auto refuse = [&](const Text& file) {
+    if (file.IsEmpty() || FileIdOf(file) != targetId) return;
+    throw Error::PermissionDenied("cannot be written: the document reads " + FileNamed(file.Utf8()))
+        .WithObject(FileNamed(target.Utf8()));
+  };
+  for (const auto& image : *images_) refuse(image->FileName());
+  for (const Text& fontFile : fontFiles) refuse(fontFile);
+}
+
 void PDFDocument::Save(TextView fileName) {
+  RefuseFilesOfItsOwn(Text(fileName));
   FileSink sink(fileName);
   const Internal internal;
   // What becomes objects of the file, in their order there. A save walks them twice: first each

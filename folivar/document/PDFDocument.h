@@ -56,6 +56,7 @@ class FOLIVAR_API PDFDocument final : public Tagged {
  private:
   void Initialise();
   void Save(TextView fileName);
+  void RefuseFilesOfItsOwn(const Text& target) const;
 
   Platform platform_;
   std::shared_ptr<PDFFonts> fonts_;

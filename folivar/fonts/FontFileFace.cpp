@@ -75,6 +75,7 @@ class FileFace final : public SystemFace {
   }
 
   Text Name() override { return face_.family; }
+  Text FileName() override { return face_.fileName; }
 
   void ReadTable(std::string_view tag, std::span<unsigned char> out) override {
     const auto copyIfWanted = [&](const auto& table) {

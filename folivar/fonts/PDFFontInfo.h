@@ -51,6 +51,7 @@ class PDFFontInfo final {
     std::uint16_t firstCharacter = 0;
     std::uint16_t lastCharacter = 0;
     std::shared_ptr<const std::string> program;  // null: not embedded
+    Text fileName;                               // empty: not known
   };
   explicit PDFFontInfo(Private own) : own_(std::move(own)) {}
 
@@ -65,6 +66,7 @@ class PDFFontInfo final {
   std::uint16_t FirstCharacter() const { return own_.firstCharacter; }
   std::uint16_t LastCharacter() const { return own_.lastCharacter; }
   const std::shared_ptr<const std::string>& Program() const { return own_.program; }
+  const Text& FileName() const { return own_.fileName; }
 
   // Measuring takes text as the bytes that go into the file (AnsiText).
   float MeasureWidth(std::string_view bytes) const;

@@ -156,6 +156,14 @@ bool PDFFonts::MayBeEmbedded(const Text& faceName) const {
   }
 }
 
+std::vector<Text> PDFFonts::FileNames(const Internal&) const {
+  std::vector<Text> names;
+  trueType_->ForEach([&](const std::shared_ptr<const PDFFontInfo>& face) {
+    if (!face->FileName().IsEmpty()) names.push_back(face->FileName());
+  });
+  return names;
+}
+
 std::shared_ptr<const PDFFontInfo> PDFFonts::StyledFace(const Internal&, const PDFFontInfo& face,
                                                         bool isBold, bool isItalic,
                                                         IfAbsent ifAbsent) {

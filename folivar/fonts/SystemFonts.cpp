@@ -3,6 +3,8 @@
 namespace folivar {
 
 SystemFace::~SystemFace() = default;
+Text SystemFace::FileName() { return {}; }
+
 SystemFonts::~SystemFonts() = default;
 
 }  // namespace folivar

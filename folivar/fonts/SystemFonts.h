@@ -43,6 +43,10 @@ class FOLIVAR_API SystemFace {
   // The advance widths of the codes 0 to 255 of Windows code page 1252.
   virtual std::array<std::int32_t, 256> Widths() = 0;
 
+  // The file that the face is read from, which a save must not overwrite; empty where that is not
+  // known.
+  virtual Text FileName();
+
  protected:
   SystemFace() = default;
 };

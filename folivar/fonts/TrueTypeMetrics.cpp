@@ -88,6 +88,7 @@ std::shared_ptr<PDFFontInfo> LoadTrueTypeMetrics(const FaceWanted& wanted, Syste
   own.lastCharacter = CodeOf(text.lastCharacter);
   own.characters = CharactersOf(face);
   own.box = BoxOf(face);
+  own.fileName = face.FileName();
 
   auto info = std::make_shared<PDFFontInfo>(std::move(own));
   // Deliberate: this and the thickness of the lines stay in the font's own units.

@@ -8,6 +8,7 @@
 #include "folivar/folivar.h"
 #include "tests/support/Content.h"
 #include "tests/support/Golden.h"
+#include "tests/support/PackagedFonts.h"
 #include "tests/support/SavedDocument.h"
 #include "tests/support/TestFiles.h"
 #include "tests/support/Tools.h"
@@ -258,6 +259,66 @@ TEST(PDFDocument, FullDiskRaises61AndNamesTheFile) {
   EXPECT_EQ(ErrorNumberOf([&] { document->SavePDFFile("/dev/full"); }), Error::kDiskFull);
   EXPECT_NE(ErrorTextOf([&] { document->SavePDFFile("/dev/full"); }).find("'/dev/full'"),
             std::string::npos);
+}
+
+// Saves onto each name of a file that the document reads, which stays as it is.
+void ExpectNotOverwritten(PDFDocument& document, const std::filesystem::path& file) {
+  const std::string before = ReadBytes(file);
+  const auto link = OutputPath("link");
+  std::filesystem::create_symlink(file, link);
+  const auto secondName = OutputPath("second name");
+  std::filesystem::create_hard_link(file, secondName);
+  const auto spelled = file.parent_path() / "." / file.filename();
+  for (const auto& target : {file, link, secondName, spelled}) {
+    const auto save = [&] { document.SavePDFFile(target.u8string()); };
+    EXPECT_EQ(ErrorNumberOf(save), Error::kPermissionDenied);
+    EXPECT_EQ(ErrorTextOf(save), "PDFDocument.SavePDFFile: file '" + target.string() +
+                                     "': cannot be written: the document reads file '" +
+                                     file.string() + "'");
+    EXPECT_TRUE(ReadBytes(file) == before) << target;
+  }
+  const auto twin = OutputPath("twin");
+  WriteBytes(twin, before);
+  document.SavePDFFile(twin.u8string());
+  EXPECT_TRUE(ReadBytes(twin).ends_with("%%EOF\n")) << "it is another file with the same bytes";
+}
+
+TEST(PDFDocument, APictureOfItsOwnIsNotOverwritten) {
+  const auto document = PDFDocument::Create();
+  document->Images()->Add()->SetFileName(DataPath("images/gradient.jpg").u8string());
+  const auto picture = OutputPath("picture.jpg");
+  WriteBytes(picture, ReadBytes(DataPath("images/gradient.jpg")));
+  document->Images()->Add()->SetFileName(picture.u8string());
+  ExpectNotOverwritten(*document, picture);
+}
+
+TEST(PDFDocument, AFontFileOfItsOwnIsNotOverwritten) {
+  const auto file = OutputPath("font.ttf");
+  WriteBytes(file, ReadBytes(PackagedFont("liberation/LiberationSans-Regular.ttf")));
+  for (const Embedding embedding : {Embedding::kEmbed, Embedding::kNone}) {
+    const auto document = PDFDocument::Create();
+    document->FontFiles()->AddFile(file.u8string());
+    document->Fonts()->Add("Liberation Sans", fontTrueType, embedding);
+    ExpectNotOverwritten(*document, file);
+  }
+}
+
+// What the target's own errors are does not depend on what the document reads.
+TEST(PDFDocument, ATargetThatCannotBeOpenedRaisesItsOwnErrorFirst) {
+  const auto document = PDFDocument::Create();
+  const auto picture = OutputPath("picture.jpg");
+  WriteBytes(picture, ReadBytes(DataPath("images/gradient.jpg")));
+  document->Images()->Add()->SetFileName(picture.u8string());
+  document->Images()->Add();  // raises 91 when it is numbered
+  const auto numberFor = [&](const std::filesystem::path& target) {
+    return ErrorNumberOf([&] { document->SavePDFFile(target.u8string()); });
+  };
+  EXPECT_EQ(numberFor(""), Error::kBadFileName);
+  EXPECT_EQ(numberFor(picture.string() + std::string("\0", 1)), Error::kBadFileName);
+  EXPECT_EQ(numberFor(picture.parent_path()), Error::kPathFileAccess);
+  EXPECT_EQ(numberFor(picture.parent_path() / "missing" / "a.pdf"), Error::kPathNotFound);
+  EXPECT_EQ(numberFor(picture), Error::kPermissionDenied);
+  EXPECT_EQ(numberFor(OutputPath("a.pdf")), Error::kObjectNotSet);
 }
 
 TEST(PDFDocument, FailedSaveLeavesTheDocumentUsable) {
