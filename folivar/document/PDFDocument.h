@@ -31,10 +31,15 @@ class FOLIVAR_API PDFDocument final : public Tagged {
 
   // Writes the document as it is now; an existing file is replaced. The same document gives the
   // same bytes each time, as long as its images' files do not change and no text box sizes itself
-  // (PDFTextBox::AutoSize). `fileName` is relative to the working folder. Raises 52 for a bad name,
-  // 61 for a full disk, 70, 75 or 76 for a file or folder that cannot be written, 6 for a number
-  // that PDF cannot hold, and what PDFImage::FileName says; the file is closed then, and may be
-  // left partly written.
+  // (PDFTextBox::AutoSize). A document without pages is saved too; some readers refuse it.
+  //
+  // `fileName` is relative to the working folder. The file is written from front to back: a pipe, a
+  // device such as /dev/stdout, or a file in memory (/dev/fd/5) will do.
+  //
+  // Raises 52 for a bad name, 61 for a full disk, 70, 75 or 76 for a file or folder that cannot be
+  // written, 6 for a number that PDF cannot hold, and what PDFImage::FileName says; the file is
+  // closed then, and may be left partly written. Raises 70 before anything is touched for a file
+  // that the document reads, under whatever name: a picture's or a TrueType face's.
   void SavePDFFile(TextView fileName);
 
   std::shared_ptr<PDFPages> Pages() const { return pages_; }
