@@ -50,6 +50,7 @@ Error Error::WithMember(const std::string& member) const {
 }
 
 Error Error::WithObject(const std::string& object) const {
+  if (words_->object == object) return *this;
   Words words = *words_;
   words.object = words.object.empty() ? object : words.object + " of " + object;
   return {number_, std::move(words)};

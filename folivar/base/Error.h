@@ -55,7 +55,7 @@ class FOLIVAR_API Error : public std::runtime_error {
   const std::string& Member() const noexcept;
 
   // The object, file or argument that the failure is about: "PDFBookmark 'Chapter 1'",
-  // "file 'a.pdf'". Empty when it is the one whose member was called, or no object.
+  // "file 'a.pdf'". May be empty when it is the one whose member was called, or no object.
   const std::string& Object() const noexcept;
 
   // What went wrong, and where it helps, what would go well.
@@ -69,7 +69,7 @@ class FOLIVAR_API Error : public std::runtime_error {
   Error WithMember(const std::string& member) const;
 
   // The same error, as one about this object or a part of it: "Destination" becomes "Destination of
-  // PDFBookmark 'Chapter 1'".
+  // PDFBookmark 'Chapter 1'". An object that was told already is not told twice.
   Error WithObject(const std::string& object) const;
 
   static Error InvalidArgument(const std::string& cause);

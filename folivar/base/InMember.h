@@ -39,4 +39,10 @@ decltype(auto) OfObject(Name name, Action action) {
   }
 }
 
+// Runs what a member does with its own object, which has many of its kind beside it.
+template <class Name, class Action>
+decltype(auto) InMemberOf(Name name, const char* member, Action action) {
+  return InMember(member, [&]() -> decltype(auto) { return OfObject(name, action); });
+}
+
 }  // namespace folivar

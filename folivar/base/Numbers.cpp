@@ -12,8 +12,8 @@ namespace folivar {
 // Every stored float and every operation is rounded to its own type: no extended precision.
 static_assert(FLT_EVAL_METHOD == 0);
 
-void RaiseBeyondSingle(std::string_view what) {
-  throw Error::Overflow(std::string(what) + " is beyond a single");
+void RaiseBeyondSingle(std::string_view what, const std::string& object) {
+  throw Error::Overflow(std::string(what) + " is beyond a single").WithObject(object);
 }
 
 // Not the standard library's, whose shortest digits take more room than all of our formatters.

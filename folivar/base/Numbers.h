@@ -15,8 +15,9 @@ inline double RoundHalfToEven(double x) {
   return x < 0 ? (x - kNoFraction) + kNoFraction : (x + kNoFraction) - kNoFraction;
 }
 
-// Raises 6: "a sum of coordinates is beyond a single".
-[[noreturn]] void RaiseBeyondSingle(std::string_view what);
+// Raises 6: "a sum of coordinates is beyond a single". `object` is what it is about, if that is
+// known.
+[[noreturn]] void RaiseBeyondSingle(std::string_view what, const std::string& object = {});
 
 // A sum of coordinates as it is; raises 6 when it is beyond a single.
 inline float Finite(float sum) {

@@ -135,7 +135,7 @@ float Indent(const ClipBox& box, const FontMetrics& font, std::string_view line,
              PDFHorzTextAlignment alignment) {
   if (alignment != htaRight && alignment != htaCenter) return 0;
   const float size = font.EffectiveSize(font.EffectiveSize());
-  const float width = FontMetrics::Scaled(font.Face().MeasureWidth(line), size);
+  const float width = font.Scaled(font.Face().MeasureWidth(line), size);
   return alignment == htaRight ? box.right - width - box.left : (box.right - box.left - width) / 2;
 }
 
@@ -247,7 +247,7 @@ void Drawing::ExtendByText(const FontMetrics& font, const TextLines& lines, bool
   for (const std::string_view line : lines) {
     const float width =
         isPlain ? font.Face().MeasureWidth(line) : font.Face().MeasureWidth(EscapedBytes(line));
-    widest = MaxOf(widest, FontMetrics::Scaled(width, size));
+    widest = MaxOf(widest, font.Scaled(width, size));
   }
   Extend(x, y + font.Scaled(font.Face().FontBoxTop()));
   Extend(x + widest, y - font.Leading() * static_cast<float>(lines.Count()));

@@ -12,8 +12,8 @@ const PDFFontInfo& FaceOf(const PDFFont& font) { return *font.FontInfo(Internal(
 
 FontMetrics::FontMetrics(const PDFFont& font) : font_(font), face_(FaceOf(font)) {}
 
-void FontMetrics::RaiseBeyondASingle(float size) {
-  RaiseBeyondSingle("a measure of the font at size " + DigitsOf(size));
+void FontMetrics::RaiseBeyondASingle(const PDFFontInfo& face, float size) {
+  RaiseBeyondSingle("a measure at size " + DigitsOf(size), "font '" + face.m_FontFace.Utf8() + "'");
 }
 
 float FontMetrics::EffectiveSize(float size) const {

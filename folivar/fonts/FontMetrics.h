@@ -15,11 +15,12 @@ class FontMetrics {
 
   const PDFFontInfo& Face() const { return face_; }
 
-  // Raises 6 when the product is beyond a single.
+  // Raises 6, which names the face, when the product is beyond a single.
   float Scaled(float thousandths) const { return Scaled(thousandths, font_.Size()); }
-  static float Scaled(float thousandths, float size) {
+  float Scaled(float thousandths, float size) const { return Scaled(face_, thousandths, size); }
+  static float Scaled(const PDFFontInfo& face, float thousandths, float size) {
     const float product = thousandths * size;
-    if (!std::isfinite(product)) RaiseBeyondASingle(size);
+    if (!std::isfinite(product)) RaiseBeyondASingle(face, size);
     return product / 1000;
   }
 
@@ -47,7 +48,7 @@ class FontMetrics {
   float SuperscriptSizePts() const { return Scaled(face_.m_SuperscriptSize); }
 
  private:
-  [[noreturn]] static void RaiseBeyondASingle(float size);
+  [[noreturn]] static void RaiseBeyondASingle(const PDFFontInfo& face, float size);
 
   const PDFFont& font_;
   const PDFFontInfo& face_;

@@ -34,16 +34,16 @@ TextExtents PDFFont::GetTextExtents(TextView text) const {
     const TextExtents raw = face_->MeasureExtents(AnsiText(text).Bytes());
     const FontMetrics metrics(*this);
     const float size = metrics.EffectiveSize();
-    return TextExtents{FontMetrics::Scaled(raw.width, size),
-                       FontMetrics::Scaled(metrics.Rise() + raw.height, size)};
+    return TextExtents{metrics.Scaled(raw.width, size),
+                       metrics.Scaled(metrics.Rise() + raw.height, size)};
   });
 }
 
 float PDFFont::TextWidth(TextView text) const {
   return InMember("PDFFont.TextWidth", [&] {
     const AnsiText ansi(text);
-    const float size = FontMetrics(*this).EffectiveSize();
-    return FontMetrics::Scaled(face_->MeasureWidth(ansi.Bytes()), size);
+    const FontMetrics metrics(*this);
+    return metrics.Scaled(face_->MeasureWidth(ansi.Bytes()), metrics.EffectiveSize());
   });
 }
 
@@ -52,7 +52,7 @@ float PDFFont::TextHeight(std::optional<TextView> text) const {
     const float height =
         text ? face_->MeasureHeight(AnsiText(*text).Bytes()) : face_->MeasureHeight();
     const FontMetrics metrics(*this);
-    return FontMetrics::Scaled(height + metrics.Rise(), metrics.EffectiveSize());
+    return metrics.Scaled(height + metrics.Rise(), metrics.EffectiveSize());
   });
 }
 

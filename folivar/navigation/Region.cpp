@@ -1,6 +1,9 @@
 #include "folivar/navigation/Region.h"
 
+#include <string>
+
 #include "folivar/base/InMember.h"
+#include "folivar/base/KeyedName.h"
 #include "folivar/base/Numbers.h"
 #include "folivar/navigation/PDFHyperLink.h"
 #include "folivar/navigation/PDFLinkDestination.h"
@@ -27,11 +30,22 @@ constexpr const char* kClassName<PDFHyperLink> = "PDFHyperLink";
 template <>
 constexpr const char* kClassName<PDFLinkDestination> = "PDFLinkDestination";
 
+std::string NameOf(const PDFHyperLink& link) { return KeyedName("PDFHyperLink", link.Key()); }
+// It has no key.
+std::string NameOf(const PDFLinkDestination&) { return {}; }
+
+template <class Owner, class Action>
+decltype(auto) InMemberOf(const Region<Owner>& region, const char* member, Action action) {
+  return InMember(kClassName<Owner>, member, [&] {
+    return OfObject([&] { return NameOf(static_cast<const Owner&>(region)); }, action);
+  });
+}
+
 }  // namespace
 
 template <class Owner>
 void Region<Owner>::SetRegion(float left, float bottom, float width, float height) {
-  InMember(kClassName<Owner>, "SetRegion", [&] {
+  InMemberOf(*this, "SetRegion", [&] {
     const Span across = SpanOf(left, width);
     const Span upwards = SpanOf(bottom, height);
     left_ = across.low;
@@ -43,12 +57,12 @@ void Region<Owner>::SetRegion(float left, float bottom, float width, float heigh
 
 template <class Owner>
 float Region<Owner>::Width() const {
-  return InMember(kClassName<Owner>, "Width", [&] { return Finite(right_ - left_); });
+  return InMemberOf(*this, "Width", [&] { return Finite(right_ - left_); });
 }
 
 template <class Owner>
 void Region<Owner>::SetWidth(float width) {
-  InMember(kClassName<Owner>, "Width", [&] {
+  InMemberOf(*this, "Width", [&] {
     const Span across = SpanOf(left_, width);
     left_ = across.low;
     right_ = across.high;
@@ -57,14 +71,14 @@ void Region<Owner>::SetWidth(float width) {
 
 template <class Owner>
 float Region<Owner>::Height() const {
-  return InMember(kClassName<Owner>, "Height", [&] { return Finite(top_ - bottom_); });
+  return InMemberOf(*this, "Height", [&] { return Finite(top_ - bottom_); });
 }
 
 // Deliberate: downwards from the top, which a height of 100 leaves at 700 with the bottom at 600;
 // SetRegion measures upwards. Hosts of the automation interface count on both.
 template <class Owner>
 void Region<Owner>::SetHeight(float height) {
-  InMember(kClassName<Owner>, "Height", [&] {
+  InMemberOf(*this, "Height", [&] {
     const Span downwards = SpanOf(top_, -height);
     bottom_ = downwards.low;
     top_ = downwards.high;

@@ -10,6 +10,14 @@
 #include "folivar/textbox/PDFTextBoxes.h"
 
 namespace folivar {
+namespace {
+
+// Makes what errors call the template.
+auto NameOf(const PDFTemplate& drawn) {
+  return [&drawn] { return "PDFTemplate " + drawn.NameInErrors(Internal()); };
+}
+
+}  // namespace
 
 PDFTemplate::PDFTemplate(const Internal& internal, const std::weak_ptr<PDFDocument>& document,
                          std::shared_ptr<PDFFont> font, TextView key, std::string resourceName)
@@ -28,17 +36,21 @@ void PDFTemplate::SetRight(float right) {
 
 // Deliberate: a negative width or height puts no edges in order, unlike setting the edge itself.
 float PDFTemplate::Width() const {
-  return InMember("PDFTemplate.Width", [&] { return Finite(clipBox_.right - clipBox_.left); });
+  return InMemberOf(NameOf(*this), "PDFTemplate.Width",
+                    [&] { return Finite(clipBox_.right - clipBox_.left); });
 }
 void PDFTemplate::SetWidth(float width) {
-  InMember("PDFTemplate.Width", [&] { clipBox_.right = Finite(clipBox_.left + width); });
+  InMemberOf(NameOf(*this), "PDFTemplate.Width",
+             [&] { clipBox_.right = Finite(clipBox_.left + width); });
 }
 
 float PDFTemplate::Height() const {
-  return InMember("PDFTemplate.Height", [&] { return Finite(clipBox_.top - clipBox_.bottom); });
+  return InMemberOf(NameOf(*this), "PDFTemplate.Height",
+                    [&] { return Finite(clipBox_.top - clipBox_.bottom); });
 }
 void PDFTemplate::SetHeight(float height) {
-  InMember("PDFTemplate.Height", [&] { clipBox_.top = Finite(clipBox_.bottom + height); });
+  InMemberOf(NameOf(*this), "PDFTemplate.Height",
+             [&] { clipBox_.top = Finite(clipBox_.bottom + height); });
 }
 
 void PDFTemplate::SetClipBox(float left, float bottom, float right, float top) {
@@ -74,7 +86,7 @@ void PDFTemplate::NumberObjects(const Internal&, ObjectNumbers& numbers) { TakeN
 //   endstream
 //   endobj
 void PDFTemplate::WriteObjects(const Internal& internal, SaveFile& file) {
-  const auto name = [&] { return "PDFTemplate " + NameInErrors(internal); };
+  const auto name = NameOf(*this);
   // Deliberate: a box that sizes itself is counted as it was before.
   if (autoSizeClipBox_) OfObject(name, [&] { ExpandClipBoxToFitTextBoxes(); });
   PDFText& drawnBoxes = file.Draft();

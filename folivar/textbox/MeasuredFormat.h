@@ -33,7 +33,7 @@ class MeasuredFormat {
   // The width of one character as the sums that Shown takes have it: thousandths of the em.
   float Width(char byte) const { return (*characters_)[static_cast<unsigned char>(byte)].width; }
   // Such a sum at the size that is shown; raises 6 when it is beyond a single.
-  float Shown(float width) const { return FontMetrics::Scaled(width, size_); }
+  float Shown(float width) const { return FontMetrics::Scaled(*face_, width, size_); }
 
   // Of text, as it is shown; raises 6 when it is beyond a single.
   float Width(std::string_view bytes) const { return Shown(face_->MeasureWidth(bytes)); }

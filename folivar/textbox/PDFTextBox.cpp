@@ -21,6 +21,14 @@
 #include "folivar/textbox/TextLayout.h"
 
 namespace folivar {
+namespace {
+
+// Makes what errors call the box.
+auto NameOf(const PDFTextBox& box) {
+  return [&box] { return KeyedName("PDFTextBox", box.Key()); };
+}
+
+}  // namespace
 
 struct PDFTextBox::Contents {
   RichText text;
@@ -77,38 +85,38 @@ float PDFTextBox::BorderWidth() const { return own_->frame.borderWidth; }
 void PDFTextBox::SetBorderWidth(float width) { own_->frame.borderWidth = width; }
 
 float PDFTextBox::Bottom() const {
-  return InMember("PDFTextBox.Bottom",
-                  [&] { return Finite(own_->geometry.top - own_->geometry.height); });
+  return InMemberOf(NameOf(*this), "PDFTextBox.Bottom",
+                    [&] { return Finite(own_->geometry.top - own_->geometry.height); });
 }
 
 void PDFTextBox::SetBottom(float bottom) {
-  InMember("PDFTextBox.Bottom", [&] {
+  InMemberOf(NameOf(*this), "PDFTextBox.Bottom", [&] {
     own_->geometry.height = Finite(std::fabs(own_->geometry.top - bottom));
     if (bottom > own_->geometry.top) own_->geometry.top = bottom;
   });
 }
 
 float PDFTextBox::Right() const {
-  return InMember("PDFTextBox.Right",
-                  [&] { return Finite(own_->geometry.left + own_->geometry.width); });
+  return InMemberOf(NameOf(*this), "PDFTextBox.Right",
+                    [&] { return Finite(own_->geometry.left + own_->geometry.width); });
 }
 
 void PDFTextBox::SetRight(float right) {
-  InMember("PDFTextBox.Right", [&] {
+  InMemberOf(NameOf(*this), "PDFTextBox.Right", [&] {
     own_->geometry.width = Finite(std::fabs(right - own_->geometry.left));
     if (right < own_->geometry.left) own_->geometry.left = right;
   });
 }
 
 void PDFTextBox::SetWidth(float width) {
-  InMember("PDFTextBox.Width", [&] {
+  InMemberOf(NameOf(*this), "PDFTextBox.Width", [&] {
     if (width < 0) own_->geometry.left = Finite(own_->geometry.left + width);
     own_->geometry.width = std::fabs(width);
   });
 }
 
 void PDFTextBox::SetHeight(float height) {
-  InMember("PDFTextBox.Height", [&] {
+  InMemberOf(NameOf(*this), "PDFTextBox.Height", [&] {
     if (height < 0) own_->geometry.top = Finite(own_->geometry.top - height);
     own_->geometry.height = std::fabs(height);
   });
@@ -125,7 +133,7 @@ void PDFTextBox::Move(float left, std::optional<float> top, std::optional<float>
 }
 
 void PDFTextBox::AutoSizeNow() {
-  InMember("PDFTextBox.AutoSizeNow", [&] { AutoSizeBox(); });
+  InMemberOf(NameOf(*this), "PDFTextBox.AutoSizeNow", [&] { AutoSizeBox(); });
   SetAutoSize(true);
 }
 
@@ -263,14 +271,13 @@ void PDFTextBox::RegisterFaces(const Internal&) const {
 }
 
 void PDFTextBox::RenderTextBox(const Internal&, PDFText& content) {
-  OfObject([&] { return KeyedName("PDFTextBox", Key()); },
-           [&] {
-             if (own_->autoSize) AutoSizeBox();
-             const AnsiText ansi(own_->text.Text());
-             TextBoxRenderer(content, own_->geometry, own_->frame)
-                 .Render(surface_ ? surface_->Content().Bytes() : std::string_view(), ansi,
-                         own_->text.Runs());
-           });
+  OfObject(NameOf(*this), [&] {
+    if (own_->autoSize) AutoSizeBox();
+    const AnsiText ansi(own_->text.Text());
+    TextBoxRenderer(content, own_->geometry, own_->frame)
+        .Render(surface_ ? surface_->Content().Bytes() : std::string_view(), ansi,
+                own_->text.Runs());
+  });
 }
 
 }  // namespace folivar

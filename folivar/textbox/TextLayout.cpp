@@ -41,9 +41,9 @@ LineMeasures TextLayout::MeasureLine(std::size_t start, std::size_t end) const {
   ForEachPiece(start, end, [&](std::string_view piece, const MeasuredFormat& format) {
     const FontMetrics font = format.Metrics();
     const TextExtents extents = font.Face().MeasureExtents(piece);
-    line.width += FontMetrics::Scaled(extents.width, font.EffectiveSize());
+    line.width += font.Scaled(extents.width, font.EffectiveSize());
     line.height =
-        MaxOf(line.height, FontMetrics::Scaled(font.Rise() + extents.height, font.EffectiveSize()));
+        MaxOf(line.height, font.Scaled(font.Rise() + extents.height, font.EffectiveSize()));
     line.leading = MaxOf(line.leading, font.Leading());
     line.bottom = MinOf(line.bottom, font.Scaled(font.Face().FontBoxBottom()));
   });

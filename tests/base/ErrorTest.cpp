@@ -53,6 +53,11 @@ TEST(Error, ItsTextGoesOnBehindANul) {
   EXPECT_STREQ(Error::DiskFull("no room").WithObject("file '\0'"s).what(), "file '\\0': no room");
 }
 
+TEST(Error, AnObjectIsToldOnce) {
+  const Error error = Error::Overflow("too wide").WithObject("PDFTextBox 'note'");
+  EXPECT_EQ(error.WithObject("PDFTextBox 'note'").Object(), "PDFTextBox 'note'");
+}
+
 TEST(Error, MayHaveANumberOfItsOwn) {
   EXPECT_EQ(Error(1234, "own").Number(), 1234);
   EXPECT_STREQ(Error(1234, "own").what(), "own");

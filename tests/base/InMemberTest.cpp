@@ -42,6 +42,13 @@ TEST(OfObject, SaysWhichObjectBehindTheMember) {
             "PDFDocument.SavePDFFile: PDFPage 'cover': too large");
 }
 
+TEST(InMemberOf, TellsTheMemberAndItsObject) {
+  const auto name = [] { return std::string("PDFTextBox 'note'"); };
+  EXPECT_EQ(ErrorTextOf([&] { InMemberOf(name, "PDFTextBox.Width", Fail); }),
+            "PDFTextBox.Width: PDFTextBox 'note': too large");
+  EXPECT_EQ(InMemberOf(name, "PDFTextBox.Width", [] { return 7; }), 7);
+}
+
 TEST(OfObject, MakesTheNameOnlyForAFailure) {
   int made = 0;
   const auto name = [&] {

@@ -150,8 +150,12 @@ TEST_F(PDFFontOfHelvetica, AMeasureBeyondASingleRaises6) {
     EXPECT_EQ(ErrorNumberOf([&] { font_->TextHeight("A"); }), Error::kOverflow) << size;
     EXPECT_EQ(ErrorNumberOf([&] { font_->TextHeight(); }), Error::kOverflow) << size;
     EXPECT_EQ(ErrorNumberOf([&] { font_->Ascender(); }), Error::kOverflow) << size;
-    EXPECT_TRUE(
-        ErrorTextOf([&] { font_->Ascender(); }).starts_with("PDFFont.Ascender: a measure of "));
+    EXPECT_TRUE(ErrorTextOf([&] {
+                  font_->Ascender();
+                }).starts_with("PDFFont.Ascender: font 'Helvetica': a measure at size "));
+    EXPECT_TRUE(ErrorTextOf([&] {
+                  font_->TextWidth("A");
+                }).starts_with("PDFFont.TextWidth: font 'Helvetica': a measure at size "));
     EXPECT_EQ(ErrorNumberOf([&] { font_->Descender(); }), Error::kOverflow) << size;
     EXPECT_EQ(ErrorNumberOf([&] { font_->Leading(); }), Error::kOverflow) << size;
     EXPECT_EQ(ErrorNumberOf([&] { font_->FontBoxTop(); }), Error::kOverflow) << size;

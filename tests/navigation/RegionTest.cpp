@@ -88,8 +88,9 @@ TEST(Region, SumsBeyondASingleRaise6AndChangeNothing) {
   PDFHyperLink region = AnyRegion();
   region.SetRegion(kLargest, -kLargest, 0, 0);
   const Edges before = EdgesOf(region);
-  EXPECT_EQ(ErrorTextOf([&] { region.SetWidth(kLargest); }),
-            "PDFHyperLink.Width: a sum of coordinates is beyond a single");
+  EXPECT_EQ(
+      ErrorTextOf([&] { region.SetWidth(kLargest); }),
+      "PDFHyperLink.Width: PDFHyperLink without a key: a sum of coordinates is beyond a single");
   EXPECT_EQ(ErrorNumberOf([&] { region.SetRegion(0, kLargest, 1, kLargest); }), Error::kOverflow);
   EXPECT_EQ(ErrorNumberOf([&] { region.SetHeight(kLargest); }), Error::kOverflow);
   EXPECT_EQ(ErrorNumberOf([&] { region.SetWidth(std::numeric_limits<float>::quiet_NaN()); }),
@@ -101,13 +102,19 @@ TEST(Region, SumsBeyondASingleRaise6AndChangeNothing) {
   EXPECT_EQ(ErrorNumberOf([&] { region.Height(); }), Error::kOverflow);
 }
 
-TEST(Region, ErrorsNameTheClassThatItIsAPartOf) {
+TEST(Region, ErrorsNameTheObjectThatItIsAPartOf) {
   PDFLinkDestination destination{Internal()};
   EXPECT_EQ(ErrorTextOf([&] { destination.SetRegion(kLargest, 0, kLargest); }),
             "PDFLinkDestination.SetRegion: a sum of coordinates is beyond a single");
+  PDFHyperLink keyed(Internal(), "next");
+  keyed.SetLeft(-kLargest);
+  keyed.SetRight(kLargest);
+  EXPECT_EQ(ErrorTextOf([&] { keyed.Width(); }),
+            "PDFHyperLink.Width: PDFHyperLink 'next': a sum of coordinates is beyond a single");
   PDFHyperLink link = AnyRegion();
   EXPECT_EQ(ErrorTextOf([&] { link.SetRegion(kLargest, 0, kLargest, 0); }),
-            "PDFHyperLink.SetRegion: a sum of coordinates is beyond a single");
+            "PDFHyperLink.SetRegion: PDFHyperLink without a key: a sum of coordinates is beyond a "
+            "single");
 }
 
 }  // namespace

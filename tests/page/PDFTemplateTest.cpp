@@ -169,7 +169,7 @@ TEST(PDFTemplate, SizeBeyondASingleRaises6AndChangesNothing) {
   drawn->SetClipBox(kLargest, kLargest, 1, 2);
   EXPECT_EQ(ErrorNumberOf([&] { drawn->SetWidth(kLargest); }), Error::kOverflow);
   EXPECT_EQ(ErrorTextOf([&] { drawn->SetHeight(kLargest); }),
-            "PDFTemplate.Height: a sum of coordinates is beyond a single");
+            "PDFTemplate.Height: PDFTemplate /T1: a sum of coordinates is beyond a single");
   EXPECT_EQ(drawn->Right(), 1);
   EXPECT_EQ(drawn->Top(), 2);
 }

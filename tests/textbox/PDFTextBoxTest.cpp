@@ -639,6 +639,8 @@ TEST_F(PDFTextBoxTest, SizingBeyondASingleRaises6AndKeepsTheSize) {
   const float height = box_->Height();
   EXPECT_EQ(ErrorNumberOf([&] { box_->AutoSizeNow(); }), Error::kOverflow);
   EXPECT_EQ(box_->Height(), height);
+  EXPECT_EQ(ErrorTextOf([&] { box_->AutoSizeNow(); }),
+            "PDFTextBox.AutoSizeNow: PDFTextBox 'box': a sum of coordinates is beyond a single");
   EXPECT_FALSE(box_->AutoSize()) << "later saves do not fail for it";
 }
 
