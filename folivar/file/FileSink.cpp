@@ -15,7 +15,6 @@ FileSink::FileSink(TextView fileName) {
 
 void FileSink::Write(std::string_view bytes) {
   const WriteSignals held;
-  errno = 0;
   if (std::fwrite(bytes.data(), 1, bytes.size(), file_.get()) != bytes.size()) {
     throw FileError(FileAction::kWrite, name_, errno);
   }

@@ -36,7 +36,6 @@ int ReasonOfAWriteToNobody() {
   std::array<int, 2> ends{};
   if (pipe(ends.data()) != 0) std::abort();
   close(ends[0]);
-  errno = 0;
   {
     const WriteSignals held;
     if (write(ends[1], "x", 1) != -1) std::abort();
