@@ -71,6 +71,9 @@ struct OS2Table {
   static constexpr std::string_view kTag = "OS/2";
   static constexpr std::size_t kSize = 86;
 
+  // The classes of weight and width: 400 and 5 are normal, 700 is bold.
+  std::uint16_t Weight() const { return U16At(bytes, 4); }
+  std::uint16_t Width() const { return U16At(bytes, 6); }
   // Under which licence the font may be embedded.
   std::uint16_t Licence() const { return U16At(bytes, 8); }
   std::int16_t StrikeoutSize() const { return S16At(bytes, 26); }

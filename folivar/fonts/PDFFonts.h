@@ -45,7 +45,8 @@ class FOLIVAR_API PDFFonts final : public Object {
   // may put another in its place, with a warning. Raises 445 when there is no TrueType font at all.
   // Embedded, the font's file goes into the PDF, unless the font forbids it, which gives a
   // warning. Deliberate: a face that the document has already stays as it was added, embedded or
-  // not. Raises 321 and the file errors (52, 53, 70, 75, 76) for a font file that cannot be read.
+  // not. Raises 321 and the file errors (52, 53, 70, 75, 76) for a font file that cannot be read,
+  // and 6 for one of more than 1 GiB that is to be embedded.
   std::shared_ptr<PDFFont> Add(TextView faceName, PDFFontType fontType = fontType1,
                                Embedding embedding = Embedding::kNone);
 

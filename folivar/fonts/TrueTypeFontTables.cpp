@@ -10,6 +10,7 @@
 #include "folivar/base/Error.h"
 #include "folivar/file/FileHandle.h"
 #include "folivar/fonts/FontFileWriter.h"
+#include "folivar/fonts/MacRoman.h"
 
 namespace folivar {
 namespace {
@@ -22,6 +23,14 @@ constexpr std::uint32_t kVersionApple = TagOf("true");
 constexpr std::uint32_t kVersionPostScript = TagOf("OTTO");
 
 constexpr std::size_t kCollectionHeader = 12;  // tag, version, count; then an offset for each font
+
+// Limits that no sound font meets, so that a file's numbers cannot make us work for long.
+constexpr std::uint32_t kMostFonts = 0xFFFF;
+constexpr std::uint64_t kLargestProgram = std::uint64_t{1} << 30;
+constexpr std::uint32_t kLargestNames = 3 * 0xFFFF;        // it counts in 16 bits
+constexpr std::uint32_t kLargestWidths = 4 * 0xFFFF;       // so does this
+constexpr std::uint32_t kLargestMap = 16 + 12 * 0x110000;  // a group for each of all characters
+constexpr std::uint32_t kLargestMapList = 4 + 8 * 0xFFFF;
 
 // Without these tables, and as many bytes of them, nobody can draw the font. (No glyph needs to
 // have an outline.)
@@ -113,11 +122,48 @@ std::uint32_t GlyphInBytes(const Bytes& map, std::uint32_t character) {
   return character < 256 && 6 + character < map.size() ? map[6 + character] : 0;
 }
 
+std::uint32_t GlyphInSubheaders(const Bytes& map, std::uint32_t character) {
+  // Format 2: from 6 on, for each of 256 bytes, what it begins; 0 for one that stands alone. Those
+  // are in the first subheader, at 518: the first code, their number, a delta, and the offset of
+  // the glyphs from its own place.
+  constexpr std::size_t kSubheader = 6 + 2 * 256;
+  if (map.size() < kSubheader + 8 || character > 0xFF || U16At(map, 6 + 2 * character) != 0) {
+    return 0;
+  }
+  const std::uint32_t first = U16At(map, kSubheader);
+  if (character < first || character - first >= U16At(map, kSubheader + 2)) return 0;
+  const std::size_t place = kSubheader + 6;
+  const std::size_t glyph = place + U16At(map, place) + 2 * std::size_t{character - first};
+  if (glyph + 2 > map.size() || U16At(map, glyph) == 0) return 0;
+  return (U16At(map, glyph) + U16At(map, kSubheader + 4)) & 0xFFFF;
+}
+
+// The start of a map tells whether it has a form that is read here, and characters.
+constexpr std::uint32_t kStartOfMap = 16;
+bool HasCharacters(Bytes start) {
+  start.resize(kStartOfMap);
+  switch (U16At(start, 0)) {
+    case 0:
+    case 2:
+      return true;
+    case 4:
+      return U16At(start, 6) > 1;
+    case 6:
+      return U16At(start, 8) != 0;
+    case 12:
+      return U32At(start, 12) != 0;
+    default:
+      return false;
+  }
+}
+
 std::uint32_t GlyphOf(const Bytes& map, std::uint32_t character) {
   if (map.size() < 2) return 0;
   switch (U16At(map, 0)) {
     case 0:
       return GlyphInBytes(map, character);
+    case 2:
+      return GlyphInSubheaders(map, character);
     case 4:
       return GlyphInSegments(map, character);
     case 6:
@@ -130,26 +176,31 @@ std::uint32_t GlyphOf(const Bytes& map, std::uint32_t character) {
 }
 
 // The better one is the larger: all of Unicode, then its basic plane, then a symbol font's own
-// codes, then Macintosh's. 0 for the others.
-constexpr int kMacintoshRank = 1;
-constexpr int kSymbolRank = 2;
-constexpr int kBestRank = 7;
+// codes, then Macintosh's, then the old ones of East Asia. 0 for the others.
+constexpr int kEastAsianRank = 1;
+constexpr int kMacintoshRank = 2;
+constexpr int kSymbolRank = 3;
+constexpr int kBestRank = 8;
 int RankOfMap(std::uint16_t platform, std::uint16_t encoding) {
   constexpr std::uint16_t kUnicode = 0;
   constexpr std::uint16_t kMacintosh = 1;
   constexpr std::uint16_t kWindows = 3;
-  if (platform == kWindows && encoding == 10) return 6;
-  if (platform == kUnicode && (encoding == 4 || encoding == 6)) return 5;
-  if (platform == kWindows && encoding == 1) return 4;
-  if (platform == kUnicode && encoding != 5) return 3;  // 5 is for variants of characters
+  if (platform == kWindows && encoding == 10) return 7;
+  if (platform == kUnicode && (encoding == 4 || encoding == 6)) return 6;
+  if (platform == kWindows && encoding == 1) return 5;
+  if (platform == kUnicode && encoding != 5) return 4;  // 5 is for variants of characters
   if (platform == kWindows && encoding == 0) return kSymbolRank;
   if (platform == kMacintosh && encoding == 0) return kMacintoshRank;
+  if (platform == kWindows && encoding >= 2 && encoding <= 6) return kEastAsianRank;
   return 0;
 }
 
-// English Windows names before others of Windows, those before Unicode's and Macintosh's.
+// English Windows names before others of Windows, those before Unicode's and Macintosh's. 0 for
+// those that are not in Unicode, which are not read: the old Chinese, Japanese and Korean ones of
+// Windows, and what is not Roman of Macintosh.
 int RankOfName(std::uint16_t platform, std::uint16_t encoding, std::uint16_t language) {
   constexpr std::uint16_t kEnglish = 0x0409;
+  if (platform == 3 && encoding > 1 && encoding != 10) return 0;
   if (platform == 3) return language == kEnglish ? 4 : 3;
   if (platform == 0) return 2;
   return platform == 1 && encoding == 0 ? 1 : 0;
@@ -158,8 +209,7 @@ int RankOfName(std::uint16_t platform, std::uint16_t encoding, std::uint16_t lan
 std::u16string NameIn(std::span<const unsigned char> bytes, bool isMacintosh) {
   std::u16string name;
   if (isMacintosh) {
-    // The two agree on ASCII, which is all that names have in practice.
-    for (const unsigned char byte : bytes) name += byte < 0x80 ? char16_t{byte} : u'?';
+    for (const unsigned char byte : bytes) name += MacRomanCharacter(byte);
     return name;
   }
   for (std::size_t i = 0; i + 2 <= bytes.size(); i += 2) name += char16_t{U16At(bytes, i)};
@@ -173,6 +223,7 @@ std::uint32_t TrueTypeFontTables::FontCount(ByteSource& file, const std::string&
   if (U32At(start, 0) != kCollection) return 1;
   const std::uint32_t count = U32At(start, 8);
   if (count > (file.Size() - kCollectionHeader) / 4) RefuseFile(fileName, "it is cut short");
+  if (count > kMostFonts) RefuseFile(fileName, "it has " + std::to_string(count) + " fonts");
   return count;
 }
 
@@ -223,7 +274,7 @@ void TrueTypeFontTables::CheckNeededTables() const {
   for (const NeededTable& needed : kNeededTables) {
     const Table* table = Find(needed.tag);
     if (!table) Refuse("it has no table '" + std::string(needed.tag) + "'");
-    Read(*table, 0);
+    Read(*table, 0, 0);
     if (table->length < needed.size) {
       Refuse("its table '" + std::string(needed.tag) + "' is too short");
     }
@@ -244,6 +295,22 @@ bool TrueTypeFontTables::HasTrueTypeOutlines() const {
   return version_ != kVersionPostScript && Find("glyf") != nullptr;
 }
 
+bool TrueTypeFontTables::HasPostScriptOutlines() const {
+  return Find("CFF ") != nullptr || Find("CFF2") != nullptr;
+}
+
+std::uint16_t TrueTypeFontTables::Weight() const {
+  constexpr std::uint16_t kNormal = 400;
+  constexpr std::uint16_t kBold = 700;
+  if (os2_.Weight() != 0) return os2_.Weight();
+  return isBold_ ? kBold : kNormal;
+}
+
+std::uint16_t TrueTypeFontTables::Width() const {
+  constexpr std::uint16_t kNormal = 5;
+  return os2_.Width() != 0 ? os2_.Width() : kNormal;
+}
+
 std::uint64_t TrueTypeFontTables::OwnSize() const {
   const Table* name = Find("name");
   return kFontHeader + kTableRecord * tables_.size() + (name && IsInFile(*name) ? name->length : 0);
@@ -255,7 +322,7 @@ Text TrueTypeFontTables::FamilyName() const {
   // platform, encoding, language, which name, length, offset.
   constexpr std::size_t kRecord = 12;
   if (!Find("name")) Refuse("it has no table 'name'");
-  const Bytes table = Read("name");
+  const Bytes table = Read("name", kLargestNames);
   if (table.size() < 6) Refuse("its table 'name' is too short");
   const std::size_t texts = U16At(table, 4);
   const std::size_t count = std::min<std::size_t>(U16At(table, 2), (table.size() - 6) / kRecord);
@@ -282,7 +349,7 @@ Text TrueTypeFontTables::FamilyName() const {
 void TrueTypeFontTables::ReadTable(std::string_view tag, std::span<unsigned char> out) const {
   const Table* table = Find(tag);
   if (!table) return;
-  const Bytes bytes = Read(*table, static_cast<std::uint32_t>(out.size()));
+  const Bytes bytes = Read(*table, 0, static_cast<std::uint32_t>(out.size()));
   std::copy(bytes.begin(), bytes.end(), out.begin());
 }
 
@@ -302,11 +369,10 @@ SystemFace::TextMetrics TrueTypeFontTables::Metrics() const {
   constexpr std::uint16_t kLast = 0xFF;
   metrics.firstCharacter = kFirst;
   metrics.lastCharacter = kLast;
-  const std::optional<CharacterMap> map = FindCharacterMap();
   const std::uint16_t first = os2_.FirstCharacter();
   const std::uint16_t last = os2_.LastCharacter();
   // Fonts with symbols are said to have all codes, and so do those that say nothing of use.
-  if (os2_.HasSymbolCharacterSet() || (map && map->besideSymbols) || last == 0 || first > last) {
+  if (os2_.HasSymbolCharacterSet() || HasSymbols() || last == 0 || first > last) {
     return metrics;
   }
   // As Windows counts: lines break at the font's first character, which is the blank; the character
@@ -323,15 +389,15 @@ SystemFace::TextMetrics TrueTypeFontTables::Metrics() const {
 std::array<std::int32_t, 256> TrueTypeFontTables::Widths() const {
   std::array<std::int32_t, 256> widths = {};
   const auto hhea = TableOf<HheaTable>(*this);
-  const Bytes hmtx = Read("hmtx");
+  const Bytes hmtx = Read("hmtx", kLargestWidths);
   // The glyphs behind the last width have that width too.
   const std::size_t widthCount = std::min<std::size_t>(hhea.WidthCount(), hmtx.size() / 4);
   if (widthCount == 0) return widths;
 
   const std::uint16_t glyphCount = TableOf<MaxpTable>(*this).GlyphCount();
-  const std::optional<CharacterMap> map = FindCharacterMap();
+  const CharacterMap map = FindCharacterMap();
   for (std::size_t code = 0; code < widths.size(); ++code) {
-    std::uint32_t glyph = map ? GlyphOfCode(*map, static_cast<unsigned char>(code)) : 0;
+    std::uint32_t glyph = GlyphOfCode(map, static_cast<unsigned char>(code));
     if (glyph >= glyphCount) glyph = 0;
     const std::size_t place = std::min<std::size_t>(glyph, widthCount - 1);
     widths[code] = InThousandths(U16At(hmtx, 4 * place));
@@ -340,26 +406,36 @@ std::array<std::int32_t, 256> TrueTypeFontTables::Widths() const {
 }
 
 std::uint32_t TrueTypeFontTables::GlyphOfCode(const CharacterMap& map, unsigned char code) const {
-  if (map.isSymbolic || os2_.HasSymbolCharacterSet()) {
+  if (map.rank == kSymbolRank || os2_.HasSymbolCharacterSet()) {
     constexpr std::uint32_t kSymbols = 0xF000;
     const std::uint32_t glyph = GlyphOf(map.bytes, kSymbols + code);
-    return glyph == 0 && map.isSymbolic ? GlyphOf(map.bytes, code) : glyph;
+    return glyph == 0 && map.rank == kSymbolRank ? GlyphOf(map.bytes, code) : glyph;
   }
-  // A Macintosh map has ASCII in common with Unicode.
-  if (map.isMacintosh && code >= 0x80) return 0;
-  return GlyphOf(map.bytes, AnsiCharacter(static_cast<char>(code)));
+  const char16_t character = AnsiCharacter(static_cast<char>(code));
+  if (map.rank == kMacintoshRank) {
+    const auto macCode = MacRomanCode(character);
+    return macCode ? GlyphOf(map.bytes, *macCode) : 0;
+  }
+  // The old codes have ASCII in common with Unicode.
+  if (map.rank == kEastAsianRank && code >= 0x80) return 0;
+  return GlyphOf(map.bytes, character);
 }
 
 std::string TrueTypeFontTables::Program() const {
+  const std::uint64_t size = isInCollection_ ? SizeOfTables() : file_.Size();
+  if (size > kLargestProgram) {
+    throw Error::Overflow("a font of more than 1 GiB cannot be embedded")
+        .WithObject(FileNamed(fileName_));
+  }
   if (isInCollection_) return ProgramOfCollectionMember();
-  std::string bytes(static_cast<std::size_t>(file_.Size()), '\0');
+  std::string bytes(static_cast<std::size_t>(size), '\0');
   if (file_.Read(0, bytes) != bytes.size()) Refuse("it is cut short");
   return bytes;
 }
 
 std::string TrueTypeFontTables::ProgramOfCollectionMember() const {
   FontFileWriter font(version_, tables_.size(), static_cast<std::size_t>(SizeOfTables()));
-  for (const Table& table : tables_) font.Add(table.tag, Read(table, table.length));
+  for (const Table& table : tables_) font.Add(table.tag, Read(table, 0, table.length));
   return std::move(font).Finish();
 }
 
@@ -374,48 +450,62 @@ bool TrueTypeFontTables::IsInFile(const Table& table) const {
   return std::uint64_t{table.offset} + table.length <= file_.Size();
 }
 
-// The first bytes of the table, up to `limit`, after checking that all of it is there.
-TrueTypeFontTables::Bytes TrueTypeFontTables::Read(const Table& table, std::uint32_t limit) const {
+// The bytes of the table from `offset` on, up to `limit`, after checking that all of it is there.
+TrueTypeFontTables::Bytes TrueTypeFontTables::Read(const Table& table, std::uint32_t offset,
+                                                   std::uint32_t limit) const {
   if (!IsInFile(table)) {
     std::string tag;
     AppendU32(tag, table.tag);
     Refuse("its table '" + tag + "' reaches beyond the end");
   }
-  return ReadBytes(file_, fileName_, table.offset, std::min(table.length, limit));
+  const std::uint32_t start = std::min(offset, table.length);
+  return ReadBytes(file_, fileName_, std::uint64_t{table.offset} + start,
+                   std::min(table.length - start, limit));
 }
 
-TrueTypeFontTables::Bytes TrueTypeFontTables::Read(std::string_view tag) const {
+TrueTypeFontTables::Bytes TrueTypeFontTables::Read(std::string_view tag,
+                                                   std::uint32_t limit) const {
   const Table* table = Find(tag);
-  return table ? Read(*table, table->length) : Bytes();
+  return table ? Read(*table, 0, limit) : Bytes();
 }
 
-std::optional<TrueTypeFontTables::CharacterMap> TrueTypeFontTables::FindCharacterMap() const {
+// The best ones first.
+std::vector<TrueTypeFontTables::MapPlace> TrueTypeFontTables::ListCharacterMaps() const {
   // Table "cmap": the number of maps at 2; from 4 on platform, encoding and offset of each.
   constexpr std::size_t kRecord = 8;
-  const Bytes table = Read("cmap");
-  if (table.size() < 4) return std::nullopt;
-  const std::size_t count = std::min<std::size_t>(U16At(table, 2), (table.size() - 4) / kRecord);
-
-  std::size_t best = 0;
-  int bestRank = 0;
-  int bestKind = 0;
-  bool hasSymbols = false;
-  for (std::size_t i = 0; i < count; ++i) {
-    const std::size_t record = 4 + kRecord * i;
-    const int kind = RankOfMap(U16At(table, record), U16At(table, record + 2));
-    const std::size_t offset = U32At(table, record + 4);
-    if (offset >= table.size()) continue;
-    hasSymbols = hasSymbols || kind == kSymbolRank;
-    const int rank = kind == kSymbolRank && os2_.HasSymbolCharacterSet() ? kBestRank : kind;
-    if (rank <= bestRank) continue;
-    best = offset;
-    bestRank = rank;
-    bestKind = kind;
+  std::vector<MapPlace> maps;
+  const Table* table = Find("cmap");
+  const Bytes list = Read("cmap", kLargestMapList);
+  if (list.size() < 4) return maps;
+  const std::size_t count = std::min<std::size_t>(U16At(list, 2), (list.size() - 4) / kRecord);
+  for (std::size_t record = 4; record < 4 + kRecord * count; record += kRecord) {
+    const int rank = RankOfMap(U16At(list, record), U16At(list, record + 2));
+    const std::uint32_t offset = U32At(list, record + 4);
+    if (rank != 0 && offset < table->length) maps.push_back({rank, offset});
   }
-  if (bestRank == 0) return std::nullopt;
-  // To the end of the table, whatever length the map gives itself.
-  return CharacterMap{Bytes(table.begin() + static_cast<std::ptrdiff_t>(best), table.end()),
-                      bestKind == kSymbolRank, bestKind == kMacintoshRank, hasSymbols};
+  const auto merit = [this](const MapPlace& map) {
+    return map.rank == kSymbolRank && os2_.HasSymbolCharacterSet() ? kBestRank : map.rank;
+  };
+  std::stable_sort(maps.begin(), maps.end(),
+                   [&](const MapPlace& a, const MapPlace& b) { return merit(a) > merit(b); });
+  return maps;
+}
+
+bool TrueTypeFontTables::HasSymbols() const {
+  const std::vector<MapPlace> maps = ListCharacterMaps();
+  return std::any_of(maps.begin(), maps.end(),
+                     [](const MapPlace& map) { return map.rank == kSymbolRank; });
+}
+
+// The best one of those that can be read.
+TrueTypeFontTables::CharacterMap TrueTypeFontTables::FindCharacterMap() const {
+  for (const MapPlace& map : ListCharacterMaps()) {
+    const Table& table = *Find("cmap");
+    if (!HasCharacters(Read(table, map.offset, kStartOfMap))) continue;
+    // As far as the table goes, whatever length the map gives itself.
+    return {map.rank, Read(table, map.offset, kLargestMap)};
+  }
+  return {};
 }
 
 // As the system does it: the scale and then 64ths of a unit are rounded, halves away from 0, before

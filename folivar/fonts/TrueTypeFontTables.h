@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -20,7 +19,8 @@ namespace folivar {
 // that is missing reads as zeros.
 class TrueTypeFontTables {
  public:
-  // How many fonts the file holds: 1, or those of a collection.
+  // How many fonts the file holds: 1, or those of a collection. More than 65535 are refused: the
+  // systems' own numbers for them go no further.
   static std::uint32_t FontCount(ByteSource& file, const std::string& fileName);
 
   // The font at a place, from 0. The file must outlive this object. `fileName` is for error texts.
@@ -28,6 +28,7 @@ class TrueTypeFontTables {
 
   // Whether its outlines are TrueType's own ("glyf") and not PostScript's ("CFF ").
   bool HasTrueTypeOutlines() const;
+  bool HasPostScriptOutlines() const;
 
   // The bytes that the font cannot share with others of a collection: the list of its tables, and
   // its names.
@@ -40,6 +41,11 @@ class TrueTypeFontTables {
   bool IsBold() const { return isBold_; }
   bool IsItalic() const { return isItalic_; }
 
+  // The classes of weight and width by their numbers in table "OS/2": 400 and 5 are normal, 700 is
+  // bold. A font that does not tell is normal, or bold if it says so.
+  std::uint16_t Weight() const;
+  std::uint16_t Width() const;
+
   // Copies the first bytes of a table; those that it does not have are left as they are.
   void ReadTable(std::string_view tag, std::span<unsigned char> out) const;
 
@@ -51,7 +57,7 @@ class TrueTypeFontTables {
   std::array<std::int32_t, 256> Widths() const;
 
   // The bytes of the font as a file of its own: the file's, or the tables of one font of a
-  // collection put together.
+  // collection put together. More than 1 GiB raises 6, before anything is read.
   std::string Program() const;
 
  private:
@@ -63,11 +69,14 @@ class TrueTypeFontTables {
     std::uint32_t length;
   };
 
+  struct MapPlace {
+    int rank;              // the better one is the larger; tells whose codes the map goes by
+    std::uint32_t offset;  // in table "cmap"
+  };
+
   struct CharacterMap {
-    Bytes bytes;
-    bool isSymbolic;  // a symbol font's own codes
-    bool isMacintosh;
-    bool besideSymbols;  // there is such a map, this one or another
+    int rank = 0;  // none
+    Bytes bytes = {};
   };
 
   // The parts of the constructor, in their order.
@@ -80,9 +89,11 @@ class TrueTypeFontTables {
   std::uint64_t SizeOfTables() const;
   const Table* Find(std::string_view tag) const;
   bool IsInFile(const Table& table) const;
-  Bytes Read(const Table& table, std::uint32_t limit) const;
-  Bytes Read(std::string_view tag) const;
-  std::optional<CharacterMap> FindCharacterMap() const;
+  Bytes Read(const Table& table, std::uint32_t offset, std::uint32_t limit) const;
+  Bytes Read(std::string_view tag, std::uint32_t limit) const;
+  std::vector<MapPlace> ListCharacterMaps() const;
+  bool HasSymbols() const;
+  CharacterMap FindCharacterMap() const;
   // 0 for none.
   std::uint32_t GlyphOfCode(const CharacterMap& map, unsigned char code) const;
   std::int32_t InThousandths(std::int32_t units) const;

@@ -95,17 +95,18 @@ struct OS2Fields {
 };
 
 std::string OS2(const OS2Fields& fields) {
-  return None(2) + None(2) + None(2) + None(2) +  // version, average width, weight, width
-         U16(fields.fsType) +                     // licence
-         None(8) + None(8) +                      // subscript, superscript
-         U16(0xFFCE) + None(2) +                  // thickness and place of the strike-out
-         U16(fields.familyClass) + None(10) +     // class, Panose
-         None(16) + None(4) +                     // ranges of Unicode, vendor
-         U16(fields.fsSelection) +                // style
-         U16(0x0020) + U16(0xFFFC) +              // first and last character
-         None(2) + None(2) + None(2) +            // typographic heights
-         U16(0x8001) + U16(0x8002) +              // heights for Windows
-         U32(fields.codePages) + None(4);         // code pages
+  return None(2) + None(2) +                   // version, average width
+         U16(900) + U16(3) +                   // weight, width
+         U16(fields.fsType) +                  // licence
+         None(8) + None(8) +                   // subscript, superscript
+         U16(0xFFCE) + None(2) +               // thickness and place of the strike-out
+         U16(fields.familyClass) + None(10) +  // class, Panose
+         None(16) + None(4) +                  // ranges of Unicode, vendor
+         U16(fields.fsSelection) +             // style
+         U16(0x0020) + U16(0xFFFC) +           // first and last character
+         None(2) + None(2) + None(2) +         // typographic heights
+         U16(0x8001) + U16(0x8002) +           // heights for Windows
+         U32(fields.codePages) + None(4);      // code pages
 }
 
 TEST(FontTableFields, OS2HasHeightsAndCharacters) {
@@ -116,6 +117,12 @@ TEST(FontTableFields, OS2HasHeightsAndCharacters) {
   EXPECT_EQ(os2.LastCharacter(), 0xFFFC);
   EXPECT_EQ(os2.WinAscent(), 0x8001) << "without a sign";
   EXPECT_EQ(os2.WinDescent(), 0x8002);
+}
+
+TEST(FontTableFields, OS2HasWeightAndWidth) {
+  const auto os2 = With<OS2Table>(OS2({}));
+  EXPECT_EQ(os2.Weight(), 900);
+  EXPECT_EQ(os2.Width(), 3);
 }
 
 TEST(FontTableFields, OS2HasTheLicence) {

@@ -229,19 +229,56 @@ TEST(TrueTypeFontTables, StylesAreThoseOfTheTableOS2OrElseOfHead) {
   EXPECT_EQ(styles(0x40, 2, false), std::pair(false, true));
 }
 
+TEST(TrueTypeFontTables, WeightAndWidthAreThoseOfTheTableOS2) {
+  FontBuilder font;
+  SetU16(font.tables["OS/2"], 4, 900);
+  SetU16(font.tables["OS/2"], 6, 3);
+  EXPECT_EQ(Font(font)->Weight(), 900);
+  EXPECT_EQ(Font(font)->Width(), 3);
+}
+
+TEST(TrueTypeFontTables, AFontThatDoesNotTellItsWeightIsNormalOrBold) {
+  FontBuilder font;
+  SetU32(font.tables["OS/2"], 4, 0);
+  EXPECT_EQ(Font(font)->Weight(), 400);
+  EXPECT_EQ(Font(font)->Width(), 5);
+  SetU16(font.tables["OS/2"], 62, 0x20);
+  EXPECT_EQ(Font(font)->Weight(), 700);
+  font.tables.erase("OS/2");
+  EXPECT_EQ(Font(font)->Weight(), 400);
+  EXPECT_EQ(Font(font)->Width(), 5);
+  SetU16(font.tables["head"], 44, 1);
+  EXPECT_EQ(Font(font)->Weight(), 700);
+}
+
 TEST(TrueTypeFontTables, TheFamilyIsNamedInEnglishWhereItCanBe) {
   constexpr std::uint32_t kGerman = 0x0407;
   const FontName german = {.language = kGerman, .bytes = BigEndian(u"Pr\u00FCfung")};
   const FontName english = {.bytes = BigEndian(u"Trial")};
   const FontName unicode = {
       .platform = 0, .encoding = 3, .language = 0, .bytes = BigEndian(u"Unicode")};
-  const FontName macintosh = {.platform = 1, .encoding = 0, .language = 0, .bytes = "Mac\x8A"};
+  const FontName macintosh = {.platform = 1, .encoding = 0, .language = 0, .bytes = "Mac\x8A\xDB"};
   const FontName style = {.name = 2, .bytes = BigEndian(u"Regular")};
   EXPECT_EQ(Font(WithNames({macintosh, unicode, german, english, style}))->FamilyName(), "Trial");
   EXPECT_EQ(Font(WithNames({english, german, unicode, macintosh}))->FamilyName(), "Trial");
   EXPECT_EQ(Font(WithNames({macintosh, unicode, german}))->FamilyName(), u"Pr\u00FCfung");
   EXPECT_EQ(Font(WithNames({macintosh, unicode}))->FamilyName(), "Unicode");
-  EXPECT_EQ(Font(WithNames({style, macintosh}))->FamilyName(), "Mac?");
+  EXPECT_EQ(Font(WithNames({style, macintosh}))->FamilyName(), u"Mac\u00E4\u20AC");
+}
+
+// In the old Japanese, Chinese and Korean codes, which are bytes and pairs of bytes.
+TEST(TrueTypeFontTables, NamesThatAreNotInUnicodeAreNotRead) {
+  const FontName macintosh = {.platform = 1, .encoding = 0, .language = 0, .bytes = "Mac"};
+  for (std::uint32_t encoding = 2; encoding <= 6; ++encoding) {
+    const FontName old = {.encoding = encoding, .bytes = "Kanji"};
+    EXPECT_EQ(Font(WithNames({macintosh, old}))->FamilyName(), "Mac") << encoding;
+    EXPECT_EQ(RefusalOf(WithNames({old}).Build(), [](const Font& font) { font->FamilyName(); }),
+              Damaged("its table 'name' has no name of the family"));
+  }
+  const FontName allOfUnicode = {.encoding = 10, .bytes = BigEndian(u"Unicode")};
+  EXPECT_EQ(Font(WithNames({macintosh, allOfUnicode}))->FamilyName(), "Unicode");
+  const FontName symbols = {.encoding = 0, .bytes = BigEndian(u"Symbols")};
+  EXPECT_EQ(Font(WithNames({macintosh, symbols}))->FamilyName(), "Symbols");
 }
 
 TEST(TrueTypeFontTables, CharacterMapsOfSegments) {
@@ -364,6 +401,74 @@ TEST(TrueTypeFontTables, MapsThatAreCutShortLoseCharactersOnly) {
   }
 }
 
+// Forms 8, 10, 13 and 14 are not read; the others say themselves that they are empty.
+TEST(TrueTypeFontTables, AMapThatCannotBeReadDoesNotHideOneThatCan) {
+  const std::string zeros(40, '\0');
+  const std::string groupOfA = U32('A') + U32('A') + U32(7);
+  const std::string useless[] = {
+      U16(10) + U16(0) + U32(24) + U32(0) + U32('A') + U32(1) + U16(7),
+      U16(13) + U16(0) + U32(28) + U32(0) + U32(1) + groupOfA,
+      U16(8) + zeros,
+      U16(14) + zeros,
+      U16(99) + zeros,
+      GroupsMap({}),
+      U16(4) + zeros,
+      ArrayMap('A', {}),
+  };
+  for (const std::string& map : useless) {
+    SCOPED_TRACE(U16In(map, 0));
+    const FontMap sound = {3, 1, SegmentsMap({{'A', 'B', 1}})};
+    const Widths expected = WidthsWith({{'A', 101}, {'B', 102}});
+    EXPECT_EQ(Font(WithMaps({{3, 10, map}, sound}))->Widths(), expected);
+    EXPECT_EQ(Font(WithMaps({sound, {3, 10, map}}))->Widths(), expected);
+    EXPECT_EQ(Font(WithMaps({{0, 4, map}, {3, 1, map}, {1, 0, ArrayMap('A', {1, 2})}}))->Widths(),
+              expected);
+    EXPECT_EQ(Font(WithMaps({{3, 1, map}}))->Widths(), WidthsWith({}));
+  }
+}
+
+TEST(TrueTypeFontTables, AMacintoshMapIsReadAsMacintoshRoman) {
+  // "A", "é" (0xE9 in Windows), the euro sign (0x80) and the bullet (0x95).
+  std::string map = U16(0) + U16(262) + U16(0) + std::string(256, '\0');
+  map[6 + 'A'] = 1;
+  map[6 + 0x8E] = 2;
+  map[6 + 0xDB] = 3;
+  map[6 + 0xA5] = 4;
+  map[6 + 0xD0] = 5;  // an en dash, 0x96; not Windows' 0xD0, which it lacks
+  map[6 + 0x80] = 6;  // "Ä", 0xC4
+  EXPECT_EQ(
+      Font(WithMaps({{1, 0, map}}))->Widths(),
+      WidthsWith({{'A', 101}, {0xE9, 102}, {0x80, 103}, {0x95, 104}, {0x96, 105}, {0xC4, 106}}));
+}
+
+TEST(TrueTypeFontTables, MapsOfOldEastAsianCodesHaveAscii) {
+  // Format 2: a byte of 0x81 begins a pair, the others from 0x20 on stand alone; their glyphs come
+  // behind the two subheaders, and a delta is added.
+  std::string bytes = std::string(512, '\0');
+  SetU16(bytes, 2 * 0x81, 8);
+  std::string glyphs;
+  for (std::uint32_t code = 0x20; code < 0x100; ++code) glyphs += U16(code == 'A' ? 1 : 0);
+  const std::string alone = U16(0x20) + U16(0xE0) + U16(2) + U16(10);
+  const std::string pairs = U16(0x40) + U16(0) + U16(0) + U16(2);
+  const std::string mixed = U16(2) + U16(534 + 448) + U16(0) + bytes + alone + pairs + glyphs;
+  for (std::uint32_t encoding = 2; encoding <= 6; ++encoding) {
+    SCOPED_TRACE(encoding);
+    EXPECT_EQ(Font(WithMaps({{3, encoding, mixed}}))->Widths(), WidthsWith({{'A', 103}}));
+    // Beyond ASCII the codes are others.
+    const std::string segments = SegmentsMap({{'A', 'A', 3}, {0xE9, 0xE9, 4}});
+    EXPECT_EQ(Font(WithMaps({{3, encoding, segments}}))->Widths(), WidthsWith({{'A', 103}}));
+    EXPECT_EQ(Font(WithMaps({{3, encoding, segments}, {1, 0, ArrayMap('A', {1})}}))->Widths()['A'],
+              101)
+        << "Macintosh's has more";
+  }
+  for (std::size_t size = 4; size < mixed.size(); ++size) {
+    FontBuilder cut = WithMaps({{3, 2, mixed}});
+    cut.tables["cmap"].resize(12 + size);
+    const std::int32_t width = Font(cut)->Widths()['A'];
+    EXPECT_TRUE(width == 100 || width == 103) << size;
+  }
+}
+
 TEST(TrueTypeFontTables, AMapOfAnUnknownFormOrPlaceHasNoCharacters) {
   FontBuilder font = WithMaps({{3, 1, U16(14) + std::string(30, '\1')}});
   EXPECT_EQ(Font(font)->Widths(), WidthsWith({}));
@@ -392,12 +497,14 @@ TEST(TrueTypeFontTables, PostScriptOutlinesAreNotTrueType) {
   font.tables.erase("loca");
   font.tables["CFF "] = std::string(4, '\0');
   EXPECT_FALSE(Font(font)->HasTrueTypeOutlines()) << "whatever the version says";
+  EXPECT_TRUE(Font(font)->HasPostScriptOutlines());
   font.version = 0x4F54544F;
   EXPECT_FALSE(Font(font)->HasTrueTypeOutlines());
   EXPECT_EQ(Font(font)->FamilyName(), "Test Sans");
   font = FontBuilder();
   font.version = 0x4F54544F;
   EXPECT_FALSE(Font(font)->HasTrueTypeOutlines());
+  EXPECT_FALSE(Font(font)->HasPostScriptOutlines());
   font.version = 0x74727565;  // "true"
   EXPECT_TRUE(Font(font)->HasTrueTypeOutlines());
 }
@@ -684,6 +791,83 @@ TEST(TrueTypeFontTables, NumbersBeyondTheFileAreRefusedBeforeMemoryIsAskedFor) {
               Error::kInvalidFileFormat);
     EXPECT_LE(source.asked, file.size());
   }
+}
+
+// Nine thousand tables of 4 GiB each, which are not there.
+TEST(TrueTypeFontTables, TablesOutsideTheFileCountForNothing) {
+  FontBuilder font;
+  for (int i = 1000; i < 10'000; ++i) font.tables[std::to_string(i)] = "";
+  std::string file = BuildCollection({font});
+  for (std::size_t i = 0; i < font.tables.size(); ++i) {
+    const std::size_t record = 16 + 12 + 16 * i;
+    if (file[record] <= '9') SetU32(file, record + 12, 0xFFFFFFFF);
+  }
+  EXPECT_EQ(RefusalOf(file, [](const Font& read) { read->Program(); }),
+            Damaged("its table '1000' reaches beyond the end"));
+}
+
+// A file that goes on with zeros, up to any size.
+class PaddedSource final : public ByteSource {
+ public:
+  PaddedSource(std::string_view bytes, std::uint64_t size) : bytes_(bytes), size_(size) {}
+  std::uint64_t Size() const override { return size_; }
+  std::size_t Read(std::uint64_t offset, std::span<char> out) override {
+    asked += out.size();
+    const std::string_view rest = offset < bytes_.size() ? bytes_.substr(offset) : "";
+    const std::size_t copied = std::min(rest.size(), out.size());
+    std::copy_n(rest.begin(), copied, out.begin());
+    std::fill(out.begin() + static_cast<std::ptrdiff_t>(copied), out.end(), '\0');
+    return out.size();
+  }
+
+  std::uint64_t asked = 0;
+
+ private:
+  std::string_view bytes_;
+  std::uint64_t size_;
+};
+
+constexpr std::uint64_t kGiB = std::uint64_t{1} << 30;
+
+TEST(TrueTypeFontTables, AProgramOfMoreThan1GiBRaises6BeforeItIsRead) {
+  const std::string font = FontBuilder().Build();
+  // A table of a collection's font is the program, padding is not.
+  std::string collection = BuildCollection({FontBuilder()});
+  SetU32(collection, collection.find("post") + 12, kGiB);
+  for (const std::string& file : {font, collection}) {
+    PaddedSource source(file, 5 * kGiB);
+    const TrueTypeFontTables tables(source, "some.ttf", 0);
+    const auto read = [&] { tables.Program(); };
+    EXPECT_EQ(ErrorNumberOf(read), Error::kOverflow);
+    EXPECT_EQ(ErrorTextOf(read), "file 'some.ttf': a font of more than 1 GiB cannot be embedded");
+    EXPECT_LT(source.asked, 1000U);
+  }
+  collection = BuildCollection({FontBuilder()});
+  PaddedSource padded(collection, 5 * kGiB);
+  EXPECT_LT(TrueTypeFontTables(padded, "some.ttc", 0).Program().size(), 2000U);
+}
+
+// Each of the tables that are read whole says that it is 4 GiB long.
+TEST(TrueTypeFontTables, OfATableIsReadWhatAFontCanUse) {
+  for (const char* tag : {"cmap", "hmtx", "name"}) {
+    std::string file = FontBuilder().Build();
+    SetU32(file, RecordOf(file, tag) + 12, 0xFFFFFFFF);
+    PaddedSource source(file, 5 * kGiB);
+    const TrueTypeFontTables tables(source, "some.ttf", 0);
+    EXPECT_EQ(tables.FamilyName(), "Test Sans");
+    EXPECT_EQ(tables.Widths()['A'], 101);
+    EXPECT_LT(source.asked, 20'000'000U) << tag;
+  }
+}
+
+TEST(TrueTypeFontTables, ACollectionOfMoreThan65535FontsIsRefused) {
+  std::string file = BuildCollection({FontBuilder()});
+  PaddedSource source(file, kGiB);
+  SetU32(file, 8, 0xFFFF);
+  EXPECT_EQ(TrueTypeFontTables::FontCount(source, "some.ttc"), 0xFFFFU);
+  SetU32(file, 8, 0x10000);
+  EXPECT_EQ(ErrorTextOf([&] { TrueTypeFontTables::FontCount(source, "some.ttc"); }),
+            "file 'some.ttc': damaged font: it has 65536 fonts");
 }
 
 // A file that lost its end since it was opened.
