@@ -1,10 +1,18 @@
 #include <gtest/gtest.h>
+#include <sys/inotify.h>
+#include <unistd.h>
 
+#include <array>
+#include <atomic>
 #include <chrono>
+#include <cstddef>
 #include <filesystem>
+#include <future>
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <thread>
+#include <vector>
 
 #include "folivar/fonts/FontFileFace.h"
 #include "folivar/fonts/FontPrograms.h"
@@ -62,19 +70,73 @@ TEST(FontPrograms, OfAFileAreSharedUntilTheFileChanges) {
   EXPECT_EQ(*program(), bytes);
 }
 
+// Counts how often a file is opened.
+class OpenCounter {
+ public:
+  explicit OpenCounter(const std::filesystem::path& file) : events_(inotify_init1(IN_NONBLOCK)) {
+    if (events_ < 0 || inotify_add_watch(events_, file.c_str(), IN_OPEN) < 0) {
+      throw std::runtime_error("the system does not watch files");
+    }
+  }
+  ~OpenCounter() { close(events_); }
+  OpenCounter(const OpenCounter&) = delete;
+  OpenCounter& operator=(const OpenCounter&) = delete;
+
+  // Since it was last asked. The system tells events that follow each other at once as one.
+  bool WasOpened() const {
+    std::array<char, 4096> events = {};
+    return read(events_, events.data(), events.size()) > 0;
+  }
+
+ private:
+  int events_;
+};
+
 TEST(FontPrograms, AFileIsReadOnceForAllThatUseIt) {
   const auto path = OutputPath("font.ttf");
   copy_file(PackagedFont("liberation/LiberationSans-Regular.ttf"), path);
+  const OpenCounter counter(path);
   const auto face = FacesInFile(Text(path.u8string())).front();
   const auto program = OpenFace(face, false)->Program();
-  // From here on there is no font in it, which neither its size nor its time tells.
-  const auto time = last_write_time(path);
-  WriteBytes(path, std::string(file_size(path), ' '));
-  last_write_time(path, time);
+  EXPECT_TRUE(counter.WasOpened());
   EXPECT_EQ(FacesInFile(Text(path.u8string())).size(), 1U);
   EXPECT_EQ(OpenFace(face, false)->Widths()['A'], 667);
   EXPECT_EQ(OpenFace(face, true)->Widths()['A'], 668);
   EXPECT_EQ(OpenFace(face, false)->Program(), program);
+  EXPECT_FALSE(counter.WasOpened());
+}
+
+// Each is read while the other is; whoever waits in vain reads on his own.
+TEST(FontPrograms, DifferentOnesAreReadSideBySide) {
+  std::array<std::promise<void>, 2> begun;
+  std::array<bool, 2> met = {};
+  const auto readWhileTheOtherIs = [&](std::size_t own) {
+    SharedFontProgram("side " + std::to_string(own), [&] {
+      begun.at(own).set_value();
+      met.at(own) = begun.at(1 - own).get_future().wait_for(std::chrono::seconds(10)) ==
+                    std::future_status::ready;
+      return std::string("program");
+    });
+  };
+  std::thread other(readWhileTheOtherIs, 0);
+  readWhileTheOtherIs(1);
+  other.join();
+  EXPECT_TRUE(met[0]);
+  EXPECT_TRUE(met[1]);
+}
+
+TEST(FontPrograms, TheSameOneIsReadByOneThreadAndWaitedFor) {
+  std::atomic<int> reads = 0;
+  std::array<std::shared_ptr<const std::string>, 4> programs;
+  std::vector<std::thread> threads;
+  for (auto& program : programs) {
+    threads.emplace_back([&] {
+      program = SharedFontProgram("waited for", [&] { return std::to_string(++reads); });
+    });
+  }
+  for (std::thread& thread : threads) thread.join();
+  EXPECT_EQ(reads, 1);
+  for (const auto& program : programs) EXPECT_EQ(program, programs[0]);
 }
 
 }  // namespace
