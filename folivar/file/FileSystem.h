@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <cstdint>
 #include <cstdio>
 #include <optional>
@@ -20,12 +21,17 @@ FileKind KindOf(const Text& name);
 // Of what is open.
 FileKind KindOf(std::FILE* file);
 
-// What changes when a file does.
+// What changes when a file does, or when another takes its name; times in the system's units.
 struct FileStamp {
   std::uint64_t size;
-  std::int64_t time;  // of the last change, in the system's units
+  std::int64_t time;         // when it was last written, as programs may set it
+  std::int64_t changed;      // the same as the system alone sets it; on Windows when it was made
+  std::uint64_t device = 0;  // which file it is; 0 on Windows
+  std::uint64_t number = 0;
+
+  friend auto operator<=>(const FileStamp&, const FileStamp&) = default;
 };
-// Nothing where the system does not tell.
+// Nothing where the system does not tell, and for what is not a file.
 std::optional<FileStamp> StampOf(const Text& name);
 
 // Which file it is, whatever its name: links lead to it, and it may have several names. Nothing for

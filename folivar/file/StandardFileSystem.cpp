@@ -29,6 +29,11 @@ FileKind KindOf(fs::file_status status) {
   }
 }
 
+std::int64_t Nanoseconds(const timespec& time) {
+  constexpr std::int64_t kSecond = 1'000'000'000;
+  return time.tv_sec * kSecond + time.tv_nsec;
+}
+
 Text NameOf(const fs::path& path) {
   std::u8string name = path.u8string();
   try {
@@ -55,12 +60,18 @@ FileKind KindOf(std::FILE* file) {
 }
 
 std::optional<FileStamp> StampOf(const Text& name) {
-  const fs::path path = name.Utf8();
-  std::error_code error;
-  const std::uint64_t size = fs::file_size(path, error);
-  if (error) return std::nullopt;
-  const auto time = fs::last_write_time(path, error);
-  return FileStamp{size, time.time_since_epoch().count()};
+  struct stat file = {};
+  if (stat(name.Utf8().c_str(), &file) != 0 || !S_ISREG(file.st_mode)) return std::nullopt;
+#ifdef __APPLE__
+  const timespec& written = file.st_mtimespec;
+  const timespec& changed = file.st_ctimespec;
+#else
+  const timespec& written = file.st_mtim;
+  const timespec& changed = file.st_ctim;
+#endif
+  return FileStamp{static_cast<std::uint64_t>(file.st_size), Nanoseconds(written),
+                   Nanoseconds(changed), static_cast<std::uint64_t>(file.st_dev),
+                   static_cast<std::uint64_t>(file.st_ino)};
 }
 
 std::optional<FileId> FileIdOf(const Text& name) {

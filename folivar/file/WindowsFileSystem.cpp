@@ -52,9 +52,11 @@ std::optional<FileStamp> StampOf(const Text& name) {
   if (!GetFileAttributesExW(WideFrom(name).c_str(), GetFileExInfoStandard, &data)) {
     return std::nullopt;
   }
-  return FileStamp{Joined(data.nFileSizeHigh, data.nFileSizeLow),
-                   static_cast<std::int64_t>(Joined(data.ftLastWriteTime.dwHighDateTime,
-                                                    data.ftLastWriteTime.dwLowDateTime))};
+  const auto time = [](const FILETIME& value) {
+    return static_cast<std::int64_t>(Joined(value.dwHighDateTime, value.dwLowDateTime));
+  };
+  return FileStamp{Joined(data.nFileSizeHigh, data.nFileSizeLow), time(data.ftLastWriteTime),
+                   time(data.ftCreationTime)};
 }
 
 // Opened without any right, so that it does not matter who else has the file open.

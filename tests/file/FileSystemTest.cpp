@@ -107,6 +107,21 @@ TEST_F(FileSystem, AStampChangesWhenTheFileDoes) {
   EXPECT_EQ(StampOf(NameOf(path))->size, 10U);
 }
 
+TEST_F(FileSystem, TheStampsOfTwoFilesOfOneSizeAndTimeDiffer) {
+  WriteBytes(folder_ / "other", "bytes");
+  fs::last_write_time(folder_ / "other", fs::last_write_time(folder_ / "file"));
+  const FileStamp stamp = *StampOf(NameOf(folder_ / "file"));
+  const FileStamp other = *StampOf(NameOf(folder_ / "other"));
+  EXPECT_EQ(other.size, stamp.size);
+  EXPECT_EQ(other.time, stamp.time);
+  EXPECT_NE(other, stamp);
+  EXPECT_EQ(*StampOf(NameOf(folder_ / "to file")), stamp) << "the same file";
+}
+
+TEST_F(FileSystem, AFolderHasNoStamp) {
+  EXPECT_FALSE(StampOf(NameOf(folder_ / "below")).has_value());
+}
+
 TEST_F(FileSystem, WhatIsNotThereHasNoStamp) {
   EXPECT_FALSE(StampOf(NameOf(folder_ / "missing")).has_value());
   EXPECT_FALSE(StampOf(NameOf(folder_ / "to nothing")).has_value());
