@@ -2,17 +2,19 @@
 
 #include <algorithm>
 #include <array>
-#include <map>
-#include <mutex>
+#include <cstddef>
+#include <cstdlib>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <utility>
 
 #include "folivar/base/Error.h"
 #include "folivar/file/FileHandle.h"
 #include "folivar/file/FileSource.h"
 #include "folivar/file/FileSystem.h"
+#include "folivar/fonts/FontMemory.h"
 #include "folivar/fonts/FontPrograms.h"
 #include "folivar/fonts/FontTableFields.h"
 #include "folivar/fonts/TrueTypeFontTables.h"
@@ -20,33 +22,19 @@
 namespace folivar {
 namespace {
 
-// What the process has read of font files, a little of each. A file that was replaced is another
-// one. From any thread.
-template <class Known>
-class Memory {
- public:
-  template <class Read>
-  std::shared_ptr<const Known> Recall(const std::string& identity, Read read) {
-    {
-      const std::lock_guard lock(mutex_);
-      const auto found = known_.find(identity);
-      if (found != known_.end()) return found->second;
-    }
-    auto known = std::make_shared<const Known>(read());
-    const std::lock_guard lock(mutex_);
-    return known_.try_emplace(identity, std::move(known)).first->second;
-  }
+constexpr std::size_t kMostFaces = 4096;
 
- private:
-  std::mutex mutex_;
-  std::map<std::string, std::shared_ptr<const Known>> known_;
-};
-
-// Raises the errors of FileSource.
+// A file that was replaced is another one. Raises the errors of FileSource.
 std::string IdentityOf(const Text& fileName) {
   const std::optional<FileStamp> stamp = StampOf(fileName);
-  if (!stamp) return std::to_string(FileSource(fileName).Size());
-  return fileName.Utf8() + '\0' + std::to_string(stamp->size) + ' ' + std::to_string(stamp->time);
+  std::string identity = fileName.Utf8() + '\0';
+  if (!stamp) return identity + std::to_string(FileSource(fileName).Size()) + ' ';
+  for (const std::uint64_t part :
+       {stamp->size, static_cast<std::uint64_t>(stamp->time),
+        static_cast<std::uint64_t>(stamp->changed), stamp->device, stamp->number}) {
+    identity += std::to_string(part) + ' ';
+  }
+  return identity;
 }
 
 struct Measures {
@@ -68,9 +56,9 @@ class FileFace final : public SystemFace {
  public:
   FileFace(FontFileFace face, bool isThickened)
       : face_(std::move(face)),
-        identity_(IdentityOf(face_.fileName) + ' ' + std::to_string(face_.index)),
+        identity_(IdentityOf(face_.fileName) + std::to_string(face_.index)),
         isThickened_(isThickened) {
-    static Memory<Measures> memory;
+    static FontMemory<Measures> memory(kMostFaces, [](const Measures&) { return std::size_t{1}; });
     measures_ = memory.Recall(identity_, [this] { return Measure(face_); });
   }
 
@@ -125,26 +113,39 @@ std::vector<FontFileFace> ReadFaces(const Text& fileName) {
           .WithObject(FileNamed(fileName.Utf8()));
     }
     if (!tables.HasTrueTypeOutlines()) continue;
-    faces.push_back({fileName, index, tables.FamilyName(), tables.IsBold(), tables.IsItalic()});
+    faces.push_back({fileName, index, tables.FamilyName(), tables.IsBold(), tables.IsItalic(),
+                     tables.Weight(), tables.Width()});
   }
   return faces;
 }
 
 }  // namespace
 
+bool operator<(const FontFileFace& a, const FontFileFace& b) {
+  const auto fields = [](const FontFileFace& face) {
+    return std::tie(face.fileName.Utf16(), face.index, face.family.Utf16(), face.isBold,
+                    face.isItalic, face.weight, face.width);
+  };
+  return fields(a) < fields(b);
+}
+
 std::vector<FontFileFace> FacesInFile(const Text& fileName) {
-  static Memory<std::vector<FontFileFace>> memory;
+  using Faces = std::vector<FontFileFace>;
+  static FontMemory<Faces> memory(
+      kMostFaces, [](const Faces& faces) { return std::max<std::size_t>(faces.size(), 1); });
   return *memory.Recall(IdentityOf(fileName), [&] { return ReadFaces(fileName); });
 }
 
-const FontFileFace& NearestStyle(const std::vector<FontFileFace>& faces, bool isBold,
-                                 bool isItalic) {
-  const auto distance = [=](const FontFileFace& face) {
-    return 2 * (face.isItalic != isItalic) + (face.isBold != isBold);
+bool IsNearer::operator()(const FontFileFace& a, const FontFileFace& b) const {
+  constexpr int kNormalWeight = 400;
+  constexpr int kBoldWeight = 700;
+  constexpr int kNormalWidth = 5;
+  const auto distance = [this](const FontFileFace& face) {
+    return std::tuple(face.isItalic != isItalic,
+                      std::abs(face.weight - (isBold ? kBoldWeight : kNormalWeight)),
+                      std::abs(face.width - kNormalWidth), face.isBold != isBold);
   };
-  return *std::min_element(
-      faces.begin(), faces.end(),
-      [&](const FontFileFace& a, const FontFileFace& b) { return distance(a) < distance(b); });
+  return distance(a) < distance(b);
 }
 
 std::unique_ptr<SystemFace> OpenFace(const FontFileFace& face, bool isBold) {

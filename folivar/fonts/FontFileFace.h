@@ -16,17 +16,28 @@ struct FontFileFace {
   Text family;
   bool isBold = false;
   bool isItalic = false;
+  // The classes of table "OS/2": 400 and 5 are normal, 700 is bold.
+  std::uint16_t weight = 400;
+  std::uint16_t width = 5;
+
+  // In any order.
+  friend bool operator<(const FontFileFace& a, const FontFileFace& b);
 };
 
 // The faces of a font file that have TrueType outlines, in their order. The process remembers what
-// it has read here and in OpenFace, until the file changes; font programs are not kept. Raises the
-// errors of FileSource and TrueTypeFontTables.
+// it has read here and in OpenFace, up to 4096 faces each, until the file changes; font programs
+// are not kept. Raises the errors of FileSource and TrueTypeFontTables.
 std::vector<FontFileFace> FacesInFile(const Text& fileName);
 
-// The face of the style nearest to the one wanted, the first of several: italic counts before bold.
-// There is at least one.
-const FontFileFace& NearestStyle(const std::vector<FontFileFace>& faces, bool isBold,
-                                 bool isItalic);
+// Whether a face is nearer to the style wanted than another: italic counts first, then how far the
+// weight is from normal or bold, then the width from normal, and at last what the face calls
+// itself.
+struct IsNearer {
+  bool isBold = false;
+  bool isItalic = false;
+
+  bool operator()(const FontFileFace& a, const FontFileFace& b) const;
+};
 
 // Opens the face to be measured. One that is not bold, although bold is wanted, is measured as the
 // system would thicken it: each width is 1 more.

@@ -13,8 +13,10 @@
 #include "folivar/base/Error.h"
 #include "folivar/base/InMember.h"
 #include "folivar/file/FileHandle.h"
+#include "folivar/file/FileSource.h"
 #include "folivar/file/FileSystem.h"
 #include "folivar/fonts/FontFileFace.h"
+#include "folivar/fonts/TrueTypeFontTables.h"
 
 namespace folivar {
 namespace {
@@ -66,6 +68,15 @@ void ListFolder(const Text& folder, std::vector<Text>& files, std::vector<Text>&
   if (error) throw FolderError(folder, error);
 }
 
+[[noreturn]] void RaiseWithoutOutlines(const Text& name) {
+  FileSource file(name);
+  const bool isPostScript = TrueTypeFontTables(file, name.Utf8(), 0).HasPostScriptOutlines();
+  throw Error::InvalidFileFormat(
+      isPostScript ? "has PostScript outlines, not TrueType's; a .ttf file of the font would do"
+                   : "has no TrueType outlines")
+      .WithObject(FileNamed(name.Utf8()));
+}
+
 // An Error that the action throws becomes a sentence.
 template <class Action>
 void Try(std::vector<Text>& sentences, Action action) {
@@ -105,31 +116,40 @@ std::vector<Text> FontFiles::AddFolder(TextView folderName) {
 }
 
 void FontFiles::Add(const Text& name) {
-  std::multimap<std::u16string, FontFileFace> faces;
-  for (FontFileFace& face : FacesInFile(name)) {
-    faces.emplace(FoldCase(face.family), std::move(face));
-  }
-  if (faces.empty()) {
-    throw Error::InvalidFileFormat("has no TrueType outlines").WithObject(FileNamed(name.Utf8()));
-  }
+  std::vector<FontFileFace> faces = FacesInFile(name);
+  if (faces.empty()) RaiseWithoutOutlines(name);
+  std::set<FontFileFace> added;
+  std::multimap<std::u16string, const FontFileFace*> families;
   const std::lock_guard lock(mutex_);
-  faces_.merge(faces);
+  for (FontFileFace& face : faces) {
+    if (faces_.contains(face)) continue;
+    const FontFileFace& kept = *added.insert(std::move(face)).first;
+    families.emplace(FoldCase(kept.family), &kept);
+  }
+  faces_.merge(added);
+  families_.merge(families);
 }
 
 std::unique_ptr<SystemFace> FontFiles::SelectFace(const Text& name, bool isBold, bool isItalic) {
-  std::vector<FontFileFace> family;
-  {
-    const std::lock_guard lock(mutex_);
-    const auto [first, last] = faces_.equal_range(FoldCase(name));
-    for (auto face = first; face != last; ++face) family.push_back(face->second);
-  }
-  return family.empty() ? nullptr : OpenFace(NearestStyle(family, isBold, isItalic), isBold);
+  const FontFileFace* face = NearestFace(name, isBold, isItalic);
+  return face ? OpenFace(*face, isBold) : nullptr;
+}
+
+// Null for a family that is not here.
+const FontFileFace* FontFiles::NearestFace(const Text& name, bool isBold, bool isItalic) {
+  const std::lock_guard lock(mutex_);
+  const auto [first, last] = families_.equal_range(FoldCase(name));
+  const auto nearest = std::min_element(
+      first, last, [nearer = IsNearer{isBold, isItalic}](const auto& a, const auto& b) {
+        return nearer(*a.second, *b.second);
+      });
+  return nearest == last ? nullptr : nearest->second;
 }
 
 std::vector<Text> FontFiles::FaceNames() {
   std::vector<Text> names;
   const std::lock_guard lock(mutex_);
-  for (const auto& [family, face] : faces_) names.push_back(face.family);
+  for (const auto& [family, face] : families_) names.push_back(face->family);
   return names;
 }
 

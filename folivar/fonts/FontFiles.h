@@ -3,6 +3,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -16,10 +17,10 @@ struct FontFileFace;
 
 // TrueType fonts from files that the host names, for systems that have no fonts installed or not
 // the right ones. They win over the system's: a family that is here is taken from here, in the
-// nearest style that is here, the one added first of several. May be shared by documents, in
-// several threads too. The files are opened again when their faces are used, so they must stay
-// where they are; relative names are taken from the folder that is the working folder when they are
-// added.
+// nearest style that is here (italic counts first, then the weight, then the width), the one added
+// first of several. A face that is added again is here once. May be shared by documents, in several
+// threads too. The files are opened again when their faces are used, so they must stay where they
+// are; relative names are taken from the folder that is the working folder when they are added.
 class FOLIVAR_API FontFiles final : public SystemFonts {
  public:
   FontFiles();
@@ -27,7 +28,7 @@ class FOLIVAR_API FontFiles final : public SystemFonts {
 
   // Adds the faces of a font file (.ttf), or of every font in a collection (.ttc). Raises 53 for a
   // file that is not there, 52, 70, 75 or 76 for one that cannot be read, and 321 for one that is
-  // damaged or has no TrueType outlines.
+  // damaged or has no TrueType outlines; the text says when it has PostScript's.
   void AddFile(TextView fileName);
 
   // Adds every file of the folder and of those below it whose name ends in ".ttf", ".ttc" or
@@ -43,10 +44,12 @@ class FOLIVAR_API FontFiles final : public SystemFonts {
 
  private:
   void Add(const Text& name);
+  const FontFileFace* NearestFace(const Text& name, bool isBold, bool isItalic);
 
   std::mutex mutex_;
+  std::set<FontFileFace> faces_;
   // By the family's name, its case folded; the faces added first come first.
-  std::multimap<std::u16string, FontFileFace> faces_;
+  std::multimap<std::u16string, const FontFileFace*> families_;
 };
 
 }  // namespace folivar

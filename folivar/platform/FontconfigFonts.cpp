@@ -168,7 +168,10 @@ class FontconfigFonts final : public SystemFonts {
     if (faces.empty()) {
       faces = FacesOfFamily(search, SubstituteFor(search, name, isBold, isItalic));
     }
-    return faces.empty() ? nullptr : OpenFace(NearestStyle(faces, isBold, isItalic), isBold);
+    return faces.empty()
+               ? nullptr
+               : OpenFace(*std::min_element(faces.begin(), faces.end(), IsNearer{isBold, isItalic}),
+                          isBold);
   }
 
   std::vector<Text> FaceNames() override {

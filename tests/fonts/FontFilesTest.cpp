@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <cstdint>
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -13,6 +15,7 @@
 #include "folivar/fonts/PDFFontInfo.h"
 #include "tests/support/Content.h"
 #include "tests/support/FakeFonts.h"
+#include "tests/support/FontBuilder.h"
 #include "tests/support/PackagedFonts.h"
 #include "tests/support/SavedDocument.h"
 #include "tests/support/TestFiles.h"
@@ -124,6 +127,60 @@ TEST_F(FontFilesOfADocument, TheNearestStyleIsTaken) {
   EXPECT_EQ(RecordOf(*bold).MeasureWidth("b"), 611);
   bold->SetItalic(true);
   EXPECT_EQ(RecordOf(*bold).MeasureWidth("b"), 557) << "italic counts more than bold";
+}
+
+TEST_F(FontFilesOfADocument, OfSeveralWeightsTheNearestIsTaken) {
+  for (const auto& [name, weight] :
+       std::map<std::string, std::uint32_t>{{"a", 900}, {"b", 400}, {"c", 100}}) {
+    FontBuilder font;
+    SetU16(font.tables["OS/2"], 4, weight);
+    SetU16(font.tables["hmtx"], 4, weight);  // of "A"
+    const path file = OutputPath(name + ".ttf");
+    WriteBytes(file, font.Build());
+    files_->AddFile(file.u8string());
+  }
+  const auto width = [&](bool isBold) {
+    return files_->SelectFace(Text("Test Sans"), isBold, false)->Widths()['A'];
+  };
+  EXPECT_EQ(width(false), 400);
+  EXPECT_EQ(width(true), 901) << "thickened: it does not call itself bold";
+}
+
+TEST_F(FontFilesOfADocument, AFaceThatIsAddedAgainIsHereOnce) {
+  for (int i = 0; i < 3; ++i) files_->AddFile(Regular().u8string());
+  EXPECT_EQ(files_->FaceNames().size(), 1U);
+  files_->AddFile(Bold().u8string());
+  EXPECT_EQ(files_->FaceNames().size(), 2U);
+}
+
+TEST_F(FontFilesOfADocument, AFileThatBecameAnotherFontAddsIt) {
+  const path file = OutputPath("font.ttf");
+  copy_file(Regular(), file);
+  files_->AddFile(file.u8string());
+  remove(file);
+  copy_file(PackagedFont("dejavu/DejaVuSans.ttf"), file);
+  files_->AddFile(file.u8string());
+  EXPECT_NE(files_->SelectFace(Text("DejaVu Sans"), false, false), nullptr);
+}
+
+TEST_F(FontFilesOfADocument, AFontOfOtherOutlinesIsRefusedWithItsKind) {
+  FontBuilder font;
+  font.version = 0x4F54544F;  // "OTTO"
+  font.tables.erase("glyf");
+  const path bare = OutputPath("bare.otf");
+  WriteBytes(bare, font.Build());
+  font.tables["CFF "] = std::string(4, '\0');
+  const path postScript = OutputPath("postscript.otf");
+  WriteBytes(postScript, font.Build());
+  const auto addBare = [&] { files_->AddFile(bare.u8string()); };
+  EXPECT_EQ(ErrorNumberOf(addBare), Error::kInvalidFileFormat);
+  EXPECT_EQ(ErrorTextOf(addBare),
+            "FontFiles.AddFile: file '" + bare.string() + "': has no TrueType outlines");
+  const auto add = [&] { files_->AddFile(postScript.u8string()); };
+  EXPECT_EQ(ErrorNumberOf(add), Error::kInvalidFileFormat);
+  EXPECT_EQ(ErrorTextOf(add), "FontFiles.AddFile: file '" + postScript.string() +
+                                  "': has PostScript outlines, not TrueType's; a .ttf file of the "
+                                  "font would do");
 }
 
 TEST_F(FontFilesOfADocument, AreListedWithTheSystemsFamiliesEachOnce) {
