@@ -66,7 +66,8 @@ class FOLIVAR_API SystemFonts {
   // The names of the families, in any order; one may come more than once.
   virtual std::vector<Text> FaceNames() = 0;
 
-  // Those that are installed: the default.
+  // Those that are installed: the default. One that is installed later counts as soon as the system
+  // tells; fontconfig looks every 30 seconds, or as its configuration says.
   static std::shared_ptr<SystemFonts> OfThisSystem();
 
  protected:
