@@ -23,6 +23,13 @@ namespace folivar {
 namespace {
 
 constexpr std::size_t kMostFaces = 4096;
+// Of all fonts of a file together; no sound file comes near it.
+constexpr std::uint64_t kLargestLists = std::uint64_t{64} << 20;
+
+[[noreturn]] void Refuse(const Text& fileName, const char* what) {
+  throw Error::InvalidFileFormat(std::string("damaged font: ") + what)
+      .WithObject(FileNamed(fileName.Utf8()));
+}
 
 // A file that was replaced is another one. Raises the errors of FileSource.
 std::string IdentityOf(const Text& fileName) {
@@ -106,12 +113,11 @@ std::vector<FontFileFace> ReadFaces(const Text& fileName) {
   std::uint64_t size = 0;
   for (std::uint32_t index = 0; index < count; ++index) {
     const TrueTypeFontTables tables(file, fileName.Utf8(), index);
-    // A small file could name the same font a million times and keep us reading for hours.
+    // A small file could name the same font again and again and keep us reading for hours, and so
+    // could a large one of nothing but zeros, which takes no room on a disk.
     size += tables.OwnSize();
-    if (size > file.Size()) {
-      throw Error::InvalidFileFormat("damaged font: its fonts overlap")
-          .WithObject(FileNamed(fileName.Utf8()));
-    }
+    if (size > file.Size()) Refuse(fileName, "its fonts overlap");
+    if (size > kLargestLists) Refuse(fileName, "its lists of tables and names are too long");
     if (!tables.HasTrueTypeOutlines()) continue;
     faces.push_back({fileName, index, tables.FamilyName(), tables.IsBold(), tables.IsItalic(),
                      tables.Weight(), tables.Width()});

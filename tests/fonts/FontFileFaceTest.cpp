@@ -228,31 +228,56 @@ TEST(FontFileFace, AFileThatIsDamagedSinceItWasListedIsNamed) {
   EXPECT_NE(ErrorTextOf([&] { OpenFace(face, false); }).find(file.string()), std::string::npos);
 }
 
-// Sixty thousand fonts at the same place, each with a long list of tables or of names: to read
-// them all would take minutes.
-TEST(FontFileFace, ACollectionOfOneFontManyTimesIsRefusedAtOnce) {
-  constexpr std::uint32_t kFonts = 60'000;
-  FontBuilder ofTables;
-  for (std::uint32_t i = 0; i < 30'000; ++i) ofTables.tables["z" + U32(i).substr(1)] = "";
-  FontBuilder ofNames;
-  ofNames.tables["name"] = NameTable(std::vector<FontName>(5000, {.bytes = BigEndian(u"A")}));
-  for (const FontBuilder& font : {ofTables, ofNames}) {
-    std::string one = BuildCollection({font});
-    std::string file = one.substr(0, 8) + U32(kFonts);
-    // Where the fonts begin, and their tables, moves behind the list of fonts.
-    constexpr std::uint32_t kMoved = 4 * (kFonts - 1);
-    for (std::uint32_t i = 0; i < kFonts; ++i) file += U32(16 + kMoved);
-    for (std::size_t i = 0; i < font.tables.size(); ++i) {
-      const std::size_t record = 16 + 12 + 16 * i;
-      SetU32(one, record + 8, U32In(one, record + 8) + kMoved);
-    }
-    const path written = Written("many.ttc", file + one.substr(16));
-    const auto start = std::chrono::steady_clock::now();
-    EXPECT_EQ(ErrorNumberOf([&] { FacesIn(written); }), Error::kInvalidFileFormat);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
-    EXPECT_EQ(ErrorTextOf([&] { FacesIn(written); }),
-              "file '" + written.string() + "': damaged font: its fonts overlap");
+// A collection that names one font again and again, at the same place.
+std::string CollectionOfSame(const FontBuilder& font, std::uint32_t count) {
+  std::string one = BuildCollection({font});
+  std::string file = one.substr(0, 8) + U32(count);
+  // Where the fonts begin, and their tables, moves behind the list of fonts.
+  const std::uint32_t moved = 4 * (count - 1);
+  for (std::uint32_t i = 0; i < count; ++i) file += U32(16 + moved);
+  for (std::size_t i = 0; i < font.tables.size(); ++i) {
+    const std::size_t record = 16 + 12 + 16 * i;
+    SetU32(one, record + 8, U32In(one, record + 8) + moved);
   }
+  return file + one.substr(16);
+}
+
+FontBuilder WithManyTables() {
+  FontBuilder font;
+  for (std::uint32_t i = 0; i < 30'000; ++i) font.tables["z" + U32(i).substr(1)] = "";
+  return font;
+}
+
+void ExpectRefusedAtOnce(const path& file, const std::string& how) {
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(ErrorNumberOf([&] { FacesIn(file); }), Error::kInvalidFileFormat);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+  EXPECT_EQ(ErrorTextOf([&] { FacesIn(file); }),
+            "file '" + file.string() + "': damaged font: " + how);
+}
+
+// Each with a long list of tables or of names: to read them all would take minutes.
+TEST(FontFileFace, ACollectionOfOneFontManyTimesIsRefusedAtOnce) {
+  FontBuilder withManyNames;
+  withManyNames.tables["name"] = NameTable(std::vector<FontName>(5000, {.bytes = BigEndian(u"A")}));
+  for (const FontBuilder& font : {WithManyTables(), withManyNames}) {
+    ExpectRefusedAtOnce(Written("many.ttc", CollectionOfSame(font, 60'000)), "its fonts overlap");
+  }
+}
+
+// A file of 5 GiB that takes no room on the disk could have that many lists.
+TEST(FontFileFace, ListsOfMoreThan64MiBAreRefusedHoweverLargeTheFile) {
+  const path file = Written("padded.ttc", CollectionOfSame(WithManyTables(), 5000));
+  resize_file(file, std::uintmax_t{5} << 30);
+  ExpectRefusedAtOnce(file, "its lists of tables and names are too long");
+}
+
+TEST(FontFileFace, ACollectionOfAMillionFontsIsRefused) {
+  FontBuilder font;
+  font.version = 0x4F54544F;  // "OTTO", which needs no tables
+  font.tables.clear();
+  ExpectRefusedAtOnce(Written("million.ttc", CollectionOfSame(font, 1'000'000)),
+                      "it has 1000000 fonts");
 }
 
 }  // namespace
