@@ -14,6 +14,7 @@
 #include "folivar/fonts/FontFileFace.h"
 #include "folivar/fonts/TrueTypeMetrics.h"
 #include "tests/support/Content.h"
+#include "tests/support/FileWatch.h"
 #include "tests/support/FontBuilder.h"
 #include "tests/support/FreeTypeFace.h"
 #include "tests/support/PackagedFonts.h"
@@ -205,6 +206,21 @@ TEST(FontFileFace, AFileThatWasReplacedIsReadAgain) {
   ASSERT_EQ(file_size(other), file_size(file));
   std::filesystem::rename(other, file);
   EXPECT_EQ(FacesIn(file).at(0).family, "Other");
+}
+
+TEST(FontFileFace, TheProcessRemembers4096Faces) {
+  const path first = Written("first.ttf", FontBuilder().Build());
+  const FileWatch watch(first);
+  FacesIn(first);
+  EXPECT_TRUE(watch.WasOpened());
+  // Room for the names, as if each font had its own.
+  const std::string names(1'000'000, '\0');
+  FacesIn(Written("many.ttc", BuildCollection(std::vector<FontBuilder>(4095)) + names));
+  FacesIn(first);
+  EXPECT_FALSE(watch.WasOpened());
+  FacesIn(Written("more.ttc", BuildCollection(std::vector<FontBuilder>(4096)) + names));
+  FacesIn(first);
+  EXPECT_TRUE(watch.WasOpened());
 }
 
 TEST(FontFileFace, AFileThatIsNotThereRaises53) {

@@ -1,6 +1,4 @@
 #include <gtest/gtest.h>
-#include <sys/inotify.h>
-#include <unistd.h>
 
 #include <array>
 #include <atomic>
@@ -16,6 +14,7 @@
 
 #include "folivar/fonts/FontFileFace.h"
 #include "folivar/fonts/FontPrograms.h"
+#include "tests/support/FileWatch.h"
 #include "tests/support/PackagedFonts.h"
 #include "tests/support/TestFiles.h"
 
@@ -70,40 +69,18 @@ TEST(FontPrograms, OfAFileAreSharedUntilTheFileChanges) {
   EXPECT_EQ(*program(), bytes);
 }
 
-// Counts how often a file is opened.
-class OpenCounter {
- public:
-  explicit OpenCounter(const std::filesystem::path& file) : events_(inotify_init1(IN_NONBLOCK)) {
-    if (events_ < 0 || inotify_add_watch(events_, file.c_str(), IN_OPEN) < 0) {
-      throw std::runtime_error("the system does not watch files");
-    }
-  }
-  ~OpenCounter() { close(events_); }
-  OpenCounter(const OpenCounter&) = delete;
-  OpenCounter& operator=(const OpenCounter&) = delete;
-
-  // Since it was last asked. The system tells events that follow each other at once as one.
-  bool WasOpened() const {
-    std::array<char, 4096> events = {};
-    return read(events_, events.data(), events.size()) > 0;
-  }
-
- private:
-  int events_;
-};
-
 TEST(FontPrograms, AFileIsReadOnceForAllThatUseIt) {
   const auto path = OutputPath("font.ttf");
   copy_file(PackagedFont("liberation/LiberationSans-Regular.ttf"), path);
-  const OpenCounter counter(path);
+  const FileWatch watch(path);
   const auto face = FacesInFile(Text(path.u8string())).front();
   const auto program = OpenFace(face, false)->Program();
-  EXPECT_TRUE(counter.WasOpened());
+  EXPECT_TRUE(watch.WasOpened());
   EXPECT_EQ(FacesInFile(Text(path.u8string())).size(), 1U);
   EXPECT_EQ(OpenFace(face, false)->Widths()['A'], 667);
   EXPECT_EQ(OpenFace(face, true)->Widths()['A'], 668);
   EXPECT_EQ(OpenFace(face, false)->Program(), program);
-  EXPECT_FALSE(counter.WasOpened());
+  EXPECT_FALSE(watch.WasOpened());
 }
 
 // Each is read while the other is; whoever waits in vain reads on his own.
