@@ -1,4 +1,5 @@
-// Runs with the library that FakeFontconfig.cpp makes in the place of fontconfig's.
+// Run with LD_LIBRARY_PATH set to the folder fake_fontconfig of the build: the library that
+// FakeFontconfig.cpp makes stands in the place of fontconfig's then.
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>
