@@ -21,27 +21,27 @@ FileKind KindOf(const Text& name);
 // Of what is open.
 FileKind KindOf(std::FILE* file);
 
-// What changes when a file does, or when another takes its name; times in the system's units.
-struct FileStamp {
-  std::uint64_t size;
-  std::int64_t time;         // when it was last written, as programs may set it
-  std::int64_t changed;      // the same as the system alone sets it; on Windows when it was made
-  std::uint64_t device = 0;  // which file it is; 0 on Windows
-  std::uint64_t number = 0;
-
-  friend auto operator<=>(const FileStamp&, const FileStamp&) = default;
-};
-// Nothing where the system does not tell, and for what is not a file.
-std::optional<FileStamp> StampOf(const Text& name);
-
 // Which file it is, whatever its name: links lead to it, and it may have several names. Nothing for
 // what is not there or is not told.
 struct FileId {
   std::uint64_t volume;
   std::uint64_t file;
-  friend bool operator==(const FileId&, const FileId&) = default;
+
+  friend auto operator<=>(const FileId&, const FileId&) = default;
 };
 std::optional<FileId> FileIdOf(const Text& name);
+
+// What changes when a file does, or when another takes its name; times in the system's units.
+struct FileStamp {
+  std::uint64_t size;
+  std::int64_t time;     // when it was last written, as programs may set it
+  std::int64_t changed;  // the same as the system alone sets it; on Windows when it was made
+  FileId id{};           // not told on Windows, which would have to open the file
+
+  friend auto operator<=>(const FileStamp&, const FileStamp&) = default;
+};
+// Nothing where the system does not tell, and for what is not a file.
+std::optional<FileStamp> StampOf(const Text& name);
 
 // The name taken from the working folder, as long as that is the same. Raises 52 for what cannot be
 // a name.

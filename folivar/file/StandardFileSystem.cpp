@@ -29,6 +29,8 @@ FileKind KindOf(fs::file_status status) {
   }
 }
 
+FileId IdOf(const struct stat& status) { return {status.st_dev, status.st_ino}; }
+
 std::int64_t Nanoseconds(const timespec& time) {
   constexpr std::int64_t kSecond = 1'000'000'000;
   return time.tv_sec * kSecond + time.tv_nsec;
@@ -70,14 +72,13 @@ std::optional<FileStamp> StampOf(const Text& name) {
   const timespec& changed = file.st_ctim;
 #endif
   return FileStamp{static_cast<std::uint64_t>(file.st_size), Nanoseconds(written),
-                   Nanoseconds(changed), static_cast<std::uint64_t>(file.st_dev),
-                   static_cast<std::uint64_t>(file.st_ino)};
+                   Nanoseconds(changed), IdOf(file)};
 }
 
 std::optional<FileId> FileIdOf(const Text& name) {
   struct stat status;
   if (stat(name.Utf8().c_str(), &status) != 0) return std::nullopt;
-  return FileId{status.st_dev, status.st_ino};
+  return IdOf(status);
 }
 
 Text AbsoluteName(const Text& name) {

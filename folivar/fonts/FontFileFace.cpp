@@ -38,7 +38,7 @@ std::string IdentityOf(const Text& fileName) {
   if (!stamp) return identity + std::to_string(FileSource(fileName).Size()) + ' ';
   for (const std::uint64_t part :
        {stamp->size, static_cast<std::uint64_t>(stamp->time),
-        static_cast<std::uint64_t>(stamp->changed), stamp->device, stamp->number}) {
+        static_cast<std::uint64_t>(stamp->changed), stamp->id.volume, stamp->id.file}) {
     identity += std::to_string(part) + ' ';
   }
   return identity;
