@@ -13,10 +13,9 @@ namespace com = folivar::com;
 extern "C" BOOL WINAPI DllMain(HINSTANCE handle, DWORD reason, void* processEnds) {
   if (reason == DLL_PROCESS_ATTACH) {
     com::Module::SetHandle(handle);
-  } else if (reason == DLL_PROCESS_DETACH) {
+  } else if (reason == DLL_PROCESS_DETACH && processEnds == nullptr) {
     // At the end of the process the system's libraries may be gone already.
-    if (processEnds == nullptr) com::TypeLibrary::Release();
-    com::Module::ReportLeaks(processEnds != nullptr);
+    com::TypeLibrary::Release();
   }
   return TRUE;
 }
@@ -28,7 +27,9 @@ STDAPI DllGetClassObject(REFCLSID classId, REFIID iid, void** result) {
   return com::ClassFactory::Instance().QueryInterface(iid, result);
 }
 
-STDAPI DllCanUnloadNow() { return com::Module::IsIdle() ? S_OK : S_FALSE; }
+STDAPI DllCanUnloadNow() {
+  return com::Module::Objects() == 0 && com::Module::Locks() == 0 ? S_OK : S_FALSE;
+}
 
 STDAPI DllRegisterServer() {
   return com::Guarded(IID_NULL,

@@ -15,17 +15,11 @@ class Module {
   // Of the file that it was loaded from.
   static std::wstring Path();
 
-  // Objects that clients may hold, and locks of the class factory.
+  // Objects that clients may hold, and references to the class factory with its locks.
   static void CountObject(int change);
   static void CountLock(int change);
-  // Whether there are none of either.
-  static bool IsIdle();
-
-  // Appends a line to the file that the environment variable FOLIVAR_LEAK_REPORT names, if any:
-  //   live=0 locks=0 made=12 process_exit=0
-  // With process_exit=1 the process ended while the DLL was loaded: somebody still held an object,
-  // or never let go of the library.
-  static void ReportLeaks(bool isProcessExit);
+  static long Objects();
+  static long Locks();
 };
 
 }  // namespace folivar::com
