@@ -21,7 +21,20 @@ STDMETHODIMP ClassFactory::QueryInterface(REFIID iid, void** result) {
   if (result == nullptr) return E_POINTER;
   const bool isThere = iid == IID_IUnknown || iid == IID_IClassFactory;
   *result = isThere ? this : nullptr;
-  return isThere ? S_OK : E_NOINTERFACE;
+  if (!isThere) return E_NOINTERFACE;
+  AddRef();
+  return S_OK;
+}
+
+// The results mean no more than "still there".
+STDMETHODIMP_(ULONG) ClassFactory::AddRef() {
+  Module::CountLock(1);
+  return 2;
+}
+
+STDMETHODIMP_(ULONG) ClassFactory::Release() {
+  Module::CountLock(-1);
+  return 1;
 }
 
 STDMETHODIMP ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** result) {

@@ -4,16 +4,16 @@
 
 namespace folivar::com {
 
-// Makes documents, the one thing that clients create. One for the process, which is always there;
-// what keeps the DLL loaded is the documents and LockServer.
+// Makes documents, the one thing that clients create. One for the process, there as long as the DLL
+// is loaded: a reference to it is a lock, as one by LockServer is.
 class ClassFactory final : public IClassFactory {
  public:
   static ClassFactory& Instance();
 
   // IUnknown
   STDMETHODIMP QueryInterface(REFIID iid, void** result) override;
-  STDMETHODIMP_(ULONG) AddRef() override { return 2; }
-  STDMETHODIMP_(ULONG) Release() override { return 1; }
+  STDMETHODIMP_(ULONG) AddRef() override;
+  STDMETHODIMP_(ULONG) Release() override;
 
   // IClassFactory
   STDMETHODIMP CreateInstance(IUnknown* outer, REFIID iid, void** result) override;

@@ -101,6 +101,21 @@ void ClassInformation() {
         DISP_E_BADINDEX);
 }
 
+// What a copy of the DLL answers when it is asked itself.
+HRESULT ClassObjectOf(HMODULE module, const CLSID& classId, const IID& iid, void** result) {
+  using GetClassObject = HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**);
+  const auto getClassObject = reinterpret_cast<GetClassObject>(
+      reinterpret_cast<void*>(GetProcAddress(module, "DllGetClassObject")));
+  CHECK(getClassObject != nullptr);
+  return getClassObject == nullptr ? E_FAIL : getClassObject(classId, iid, result);
+}
+
+ComPtr<IClassFactory> FactoryOf(HMODULE module) {
+  ComPtr<IClassFactory> factory;
+  CHECK_OK(ClassObjectOf(module, __uuidof(PDFDocument), IID_PPV_ARGS(&factory)));
+  return factory;
+}
+
 void Creation() {
   const auto document = NewDocument();
   ComPtr<IUnknown> made;
@@ -109,14 +124,10 @@ void Creation() {
   CHECK(FAILED(
       CoCreateInstance(__uuidof(PDFPage), nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&made))));
 
-  using GetClassObject = HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**);
-  const auto getClassObject = reinterpret_cast<GetClassObject>(reinterpret_cast<void*>(
-      GetProcAddress(GetModuleHandleW(L"Folivar.dll"), "DllGetClassObject")));
-  CHECK(getClassObject != nullptr);
-  if (getClassObject == nullptr) return;
-  CHECK(getClassObject(__uuidof(PDFPage), IID_PPV_ARGS(&made)) == CLASS_E_CLASSNOTAVAILABLE);
-  ComPtr<IClassFactory> factory;
-  CHECK_OK(getClassObject(__uuidof(PDFDocument), IID_PPV_ARGS(&factory)));
+  const HMODULE module = GetModuleHandleW(L"Folivar.dll");
+  CHECK(ClassObjectOf(module, __uuidof(PDFPage), IID_PPV_ARGS(&made)) == CLASS_E_CLASSNOTAVAILABLE);
+  const auto factory = FactoryOf(module);
+  if (!factory) return;
   ComPtr<_PDFDocument> other;
   CHECK_OK(factory->CreateInstance(nullptr, IID_PPV_ARGS(&other)));
   CHECK(!AreSame(other, document));
@@ -137,6 +148,18 @@ void Unloading() {
   document.Reset();
   CHECK(canUnloadNow() == S_FALSE);
   CHECK_OK(factory->LockServer(FALSE));
+
+  // Who holds the factory may go on making documents.
+  CHECK(canUnloadNow() == S_FALSE);
+  CoFreeUnusedLibrariesEx(0, 0);
+  CHECK(GetModuleHandleW(L"Folivar.dll") != nullptr);
+  CHECK_OK(factory->CreateInstance(nullptr, IID_PPV_ARGS(&document)));
+  document.Reset();
+  ComPtr<IUnknown> sameFactory;
+  CHECK_OK(factory.As(&sameFactory));
+  factory.Reset();
+  CHECK(canUnloadNow() == S_FALSE);
+  sameFactory.Reset();
   CHECK(canUnloadNow() == S_OK);
 }
 
