@@ -48,6 +48,7 @@ STDMETHODIMP_(ULONG) PeerBase::AddRef() {
   if (references_ == 0) {
     pinnedDocument_ = document_.lock();
     pinnedObject_ = object_.lock();
+    pinnedOwner_ = Owner();
   }
   return ++references_;
 }
@@ -57,6 +58,7 @@ STDMETHODIMP_(ULONG) PeerBase::Release() {
   if (left == 0) {
     // With the last of these this peer may go.
     const auto document = std::move(pinnedDocument_);
+    const auto owner = std::move(pinnedOwner_);
     const auto object = std::move(pinnedObject_);
   }
   return left;

@@ -18,7 +18,7 @@ using Document = std::weak_ptr<PDFDocument>;
 //
 // The object owns its peer, which is therefore the same for the object's whole life, with the tag
 // and the listeners that clients gave it. While clients hold references to the peer, it holds the
-// object and its document.
+// object, its owner and its document.
 class PeerBase : public HostPeer, public ISupportErrorInfo, public IProvideClassInfo2 {
  public:
   ~PeerBase() override;
@@ -44,6 +44,8 @@ class PeerBase : public HostPeer, public ISupportErrorInfo, public IProvideClass
   virtual const IID& InterfaceId() const = 0;
   // Of its events, if it has some.
   virtual const IID& EventsId() const { return GUID_NULL; }
+  // What members of the object need besides it and its document; null for nothing.
+  virtual Shared<Object> Owner() const { return nullptr; }
   // A pointer to an interface that only this class has; null for none.
   virtual void* FindExtra(REFIID iid) = 0;
 
@@ -58,6 +60,7 @@ class PeerBase : public HostPeer, public ISupportErrorInfo, public IProvideClass
   // Held while clients hold references.
   Shared<PDFDocument> pinnedDocument_;
   Shared<Object> pinnedObject_;
+  Shared<Object> pinnedOwner_;
 };
 
 // The object behind a client's pointer, null for null. Raises 13 when it is no object of this

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <wrl/client.h>
+
 #include <utility>
 #include <vector>
 
@@ -33,11 +35,11 @@ class CollectionPeer : public Peer<Core> {
       *result = nullptr;
       std::vector<Shared<Member>> members;
       for (const Shared<Member>& member : this->TheCore()) members.push_back(member);
-      // The walk keeps the document.
-      const auto give = [document = this->TheDocument().lock()](const Shared<Member>& member,
-                                                                VARIANT& element) {
+      // The walk keeps the collection, and with it what its members need.
+      const Microsoft::WRL::ComPtr<CollectionPeer> collection(this);
+      const auto give = [collection](const Shared<Member>& member, VARIANT& element) {
         VariantInit(&element);
-        element.pdispVal = HandOut(member, document);
+        element.pdispVal = HandOut(member, collection->TheDocument());
         element.vt = VT_DISPATCH;
       };
       *result = Enumerate<IEnumVARIANT, VARIANT>(std::move(members), give);

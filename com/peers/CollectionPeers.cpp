@@ -1,6 +1,18 @@
 #include "com/peers/CollectionPeer.h"
+#include "folivar/base/Internal.h"
 
 namespace folivar::com {
+namespace {
+
+class PDFTextBoxesPeer final : public OrderedCollectionPeer<PDFTextBoxes> {
+ public:
+  using OrderedCollectionPeer::OrderedCollectionPeer;
+
+ protected:
+  Shared<Object> Owner() const override { return TheCore().Owner(Internal()); }
+};
+
+}  // namespace
 
 PeerOf<PDFBookmarks> MakePeer(const Shared<PDFBookmarks>& core, const Document& document) {
   return {std::make_unique<OrderedCollectionPeer<PDFBookmarks>>(core, document)};
@@ -23,7 +35,7 @@ PeerOf<PDFTemplates> MakePeer(const Shared<PDFTemplates>& core, const Document& 
 }
 
 PeerOf<PDFTextBoxes> MakePeer(const Shared<PDFTextBoxes>& core, const Document& document) {
-  return {std::make_unique<OrderedCollectionPeer<PDFTextBoxes>>(core, document)};
+  return {std::make_unique<PDFTextBoxesPeer>(core, document)};
 }
 
 }  // namespace folivar::com

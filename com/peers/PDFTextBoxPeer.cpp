@@ -1,5 +1,6 @@
 #include "com/peers/RegionPeer.h"
 #include "com/peers/TaggedPeer.h"
+#include "folivar/base/Internal.h"
 
 namespace folivar::com {
 namespace {
@@ -146,6 +147,9 @@ class PDFTextBoxPeer final : public RegionPeer<TaggedPeer<PDFTextBox>> {
   STDMETHODIMP get_GraphicsState(_PDFGraphicsState** result) override {
     return Get(result, &PDFTextBox::GraphicsState);
   }
+
+ protected:
+  Shared<Object> Owner() const override { return TheCore().Owner(Internal()); }
 };
 
 }  // namespace

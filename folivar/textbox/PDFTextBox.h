@@ -188,6 +188,8 @@ class FOLIVAR_API PDFTextBox final : public Tagged {
   PDFTextBox(const Internal&, std::weak_ptr<Canvas> parent, std::shared_ptr<Surface> parentSurface,
              TextView key);
 
+  // Null when it is gone.
+  std::shared_ptr<Canvas> Owner(const Internal&) const { return parent_.lock(); }
   // Lists the faces of all text that is drawn among the owner's resources.
   void RegisterFaces(const Internal&) const;
   // Appends what draws the box, which is sized first if it sizes itself.

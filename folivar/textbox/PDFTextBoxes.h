@@ -44,6 +44,8 @@ class FOLIVAR_API PDFTextBoxes final : public Object, public MemberList<PDFTextB
   PDFTextBoxes(const Internal&, std::weak_ptr<Canvas> parent,
                std::shared_ptr<Surface> parentSurface);
 
+  // Null when it is gone.
+  std::shared_ptr<Canvas> Owner(const Internal&) const { return parent_.lock(); }
   // Grows a box of edges over every text box. Raises 6 for an edge beyond a single.
   void ExtendClipBox(const Internal&, ClipBox& clipBox) const;
   // Lists the faces of all boxes among the owner's resources.

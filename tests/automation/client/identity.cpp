@@ -1,5 +1,8 @@
 // Which object is which, what it answers to, and what keeps what alive.
 
+#include <functional>
+#include <utility>
+
 #include "Client.h"
 
 namespace {
@@ -73,6 +76,62 @@ void AFaceKeepsItsDocument() {
   page.Reset();
   document.Reset();
   CHECK_OK(state->put_LineWidth(2));
+}
+
+// Of a page or a template that nobody else holds.
+template <class Owner>
+void ATextBoxKeepsItsOwner(ComPtr<Owner> owner, const std::function<void()>& forget) {
+  const void* address = static_cast<IDispatch*>(owner.Get());
+  ComPtr<_PDFTextBoxes> boxes;
+  ComPtr<_PDFTextBox> box;
+  CHECK_OK(owner->get_TextBoxes(&boxes));
+  CHECK_OK(boxes->Add(nullptr, Variant::Missing(), Variant::Missing(), &box));
+  boxes.Reset();
+  owner.Reset();
+  forget();
+  ComPtr<IDispatch> parent;
+  CHECK_OK(box->get_Parent(&parent));
+  CHECK(parent.Get() == address);
+  if (!parent) return;
+  CHECK_OK(parent.As(&owner));
+  parent.Reset();
+
+  // Also when the collection alone is held, and when a walk over it is.
+  CHECK_OK(owner->get_TextBoxes(&boxes));
+  box.Reset();
+  owner.Reset();
+  CHECK_OK(boxes->get_Item(Variant(1), &box));
+  CHECK_OK(box->get_Parent(&parent));
+  parent.Reset();
+  box.Reset();
+  ComPtr<IUnknown> made;
+  ComPtr<IEnumVARIANT> walk;
+  CHECK_OK(boxes->get_NewEnum(&made));
+  CHECK_OK(made.As(&walk));
+  made.Reset();
+  boxes.Reset();
+  Variant next;
+  CHECK_OK(walk->Next(1, &next, nullptr));
+  if (next->vt != VT_DISPATCH) return;
+  CHECK_OK(next->pdispVal->QueryInterface(IID_PPV_ARGS(&box)));
+  CHECK_OK(box->get_Parent(&parent));
+  CHECK(parent.Get() == address);
+}
+
+void TextBoxesKeepTheirOwners() {
+  auto document = NewDocument();
+  const auto pages = PagesOf(document);
+  ATextBoxKeepsItsOwner(AddPage(document), [&] { CHECK_OK(pages->Remove(Variant(1))); });
+
+  ComPtr<_PDFTemplates> templates;
+  ComPtr<_PDFTemplate> made;
+  auto shortLived = NewDocument();
+  CHECK_OK(shortLived->get_Templates(&templates));
+  CHECK_OK(templates->Add(nullptr, Variant::Missing(), Variant::Missing(), &made));
+  ATextBoxKeepsItsOwner(std::exchange(made, nullptr), [&] {
+    templates.Reset();
+    shortLived.Reset();
+  });
 }
 
 void ClassInformation() {
@@ -169,6 +228,7 @@ void Test() {
   Interfaces();
   OneFaceForAWholeLife();
   AFaceKeepsItsDocument();
+  TextBoxesKeepTheirOwners();
   ClassInformation();
   Creation();
   Unloading();
