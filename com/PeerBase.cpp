@@ -2,6 +2,8 @@
 
 #include <wrl/client.h>
 
+#include <cstdint>
+#include <cstring>
 #include <utility>
 
 #include "com/Guard.h"
@@ -12,11 +14,17 @@
 namespace folivar::com {
 namespace {
 
-// What a peer answers to with itself. Known to nobody else, so that neither a proxy nor somebody's
-// own class can be taken for a peer.
-// 0B39CF01-B325-450F-8017-032EC9BAE749
-constexpr IID kPeerId = {
-    0x0B39CF01, 0xB325, 0x450F, {0x80, 0x17, 0x03, 0x2E, 0xC9, 0xBA, 0xE7, 0x49}};
+// What a peer answers to with itself. It ends in the address of this DLL, so that it is known to
+// nobody else: neither a proxy, nor somebody's own class, nor an object of another copy of the DLL
+// in the same process can be taken for a peer.
+// 0B39CF01-B325-450F-....-............
+IID PeerId() {
+  IID id = {0x0B39CF01, 0xB325, 0x450F, {}};
+  const auto address = reinterpret_cast<std::uintptr_t>(Module::Handle());
+  static_assert(sizeof address <= sizeof id.Data4);
+  std::memcpy(id.Data4, &address, sizeof address);
+  return id;
+}
 
 }  // namespace
 
@@ -41,7 +49,7 @@ void* PeerBase::Find(REFIID iid) {
   if (iid == IID_IProvideClassInfo || iid == IID_IProvideClassInfo2) {
     return static_cast<IProvideClassInfo2*>(this);
   }
-  return iid == kPeerId ? this : FindExtra(iid);
+  return iid == PeerId() ? this : FindExtra(iid);
 }
 
 STDMETHODIMP_(ULONG) PeerBase::AddRef() {
@@ -88,7 +96,7 @@ STDMETHODIMP PeerBase::GetGUID(DWORD kind, GUID* result) {
 Shared<Object> ObjectBehind(IUnknown* pointer) {
   if (pointer == nullptr) return nullptr;
   Microsoft::WRL::ComPtr<PeerBase> peer;
-  if (FAILED(pointer->QueryInterface(kPeerId, &peer))) {
+  if (FAILED(pointer->QueryInterface(PeerId(), &peer))) {
     throw Error::TypeMismatch("an object is none of Folivar's");
   }
   return peer->TheObject();

@@ -63,8 +63,7 @@ class PeerBase : public HostPeer, public ISupportErrorInfo, public IProvideClass
   Shared<Object> pinnedOwner_;
 };
 
-// The object behind a client's pointer, null for null. Raises 13 when it is no object of this
-// library.
+// The object behind a client's pointer, null for null. Raises 13 when it is no object of this DLL.
 Shared<Object> ObjectBehind(IUnknown* pointer);
 
 }  // namespace folivar::com

@@ -222,6 +222,28 @@ void Unloading() {
   CHECK(canUnloadNow() == S_OK);
 }
 
+// A second copy of the DLL in the process has objects of its own.
+void AnotherCopy() {
+  const auto document = NewDocument();
+  std::wstring path(MAX_PATH, L'\0');
+  GetModuleFileNameW(GetModuleHandleW(L"Folivar.dll"), path.data(), MAX_PATH);
+  CHECK(CopyFileW(path.c_str(), L"copy.dll", FALSE) != FALSE);
+  const HMODULE copy = LoadLibraryW(L"copy.dll");
+  CHECK(copy != nullptr && copy != GetModuleHandleW(L"Folivar.dll"));
+  if (copy == nullptr) return;
+  if (const auto factory = FactoryOf(copy)) {
+    ComPtr<_PDFDocument> other;
+    CHECK_OK(factory->CreateInstance(nullptr, IID_PPV_ARGS(&other)));
+    const auto page = AddPage(document);
+    const auto foreign = AddFont(other, L"Courier");
+    CHECK(page->putref_Font(foreign.Get()) == Number(13));
+    const LateCall setFont{page.Get(), L"Font", DISPATCH_PROPERTYPUTREF};
+    CHECK(setFont({Variant(foreign)}) == DISP_E_EXCEPTION);
+    CHECK_OK(AddPage(other)->putref_Font(foreign.Get()));
+  }
+  CHECK(FreeLibrary(copy) != FALSE);
+}
+
 }  // namespace
 
 void Test() {
@@ -232,4 +254,5 @@ void Test() {
   ClassInformation();
   Creation();
   Unloading();
+  AnotherCopy();
 }
