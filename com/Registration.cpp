@@ -5,10 +5,12 @@
 #include <array>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <vector>
 
 #include "com/Module.h"
+#include "com/RegistryChanges.h"
 #include "com/TypeLibrary.h"
 #include "folivar/base/Error.h"
 
@@ -28,11 +30,8 @@ struct KeyCloser {
 };
 using Key = std::unique_ptr<HKEY, KeyCloser>;
 
-void RaiseIfFailed(LSTATUS status) {
-  if (status != ERROR_SUCCESS) {
-    throw Error(HRESULT_FROM_WIN32(static_cast<unsigned long>(status)),
-                "The registry cannot be changed");
-  }
+void RaiseIfUnread(HRESULT result) {
+  if (FAILED(result)) throw Error(result, "The type library cannot be read");
 }
 
 std::wstring TextOf(const GUID& id) {
@@ -42,26 +41,18 @@ std::wstring TextOf(const GUID& id) {
 }
 
 // The classes of the machine or of the user.
+HKEY RootOf(RegistrationScope scope) {
+  return scope == RegistrationScope::kUser ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE;
+}
+std::wstring Full(const std::wstring& path) { return L"Software\\Classes\\" + path; }
+
 class Classes {
  public:
-  explicit Classes(RegistrationScope scope)
-      : root_(scope == RegistrationScope::kUser ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE) {}
-
-  // A value of a key, which is made if need be; null for the key's default value.
-  void Set(const std::wstring& path, const wchar_t* name, const std::wstring& value) const {
-    HKEY opened = nullptr;
-    RaiseIfFailed(RegCreateKeyExW(root_, Full(path).c_str(), 0, nullptr, 0, KEY_WRITE, nullptr,
-                                  &opened, nullptr));
-    const Key key(opened);
-    RaiseIfFailed(RegSetValueExW(opened, name, 0, REG_SZ,
-                                 reinterpret_cast<const BYTE*>(value.c_str()),
-                                 static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t))));
-  }
-  void Set(const std::wstring& path, const std::wstring& value) const { Set(path, nullptr, value); }
+  explicit Classes(HKEY root) : root_(root) {}
 
   void Remove(const std::wstring& path) const {
     const LSTATUS status = RegDeleteTreeW(root_, Full(path).c_str());
-    if (status != ERROR_FILE_NOT_FOUND) RaiseIfFailed(status);
+    if (status != ERROR_FILE_NOT_FOUND) RaiseIfUnchanged(status);
   }
 
   // Whether there are keys below this one.
@@ -77,9 +68,16 @@ class Classes {
   // Whether the key is there for programs of the other word size.
   bool IsInOtherView(const std::wstring& path) const { return Open(path, kOtherView) != nullptr; }
 
- private:
-  static std::wstring Full(const std::wstring& path) { return L"Software\\Classes\\" + path; }
+  // Whether another version of the component has put itself down in this value.
+  bool IsOfOtherVersion(const std::wstring& path, const wchar_t* name) const {
+    std::array<wchar_t, 16> version{};
+    DWORD size = sizeof version;
+    const LSTATUS status = RegGetValueW(root_, Full(path).c_str(), name, RRF_RT_REG_SZ, nullptr,
+                                        version.data(), &size);
+    return status == ERROR_SUCCESS && std::wstring_view(version.data()) != kVersion;
+  }
 
+ private:
   Key Open(const std::wstring& path, REGSAM view) const {
     HKEY opened = nullptr;
     const LSTATUS status = RegOpenKeyExW(root_, Full(path).c_str(), 0, KEY_READ | view, &opened);
@@ -102,68 +100,78 @@ std::vector<InterfaceName> Interfaces() {
   for (UINT i = 0; i < library->GetTypeInfoCount(); ++i) {
     Microsoft::WRL::ComPtr<ITypeInfo> info;
     TYPEATTR* attributes = nullptr;
-    if (FAILED(library->GetTypeInfo(i, &info)) || FAILED(info->GetTypeAttr(&attributes))) continue;
+    RaiseIfUnread(library->GetTypeInfo(i, &info));
+    RaiseIfUnread(info->GetTypeAttr(&attributes));
     const auto release = [&](TYPEATTR* read) { info->ReleaseTypeAttr(read); };
     const std::unique_ptr<TYPEATTR, decltype(release)> read(attributes, release);
+    if ((read->wTypeFlags & TYPEFLAG_FDUAL) == 0) continue;
     BSTR name = nullptr;
-    if ((read->wTypeFlags & TYPEFLAG_FDUAL) != 0 &&
-        SUCCEEDED(
-            library->GetDocumentation(static_cast<int>(i), &name, nullptr, nullptr, nullptr))) {
-      interfaces.push_back({TextOf(read->guid), std::wstring(name, SysStringLen(name))});
-      SysFreeString(name);
-    }
+    RaiseIfUnread(info->GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr));
+    const std::unique_ptr<OLECHAR, decltype(&SysFreeString)> kept(name, &SysFreeString);
+    interfaces.push_back({TextOf(read->guid), std::wstring(name, SysStringLen(name))});
   }
   return interfaces;
 }
 
 std::wstring ClassPath() { return L"CLSID\\" + TextOf(__uuidof(::PDFDocument)); }
 std::wstring LibraryPath() { return L"TypeLib\\" + TextOf(LIBID_Folivar); }
+std::wstring VersionPath() { return LibraryPath() + L"\\" + kVersion; }
 
 }  // namespace
 
 void Registration::Register(RegistrationScope scope) {
-  const Classes classes(scope);
+  const std::vector<InterfaceName> interfaces = Interfaces();
   const std::wstring file = Module::Path();
   const std::wstring library = TextOf(LIBID_Folivar);
   const std::wstring description = L"Folivar 1.0: PDF documents";
 
-  classes.Set(ClassPath(), L"PDFDocument");
-  classes.Set(ClassPath() + L"\\InprocServer32", file);
-  classes.Set(ClassPath() + L"\\InprocServer32", L"ThreadingModel", L"Apartment");
-  classes.Set(ClassPath() + L"\\ProgID", kProgId);
-  classes.Set(ClassPath() + L"\\Programmable", L"");
-  classes.Set(ClassPath() + L"\\TypeLib", library);
-  classes.Set(ClassPath() + L"\\Version", kVersion);
+  RegistryChanges changes(RootOf(scope));
+  const auto set = [&](const std::wstring& path, const std::wstring& value,
+                       const wchar_t* name = nullptr) { changes.Set(Full(path), name, value); };
 
-  classes.Set(kProgId, L"PDFDocument");
-  classes.Set(std::wstring(kProgId) + L"\\CLSID", TextOf(__uuidof(::PDFDocument)));
+  set(ClassPath(), L"PDFDocument");
+  set(ClassPath() + L"\\InprocServer32", file);
+  set(ClassPath() + L"\\InprocServer32", L"Apartment", L"ThreadingModel");
+  set(ClassPath() + L"\\ProgID", kProgId);
+  set(ClassPath() + L"\\Programmable", L"");
+  set(ClassPath() + L"\\TypeLib", library);
+  set(ClassPath() + L"\\Version", kVersion);
 
-  const std::wstring version = LibraryPath() + L"\\" + kVersion;
-  classes.Set(version, description);
-  classes.Set(version + L"\\0\\" + kPlatform, file);
-  classes.Set(version + L"\\FLAGS", L"0");
-  classes.Set(version + L"\\HELPDIR", file.substr(0, file.find_last_of(L'\\')));
+  set(kProgId, L"PDFDocument");
+  set(std::wstring(kProgId) + L"\\CLSID", TextOf(__uuidof(::PDFDocument)));
 
-  for (const InterfaceName& each : Interfaces()) {
+  set(VersionPath(), description);
+  set(VersionPath() + L"\\0\\" + kPlatform, file);
+  set(VersionPath() + L"\\FLAGS", L"0");
+  set(VersionPath() + L"\\HELPDIR", file.substr(0, file.find_last_of(L'\\')));
+
+  for (const InterfaceName& each : interfaces) {
     const std::wstring path = L"Interface\\" + each.id;
-    classes.Set(path, each.name);
-    classes.Set(path + L"\\ProxyStubClsid32", kAutomationMarshaler);
-    classes.Set(path + L"\\TypeLib", library);
-    classes.Set(path + L"\\TypeLib", L"Version", kVersion);
+    set(path, each.name);
+    set(path + L"\\ProxyStubClsid32", kAutomationMarshaler);
+    set(path + L"\\TypeLib", library);
+    set(path + L"\\TypeLib", kVersion, L"Version");
   }
+  changes.Keep();
 }
 
 // Classes and interfaces are kept for each word size apart, the program identifier and the type
 // library once for both.
 void Registration::Unregister(RegistrationScope scope) {
-  const Classes classes(scope);
-  for (const InterfaceName& each : Interfaces()) classes.Remove(L"Interface\\" + each.id);
-  classes.Remove(ClassPath());
-  if (!classes.IsInOtherView(ClassPath())) classes.Remove(kProgId);
+  const Classes classes(RootOf(scope));
+  for (const InterfaceName& each : Interfaces()) {
+    const std::wstring path = L"Interface\\" + each.id;
+    if (!classes.IsOfOtherVersion(path + L"\\TypeLib", L"Version")) classes.Remove(path);
+  }
+  if (!classes.IsOfOtherVersion(ClassPath() + L"\\Version", nullptr)) {
+    classes.Remove(ClassPath());
+    if (!classes.IsInOtherView(ClassPath())) classes.Remove(kProgId);
+  }
 
-  const std::wstring platforms = LibraryPath() + L"\\" + kVersion + L"\\0";
+  const std::wstring platforms = VersionPath() + L"\\0";
   classes.Remove(platforms + L"\\" + kPlatform);
-  if (!classes.HasKeys(platforms)) classes.Remove(LibraryPath());
+  if (!classes.HasKeys(platforms)) classes.Remove(VersionPath());
+  if (!classes.HasKeys(LibraryPath())) classes.Remove(LibraryPath());
 }
 
 }  // namespace folivar::com

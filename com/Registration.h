@@ -10,9 +10,10 @@ enum class RegistrationScope { kMachine, kUser };
 
 class Registration {
  public:
-  // Raise what the registry fails with.
+  // Raise what the registry fails with. A registration that fails leaves everything as it was.
   static void Register(RegistrationScope scope);
-  // Leaves no key. What is not there is no failure. The other word size's registration stays whole.
+  // Leaves no key. What is not there is no failure. The registrations of the other word size and of
+  // other versions stay whole.
   static void Unregister(RegistrationScope scope);
 };
 
