@@ -14,6 +14,11 @@
 
 namespace folivar::com {
 
+// What a client has been given and does not get after all.
+inline void TakeBack(VARIANT& element) { VariantClear(&element); }
+inline void TakeBack(IConnectionPoint*& element) { std::exchange(element, nullptr)->Release(); }
+inline void TakeBack(CONNECTDATA& element) { std::exchange(element.pUnk, nullptr)->Release(); }
+
 // Walks over items as they were when the walk began, so that a loop may add and remove. `Give` is a
 // function that puts an item into a client's Element.
 template <class Interface, class Element, class Item, class Give>
@@ -50,12 +55,16 @@ class Enumerator final : public Interface {
     if (results == nullptr || (fetched == nullptr && wanted != 1)) return E_POINTER;
     ULONG given = 0;
     const HRESULT failure = Guarded(__uuidof(Interface), [&] {
-      for (; given < wanted && next_ < items_->size(); ++given, ++next_) {
-        give_((*items_)[next_], results[given]);
+      for (; given < wanted && next_ + given < items_->size(); ++given) {
+        give_((*items_)[next_ + given], results[given]);
       }
     });
+    if (FAILED(failure)) {
+      while (given > 0) TakeBack(results[--given]);
+      return failure;
+    }
+    next_ += given;
     if (fetched != nullptr) *fetched = given;
-    if (FAILED(failure)) return failure;
     return given == wanted ? S_OK : S_FALSE;
   }
   STDMETHODIMP Skip(ULONG count) override {

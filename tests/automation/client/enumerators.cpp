@@ -1,6 +1,9 @@
 // Walks over collections.
 
+#include <cstdlib>
+
 #include "Client.h"
+#include "Import.h"
 
 namespace {
 
@@ -86,6 +89,61 @@ void KeepsWhatItWalksOver() {
   CHECK(count == 3);
 }
 
+// The calls for memory are counted down; the one that reaches 0 fails.
+int callsLeft = 0;
+decltype(&std::malloc) allocate = nullptr;
+
+void* Allocate(std::size_t size) { return --callsLeft == 0 ? nullptr : allocate(size); }
+
+// Fails each call for memory of the component in turn, until `action` does all its work without.
+template <class Action>
+void FailEveryAllocation(const Action& action) {
+  const Import import(GetModuleHandleW(L"Folivar.dll"), "malloc",
+                      reinterpret_cast<void*>(&Allocate));
+  CHECK(import.IsThere());
+  allocate = import.Original<decltype(std::malloc)>();
+  for (int failing = 1;; ++failing) {
+    callsLeft = failing;
+    action();
+    if (callsLeft > 0) return;
+  }
+}
+
+// Pages get what clients hold of them when they are first given away; here by the walk, because
+// there was no memory for it when they were made.
+void GivesAllOrNoneWithoutMemory() {
+  const auto document = NewDocument();
+  const auto pages = PagesOf(document);
+  AddPage(document);
+  FailEveryAllocation([&] {
+    ComPtr<_PDFPage> page;
+    pages->Add(nullptr, Variant::Missing(), Variant::Missing(), &page);
+  });
+  LONG count = 0;
+  CHECK_OK(pages->get_count(&count));
+  CHECK(count > 2);
+
+  const auto walk = WalkOver(pages);
+  int failures = 0;
+  FailEveryAllocation([&] {
+    VARIANT several[3] = {};
+    ULONG fetched = 77;
+    const HRESULT result = walk->Next(3, several, &fetched);
+    if (FAILED(result)) {
+      ++failures;
+      CHECK(result == Number(7) && fetched == 0);
+      for (const VARIANT& one : several) CHECK(one.vt == VT_EMPTY);
+    } else {
+      CHECK(result == S_OK && fetched == 3);
+      ComPtr<_PDFPage> first;
+      CHECK_OK(pages->get_Item(Variant(1), &first));
+      CHECK(several[0].pdispVal == static_cast<IDispatch*>(first.Get()));
+    }
+    for (VARIANT& one : several) VariantClear(&one);
+  });
+  CHECK(failures > 0);
+}
+
 void OfNothing() { CHECK(NextKey(WalkOver(PagesOf(NewDocument()))) == L"-"); }
 
 }  // namespace
@@ -94,5 +152,6 @@ void Test() {
   NextSkipResetAndClone();
   SeesThePagesAsTheyWere();
   KeepsWhatItWalksOver();
+  GivesAllOrNoneWithoutMemory();
   OfNothing();
 }
