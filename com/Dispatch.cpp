@@ -1,7 +1,9 @@
 #include "com/Dispatch.h"
 
 #include <cstddef>
+#include <cstring>
 #include <deque>
+#include <utility>
 #include <vector>
 
 #include "com/Guard.h"
@@ -33,8 +35,54 @@ bool IsGiven(const VARIANT& argument) {
   return argument.vt != VT_ERROR || argument.scode != DISP_E_PARAMNOTFOUND;
 }
 
-// Numbers in place of the script's variables, for as long as the call lasts. Anything else that is
-// no reference (a literal, an expression) gets a number of its own too, whose new value is lost.
+// The reference that an argument is, also when it stands in a variable; null when it is none.
+const VARIANT* ReferenceIn(const VARIANT& argument) {
+  if ((argument.vt & VT_BYREF) == 0) return nullptr;
+  if (argument.vt != (VT_BYREF | VT_VARIANT)) return &argument;
+  const VARIANT* inner = ReferenceIn(*argument.pvarVal);
+  return inner == nullptr ? &argument : inner;
+}
+
+// Of a value that is kept in a VARIANT behind its type.
+std::size_t SizeOf(VARTYPE type) {
+  switch (type) {
+    case VT_I1:
+    case VT_UI1:
+      return 1;
+    case VT_I2:
+    case VT_UI2:
+    case VT_BOOL:
+      return 2;
+    case VT_I4:
+    case VT_UI4:
+    case VT_INT:
+    case VT_UINT:
+    case VT_R4:
+      return 4;
+    default:
+      return 8;
+  }
+}
+
+// Moves a value to where a reference to its type, or to a variable, leads.
+void Store(VARIANT& value, const VARIANT& reference) {
+  if (reference.vt == (VT_BYREF | VT_VARIANT)) {
+    VariantClear(reference.pvarVal);
+    *reference.pvarVal = value;
+  } else if (value.vt == VT_DECIMAL) {
+    *reference.pdecVal = value.decVal;
+    reference.pdecVal->wReserved = 0;
+  } else if (value.vt == VT_BSTR) {
+    SysFreeString(std::exchange(*reference.pbstrVal, value.bstrVal));
+  } else {
+    std::memcpy(reference.byref, &value.byref, SizeOf(value.vt));
+  }
+  VariantInit(&value);
+}
+
+// Numbers of the member's type in place of the client's variables, for as long as the call lasts.
+// Anything else that is no reference (a literal, an expression) gets a number of its own too, whose
+// new value is lost.
 class References {
  public:
   References(const MemberType& member, const DISPPARAMS& arguments)
@@ -55,14 +103,24 @@ class References {
 
   DISPPARAMS* Arguments() { return &changed_; }
 
-  void GiveBack() {
+  // Converts the numbers to the types of the client's variables, and sets all of these or none.
+  HRESULT GiveBack(UINT* badArgument) {
     for (Replaced& replaced : numbers_) {
-      const VARIANT& given = given_.rgvarg[replaced.place];
-      if (given.vt == (VT_BYREF | VT_VARIANT)) {
-        VariantClear(given.pvarVal);
-        *given.pvarVal = *replaced.number;
+      const VARIANT* reference = ReferenceIn(given_.rgvarg[replaced.place]);
+      if (reference == nullptr || reference->vt == (VT_BYREF | VT_VARIANT)) continue;
+      VARIANT* number = replaced.number.Get();
+      const auto type = static_cast<VARTYPE>(reference->vt & ~VT_BYREF);
+      const HRESULT failure = VariantChangeType(number, number, 0, type);
+      if (FAILED(failure)) {
+        if (badArgument != nullptr) *badArgument = static_cast<UINT>(replaced.place);
+        return failure;
       }
     }
+    for (Replaced& replaced : numbers_) {
+      const VARIANT* reference = ReferenceIn(given_.rgvarg[replaced.place]);
+      if (reference != nullptr) Store(*replaced.number.Get(), *reference);
+    }
+    return S_OK;
   }
 
  private:
@@ -73,8 +131,7 @@ class References {
 
   void Replace(std::size_t place, VARTYPE type) {
     VARIANT& argument = passed_[place];
-    const bool isReference = (argument.vt & VT_BYREF) != 0;
-    if ((isReference && argument.vt != (VT_BYREF | VT_VARIANT)) || !IsGiven(argument)) return;
+    if (argument.vt == (VT_BYREF | type) || !IsGiven(argument)) return;
     Replaced& replaced = numbers_.emplace_back();
     replaced.place = place;
     VARIANT& number = *replaced.number.Get();
@@ -154,7 +211,7 @@ HRESULT Dispatch::Invoke(const IID& interfaceId, void* object, DISPID id, const 
     } else if (member != nullptr && member->HasReferences()) {
       References references(*member, *arguments);
       answer = call.With(references.Arguments());
-      if (SUCCEEDED(answer)) references.GiveBack();
+      if (SUCCEEDED(answer)) answer = references.GiveBack(badArgument);
     } else {
       answer = call.With(arguments);
     }

@@ -15,7 +15,8 @@ class Dispatch {
                                UINT count, DISPID* ids) noexcept;
 
   // ITypeInfo::Invoke, and what that leaves out:
-  // - A variable of a script is taken where the member wants a reference to a number, and set.
+  // - A variable of any type, or of none, is taken where the member wants a reference to a number;
+  //   the result is converted to its type as the system converts.
   // - Arguments beyond those of the member are refused; but those of one that has none and gives an
   //   object go to the object's default member: doc.Pages(1) is doc.Pages.Item(1).
   // - An object of the wrong kind is a type mismatch on every system.

@@ -22,10 +22,10 @@ Variant Variant::Missing() {
   return missing;
 }
 
-Variant Variant::To(float& number) {
+Variant Variant::To(VARTYPE type, void* variable) {
   Variant reference;
-  reference.held_.vt = VT_BYREF | VT_R4;
-  reference.held_.pfltVal = &number;
+  reference.held_.vt = static_cast<VARTYPE>(VT_BYREF | type);
+  reference.held_.byref = variable;
   return reference;
 }
 

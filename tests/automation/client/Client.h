@@ -86,8 +86,9 @@ class Variant {
 
   // An argument that is left out.
   static Variant Missing();
-  // A reference to a number.
-  static Variant To(float& number);
+  // A reference to a number, or to anything else of this type.
+  static Variant To(float& number) { return To(VT_R4, &number); }
+  static Variant To(VARTYPE type, void* variable);
   // A reference to a variable.
   static Variant To(Variant& variable);
 

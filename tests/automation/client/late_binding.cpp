@@ -70,6 +70,56 @@ void ReferencesToNumbersAndToVariables() {
         getCurPos({Variant::To(x)}) == DISP_E_PARAMNOTOPTIONAL);
 }
 
+// Dim x As Double: page.GetCurPos x, y
+void ReferencesToOtherTypes() {
+  const auto page = AddPage(NewDocument());
+  CHECK_OK(page->SetCurPos(2.5F, 300.5F));
+  const LateCall getCurPos{page.Get(), L"GetCurPos", DISPATCH_METHOD};
+  double x = 0;
+  DATE date = 0;
+  CHECK_OK(getCurPos({Variant::To(VT_R8, &x), Variant::To(VT_DATE, &date)}));
+  CHECK(x == 2.5 && date == 300.5);
+  // Halves go to the even number.
+  short integer = 0;
+  LONG whole = 0;
+  CHECK_OK(getCurPos({Variant::To(VT_I2, &integer), Variant::To(VT_I4, &whole)}));
+  CHECK(integer == 2 && whole == 300);
+  unsigned long long wide[] = {7, 7};
+  BYTE byte[] = {7, 7};
+  CHECK_OK(getCurPos({Variant::To(VT_UI1, byte), Variant::To(VT_UI8, wide)}));
+  CHECK(byte[0] == 2 && byte[1] == 7 && wide[0] == 300 && wide[1] == 7);
+  VARIANT_BOOL flag[] = {VARIANT_FALSE, VARIANT_FALSE};
+  CY currency{};
+  CHECK_OK(getCurPos({Variant::To(VT_BOOL, flag), Variant::To(VT_CY, &currency)}));
+  CHECK(flag[0] == VARIANT_TRUE && flag[1] == VARIANT_FALSE && currency.int64 == 3005000);
+  DECIMAL decimal{};
+  BSTR text = SysAllocString(L"something longer");
+  CHECK_OK(getCurPos({Variant::To(VT_BSTR, &text), Variant::To(VT_DECIMAL, &decimal)}));
+  double fromDecimal = 0;
+  CHECK_OK(VarR8FromDec(&decimal, &fromDecimal));
+  CHECK(fromDecimal == 300.5 && decimal.wReserved == 0);
+  CHECK(std::wstring(text, SysStringLen(text)) == L"2.5");
+  SysFreeString(text);
+
+  // In a variable.
+  double inner = 0;
+  Variant holder = Variant::To(VT_R8, &inner);
+  Variant empty;
+  CHECK_OK(getCurPos({Variant::To(holder), Variant::To(empty)}));
+  CHECK(inner == 2.5 && holder->vt == (VT_BYREF | VT_R8));
+  CHECK(empty->vt == VT_R4 && empty->fltVal == 300.5F);
+
+  // What cannot be converted leaves all variables as they were.
+  x = 7;
+  byte[0] = 7;
+  CHECK(getCurPos({Variant::To(VT_R8, &x), Variant::To(VT_UI1, byte)}) == DISP_E_OVERFLOW);
+  CHECK(x == 7 && byte[0] == 7);
+  IDispatch* object = page.Get();
+  CHECK(getCurPos({Variant::To(VT_R8, &x), Variant::To(VT_DISPATCH, &object)}) ==
+        DISP_E_TYPEMISMATCH);
+  CHECK(x == 7 && object == page.Get());
+}
+
 // A value is let and an object is set; a Let of an object keeps it too.
 void KindsOfProperties() {
   const auto document = NewDocument();
@@ -170,6 +220,7 @@ void Test() {
   Names();
   NamedArguments();
   ReferencesToNumbersAndToVariables();
+  ReferencesToOtherTypes();
   KindsOfProperties();
   DefaultMembersAndWalks();
   Arguments();
