@@ -22,7 +22,9 @@ concept WholeNumber = std::integral<T> && !std::same_as<T, bool> && !std::same_a
                       !std::same_as<T, char16_t> && !std::same_as<T, char32_t>;
 
 // A value of any kind, as automation hosts pass them: a position or a key, an optional argument, a
-// tag. Value() is Missing, an argument that was left out.
+// tag. Value() is Missing, an argument that was left out. A value is what it is: where a number is
+// wanted, true is none, and neither is "12". (On the automation interface the system converts them
+// before they come here, to -1 and 12.)
 class FOLIVAR_API Value {
  public:
   Value() = default;
