@@ -1,4 +1,3 @@
-Const fontType1 = 0, fontTrueType = 1
 Dim font, names
 Say "count", doc.Fonts.count(fontType1) & " " & doc.Fonts.count(fontTrueType)
 Set font = doc.Fonts.Add("Courier")

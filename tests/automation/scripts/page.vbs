@@ -1,5 +1,4 @@
 ' The page of tests/golden/drawing.pdf.
-Const htaLeft = 0, htaRight = 1, htaCenter = 2, vtaTop = 1, vtaBottom = 2, vtaCenter = 3
 Dim page, state, title, body
 doc.ViewerPreferences.PageLayout = 1
 doc.ViewerPreferences.PageMode = 1

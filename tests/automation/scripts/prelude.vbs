@@ -1,4 +1,4 @@
-' Stands before every script.
+' Stands before every script, and before the constants.
 Option Explicit
 
 ' What the one line under On Error Resume Next ended with. Errors of the script's own host have other

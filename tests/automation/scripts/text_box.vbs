@@ -1,4 +1,3 @@
-Const alignNULL = 0, alignLeft = 1, alignCenter = 3
 Dim page, box, other
 Set page = doc.Pages.Add
 Set box = page.TextBoxes.Add("box")

@@ -1,4 +1,3 @@
-Const pmsUseNone = 1, pmsFullScreen = 4, plsTwoColumnRight = 4
 Dim preferences
 Set preferences = doc.ViewerPreferences
 Say "PageLayout", preferences.PageLayout
