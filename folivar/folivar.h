@@ -10,6 +10,10 @@
 // Lengths and coordinates are points (1/72 inch) from the bottom left corner of the page.
 // Failures are thrown as folivar::Error. Objects are used by one thread at a time; documents on
 // different threads do not disturb each other.
+//
+// On Windows: windows.h makes DrawText a macro, which these headers take away again. Where
+// windows.h comes after them, "#undef DrawText" does; its own functions are DrawTextA and
+// DrawTextW.
 
 #if __cplusplus > 201703L || (defined(_MSVC_LANG) && _MSVC_LANG > 201703L)
 

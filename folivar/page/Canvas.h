@@ -12,6 +12,9 @@
 #include "folivar/drawing/Paint.h"
 #include "folivar/drawing/Point.h"
 
+// A macro of windows.h for its own DrawTextA, under which programs would look for the member.
+#undef DrawText
+
 namespace folivar {
 
 class Internal;
