@@ -49,7 +49,9 @@ TEST(Error, ItsTextGoesOnBehindANul) {
   using std::string_literals::operator""s;
   EXPECT_STREQ(Error::InvalidArgument("key 'a\0b\0' is in use"s).what(),
                "key 'a\\0b\\0' is in use");
-  EXPECT_STREQ(Error::UnknownImageType("\0.gif"s).what(), "\\0.gif");
+  const Error error = Error::UnknownImageType("\0.gif"s, "a\0b"s);
+  EXPECT_STREQ(error.what(), "\\0.gif (a\\0b)");
+  EXPECT_STREQ(error.Description(), "\\0.gif");
   EXPECT_STREQ(Error::DiskFull("no room").WithObject("file '\0'"s).what(), "file '\\0': no room");
 }
 
