@@ -1,6 +1,7 @@
 #include "folivar/file/FileSink.h"
 
 #include <cerrno>
+#include <cstddef>
 #include <cstdio>
 
 #include "folivar/file/WriteSignals.h"
@@ -14,10 +15,12 @@ FileSink::FileSink(TextView fileName) {
 }
 
 void FileSink::Write(std::string_view bytes) {
-  const WriteSignals held;
-  if (std::fwrite(bytes.data(), 1, bytes.size(), file_.get()) != bytes.size()) {
-    throw FileError(FileAction::kWrite, name_, errno);
+  std::size_t written = 0;
+  {
+    const WriteSignals held;
+    written = std::fwrite(bytes.data(), 1, bytes.size(), file_.get());
   }
+  if (written != bytes.size()) throw FileError(FileAction::kWrite, name_, errno);
 }
 
 void FileSink::Close() {
