@@ -1,7 +1,5 @@
 #include "folivar/base/Text.h"
 
-#include <ostream>
-
 #include "folivar/base/Utf8.h"
 
 namespace folivar {
@@ -11,7 +9,5 @@ Text::Text(TextView text)
                                               : Utf16FromUtf8(text.Utf8())) {}
 
 std::string Text::Utf8() const { return Utf8FromUtf16(units_); }
-
-std::ostream& operator<<(std::ostream& stream, const Text& text) { return stream << text.Utf8(); }
 
 }  // namespace folivar

@@ -106,8 +106,13 @@ class FOLIVAR_API Text {
   friend bool operator==(const Text&, const Text&) = default;
   friend bool operator==(const Text& a, TextView b) { return a == Text(b); }
 
-  // Writes it in UTF-8.
-  friend FOLIVAR_API std::ostream& operator<<(std::ostream& stream, const Text& text);
+  // Writes it in UTF-8. A template, because streams would make the automation component half as
+  // large again.
+  template <class Traits>
+  friend std::basic_ostream<char, Traits>& operator<<(std::basic_ostream<char, Traits>& stream,
+                                                      const Text& text) {
+    return stream << text.Utf8();
+  }
 
   // For the library
 

@@ -14,6 +14,7 @@
 #include "folivar/base/Text.h"
 #include "folivar/base/Value.h"
 #include "folivar/drawing/AspectRatio.h"
+#include "folivar/drawing/Color.h"
 #include "folivar/drawing/Paint.h"
 #include "folivar/fonts/Embedding.h"
 
