@@ -62,8 +62,7 @@ void PDFDocument::SavePDFFile(TextView fileName) {
 
 // Opening one for writing would empty it.
 void PDFDocument::RefuseFilesOfItsOwn(const Text& target) const {
-  const std::vector<Text> fontFiles = fonts_->FileNames(Internal());
-  if (fontFiles.empty() && images_->count() == 0) return;
+  if (images_->count() == 0 && !fonts_->ReadsFiles(Internal())) return;
   CheckFileName(target);
   const std::optional<FileId> targetId = FileIdOf(target);
   if (!targetId) return;
@@ -73,7 +72,7 @@ void PDFDocument::RefuseFilesOfItsOwn(const Text& target) const {
         .WithObject(FileNamed(target.Utf8()));
   };
   for (const auto& image : *images_) refuse(image->FileName());
-  for (const Text& fontFile : fontFiles) refuse(fontFile);
+  for (const Text& fontFile : fonts_->FileNames(Internal())) refuse(fontFile);
 }
 
 void PDFDocument::Save(TextView fileName) {

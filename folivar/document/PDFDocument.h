@@ -39,7 +39,8 @@ class FOLIVAR_API PDFDocument final : public Tagged {
   // Raises 52 for a bad name, 61 for a full disk, 70, 75 or 76 for a file or folder that cannot be
   // written, 6 for a number that PDF cannot hold, and what PDFImage::FileName says; the file is
   // closed then, and may be left partly written. Raises 70 before anything is touched for a file
-  // that the document reads, under whatever name: a picture's or a TrueType face's.
+  // that the document reads, under whatever name: a picture's, one of FontFiles(), or that of an
+  // installed TrueType face, where the system tells it (Windows does not).
   void SavePDFFile(TextView fileName);
 
   std::shared_ptr<PDFPages> Pages() const { return pages_; }

@@ -118,11 +118,16 @@ std::vector<Text> FontFiles::AddFolder(TextView folderName) {
 void FontFiles::Add(const Text& name) {
   std::vector<FontFileFace> faces = FacesInFile(name);
   if (faces.empty()) RaiseWithoutOutlines(name);
+  if (std::all_of(faces.begin(), faces.end(),
+                  [](const FontFileFace& face) { return face.family.IsEmpty(); })) {
+    throw Error::InvalidFileFormat("has no name of its family that can be read")
+        .WithObject(FileNamed(name.Utf8()));
+  }
   std::set<FontFileFace> added;
   std::multimap<std::u16string, const FontFileFace*> families;
   const std::lock_guard lock(mutex_);
   for (FontFileFace& face : faces) {
-    if (faces_.contains(face)) continue;
+    if (face.family.IsEmpty() || faces_.contains(face)) continue;
     const FontFileFace& kept = *added.insert(std::move(face)).first;
     families.emplace(FoldCase(kept.family), &kept);
   }
@@ -144,6 +149,18 @@ const FontFileFace* FontFiles::NearestFace(const Text& name, bool isBold, bool i
         return nearer(*a.second, *b.second);
       });
   return nearest == last ? nullptr : nearest->second;
+}
+
+bool FontFiles::IsEmpty(const Internal&) {
+  const std::lock_guard lock(mutex_);
+  return faces_.empty();
+}
+
+std::vector<Text> FontFiles::FileNames(const Internal&) {
+  std::set<std::u16string> names;
+  const std::lock_guard lock(mutex_);
+  for (const FontFileFace& face : faces_) names.insert(face.fileName.Utf16());
+  return {names.begin(), names.end()};
 }
 
 std::vector<Text> FontFiles::FaceNames() {

@@ -14,6 +14,7 @@
 namespace folivar {
 
 struct FontFileFace;
+class Internal;
 
 // TrueType fonts from files that the host names, for systems that have no fonts installed or not
 // the right ones. They win over the system's: a family that is here is taken from here, in the
@@ -28,7 +29,8 @@ class FOLIVAR_API FontFiles final : public SystemFonts {
 
   // Adds the faces of a font file (.ttf), or of every font in a collection (.ttc). Raises 53 for a
   // file that is not there, 52, 70, 75 or 76 for one that cannot be read, and 321 for one that is
-  // damaged or has no TrueType outlines; the text says when it has PostScript's.
+  // damaged, has no TrueType outlines (the text says when it has PostScript's), or no name that can
+  // be read.
   void AddFile(TextView fileName);
 
   // Adds every file of the folder and of those below it whose name ends in ".ttf", ".ttc" or
@@ -41,6 +43,12 @@ class FOLIVAR_API FontFiles final : public SystemFonts {
   std::unique_ptr<SystemFace> SelectFace(const Text& name, bool isBold, bool isItalic) override;
 
   std::vector<Text> FaceNames() override;
+
+  // For the library
+
+  bool IsEmpty(const Internal&);
+  // Of the files that faces are here of, each once.
+  std::vector<Text> FileNames(const Internal&);
 
  private:
   void Add(const Text& name);

@@ -156,8 +156,12 @@ bool PDFFonts::MayBeEmbedded(const Text& faceName) const {
   }
 }
 
-std::vector<Text> PDFFonts::FileNames(const Internal&) const {
-  std::vector<Text> names;
+bool PDFFonts::ReadsFiles(const Internal& internal) const {
+  return trueType_->Count() > 0 || !fontFiles_->IsEmpty(internal);
+}
+
+std::vector<Text> PDFFonts::FileNames(const Internal& internal) const {
+  std::vector<Text> names = fontFiles_->FileNames(internal);
   trueType_->ForEach([&](const std::shared_ptr<const PDFFontInfo>& face) {
     if (!face->FileName().IsEmpty()) names.push_back(face->FileName());
   });
@@ -211,7 +215,7 @@ std::shared_ptr<PDFFont> PDFFonts::AddTrueTypeFace(const FaceWanted& wanted) {
   if (!selected) {
     throw Error::ActionNotSupported(
         "there is no TrueType font, neither among the document's font files nor " +
-        std::string(kWhereInstalled))
+        std::string(kWhereInstalled) + ": install one, or add its file to FontFiles")
         .WithObject("font '" + wanted.name.Utf8() + "'");
   }
   auto face = LoadTrueTypeMetrics(wanted, *selected, *warnings_);

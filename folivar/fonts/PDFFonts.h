@@ -75,7 +75,9 @@ class FOLIVAR_API PDFFonts final : public Object {
   void NumberObjects(const Internal&, ObjectNumbers& numbers);
   void WriteObjects(const Internal&, SaveFile& file);
 
-  // The files that the document's faces were read from, as far as they are known.
+  // Whether there may be some; asks nothing of the system.
+  bool ReadsFiles(const Internal&) const;
+  // The document's font files, and those that its faces were read from, as far as they are known.
   std::vector<Text> FileNames(const Internal&) const;
 
   // The record of a TrueType face's style, for a font that changes to it: the one that is there,

@@ -31,6 +31,7 @@ constexpr std::uint32_t kLargestNames = 3 * 0xFFFF;        // it counts in 16 bi
 constexpr std::uint32_t kLargestWidths = 4 * 0xFFFF;       // so does this
 constexpr std::uint32_t kLargestMap = 16 + 12 * 0x110000;  // a group for each of all characters
 constexpr std::uint32_t kLargestMapList = 4 + 8 * 0xFFFF;
+constexpr std::size_t kMostMapsTried = 16;
 
 // Without these tables, and as many bytes of them, nobody can draw the font. (No glyph needs to
 // have an outline.)
@@ -138,9 +139,9 @@ std::uint32_t GlyphInSubheaders(const Bytes& map, std::uint32_t character) {
   return (U16At(map, glyph) + U16At(map, kSubheader + 4)) & 0xFFFF;
 }
 
-// The start of a map tells whether it has a form that is read here, and characters.
+// The start of a map tells whether it has a form that is read here, and claims characters.
 constexpr std::uint32_t kStartOfMap = 16;
-bool HasCharacters(Bytes start) {
+bool ClaimsCharacters(Bytes start) {
   start.resize(kStartOfMap);
   switch (U16At(start, 0)) {
     case 0:
@@ -341,9 +342,7 @@ Text TrueTypeFontTables::FamilyName() const {
     name.resize(std::min(name.find(u'\0'), name.size()));
     bestRank = rank;
   }
-  if (name.find_first_not_of(u' ') == std::u16string::npos)
-    Refuse("its table 'name' has no name of the family");
-  return Text(name);
+  return name.find_first_not_of(u' ') == std::u16string::npos ? Text() : Text(name);
 }
 
 void TrueTypeFontTables::ReadTable(std::string_view tag, std::span<unsigned char> out) const {
@@ -406,11 +405,12 @@ std::array<std::int32_t, 256> TrueTypeFontTables::Widths() const {
 }
 
 std::uint32_t TrueTypeFontTables::GlyphOfCode(const CharacterMap& map, unsigned char code) const {
-  if (map.rank == kSymbolRank || os2_.HasSymbolCharacterSet()) {
+  if (map.rank == kSymbolRank || (os2_.HasSymbolCharacterSet() && map.rank > kSymbolRank)) {
     constexpr std::uint32_t kSymbols = 0xF000;
     const std::uint32_t glyph = GlyphOf(map.bytes, kSymbols + code);
     return glyph == 0 && map.rank == kSymbolRank ? GlyphOf(map.bytes, code) : glyph;
   }
+  if (os2_.HasSymbolCharacterSet()) return GlyphOf(map.bytes, code);
   const char16_t character = AnsiCharacter(static_cast<char>(code));
   if (map.rank == kMacintoshRank) {
     const auto macCode = MacRomanCode(character);
@@ -498,14 +498,25 @@ bool TrueTypeFontTables::HasSymbols() const {
 }
 
 // The best one of those that can be read.
+// The best one that gives a glyph to some code.
 TrueTypeFontTables::CharacterMap TrueTypeFontTables::FindCharacterMap() const {
-  for (const MapPlace& map : ListCharacterMaps()) {
+  std::size_t tried = 0;
+  for (const MapPlace& place : ListCharacterMaps()) {
     const Table& table = *Find("cmap");
-    if (!HasCharacters(Read(table, map.offset, kStartOfMap))) continue;
+    if (!ClaimsCharacters(Read(table, place.offset, kStartOfMap))) continue;
+    if (++tried > kMostMapsTried) break;
     // As far as the table goes, whatever length the map gives itself.
-    return {map.rank, Read(table, map.offset, kLargestMap)};
+    CharacterMap map{place.rank, Read(table, place.offset, kLargestMap)};
+    if (HasGlyphs(map)) return map;
   }
   return {};
+}
+
+bool TrueTypeFontTables::HasGlyphs(const CharacterMap& map) const {
+  for (int code = 0xFF; code >= 0; --code) {
+    if (GlyphOfCode(map, static_cast<unsigned char>(code)) != 0) return true;
+  }
+  return false;
 }
 
 // As the system does it: the scale and then 64ths of a unit are rounded, halves away from 0, before

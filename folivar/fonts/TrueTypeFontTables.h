@@ -35,7 +35,7 @@ class TrueTypeFontTables {
   std::uint64_t OwnSize() const;
 
   // The name of the family of at most four styles that the face belongs to; in English when the
-  // font has it. Raises 321 for a font without one.
+  // font has it. Empty when none of its names can be read; raises 321 for a damaged table.
   Text FamilyName() const;
 
   bool IsBold() const { return isBold_; }
@@ -94,6 +94,7 @@ class TrueTypeFontTables {
   std::vector<MapPlace> ListCharacterMaps() const;
   bool HasSymbols() const;
   CharacterMap FindCharacterMap() const;
+  bool HasGlyphs(const CharacterMap& map) const;
   // 0 for none.
   std::uint32_t GlyphOfCode(const CharacterMap& map, unsigned char code) const;
   std::int32_t InThousandths(std::int32_t units) const;

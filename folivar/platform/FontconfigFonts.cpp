@@ -311,6 +311,7 @@ class FontconfigFonts final : public SystemFonts {
         if (!std::cmp_equal(face.index, place.index)) continue;
         faces.push_back(face);
         faces.back().family = FamilyOf(face, place);
+        if (faces.back().family.IsEmpty()) faces.pop_back();
       }
     }
     return faces;

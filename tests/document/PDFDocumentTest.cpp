@@ -303,6 +303,14 @@ TEST(PDFDocument, AFontFileOfItsOwnIsNotOverwritten) {
   }
 }
 
+TEST(PDFDocument, AFontFileThatNoFaceWasTakenFromYetIsNotOverwritten) {
+  const auto file = OutputPath("unused.ttf");
+  WriteBytes(file, ReadBytes(PackagedFont("liberation/LiberationSans-Regular.ttf")));
+  const auto document = PDFDocument::Create();
+  document->FontFiles()->AddFile(file.u8string());
+  ExpectNotOverwritten(*document, file);
+}
+
 // What the target's own errors are does not depend on what the document reads.
 TEST(PDFDocument, ATargetThatCannotBeOpenedRaisesItsOwnErrorFirst) {
   const auto document = PDFDocument::Create();
@@ -318,7 +326,7 @@ TEST(PDFDocument, ATargetThatCannotBeOpenedRaisesItsOwnErrorFirst) {
   EXPECT_EQ(numberFor(picture.parent_path()), Error::kPathFileAccess);
   EXPECT_EQ(numberFor(picture.parent_path() / "missing" / "a.pdf"), Error::kPathNotFound);
   EXPECT_EQ(numberFor(picture), Error::kPermissionDenied);
-  EXPECT_EQ(numberFor(OutputPath("a.pdf")), Error::kObjectNotSet);
+  EXPECT_EQ(numberFor(OutputPath("unfinished")), Error::kObjectNotSet);
 }
 
 TEST(PDFDocument, FailedSaveLeavesTheDocumentUsable) {

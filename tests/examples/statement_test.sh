@@ -257,7 +257,7 @@ use_fonts_of "$PWD/empty"
 rm -f server.pdf none.pdf
 check "no fonts installed: an error that names the font" fails_with \
   "PDFFonts.Add: font 'Liberation Sans': there is no TrueType font, neither among the document's\
- font files nor installed where libfontconfig.so.1 finds it" \
+ font files nor installed where libfontconfig.so.1 finds it: install one, or add its file to FontFiles" \
   "$statement" --font "Liberation Sans" "$data" none.pdf
 check "no fonts installed: no PDF" test ! -e none.pdf
 check "font folder: runs without a warning" says "" \

@@ -256,6 +256,20 @@ TEST_F(FontFilesOfADocument, AFileWhoseNameIsNotUtf8IsLeftOutAndNamed) {
   EXPECT_NE(leftOut[0].Utf8().find("caf?.ttf"), std::string::npos);
 }
 
+TEST_F(FontFilesOfADocument, AFontWhoseNamesCannotBeReadIsRefusedAndHidesNoOther) {
+  FontBuilder old;
+  old.tables["name"] = NameTable({{.encoding = 2, .bytes = "Kanji"}});
+  const path alone = OutputPath("old.ttf");
+  WriteBytes(alone, old.Build());
+  EXPECT_EQ(ErrorTextOf([&] { files_->AddFile(alone.u8string()); }),
+            "FontFiles.AddFile: file '" + alone.string() +
+                "': has no name of its family that can be read");
+  const path collection = OutputPath("both.ttc");
+  WriteBytes(collection, BuildCollection({old, FontBuilder()}));
+  files_->AddFile(collection.u8string());
+  EXPECT_EQ(files_->FaceNames(), std::vector<Text>{Text("Test Sans")});
+}
+
 TEST_F(FontFilesOfADocument, AFamilyWhoseFileHasGoneIsNotListedAsEmbeddable) {
   const path file = OutputPath("gone.ttf");
   copy_file(Regular(), file);

@@ -227,7 +227,8 @@ TEST_F(TrueTypeFaces, ASystemWithoutFontsRaises445AndNamesTheFace) {
   EXPECT_EQ(ErrorNumberOf([&] { Add("Arial"); }), Error::kActionNotSupported);
   EXPECT_EQ(ErrorTextOf([&] { Add("Arial"); }),
             "PDFFonts.Add: font 'Arial': there is no TrueType font, neither among the document's "
-            "font files nor installed where libfontconfig.so.1 finds it");
+            "font files nor installed where libfontconfig.so.1 finds it: install one, or add its "
+            "file to FontFiles");
   EXPECT_EQ(fonts_->count(fontTrueType), 0);
   EXPECT_EQ(RecordOf(*fonts_->Add("Courier")).m_PDFName, "/F1");
 }
