@@ -24,8 +24,14 @@ constexpr std::size_t kPaletteEntry = 4;  // blue, green, red and a byte without
 constexpr std::size_t kLargestPalette = 256;
 
 [[noreturn]] void Refuse(const std::string& reason, const ImageFile& file) {
+  throw Error::UnknownImageType("Unknown BMP format", reason + ", in " + file.Name())
+      .WithObject(file.Name());
+}
+
+// Of what may be a sound bitmap that others can read.
+[[noreturn]] void RefuseKind(const std::string& kind, const ImageFile& file) {
   throw Error::UnknownImageType(
-      "Unknown BMP format", reason + ", in " + file.Name() + "; " + std::string(kReadablePictures))
+      "Unknown BMP format", kind + ", in " + file.Name() + "; " + std::string(kReadablePictures))
       .WithObject(file.Name());
 }
 
@@ -63,18 +69,19 @@ Headers ReadHeaders(ImageFile& file) {
 
 void CheckKind(const Headers& headers, const ImageFile& file) {
   if (headers.biSize != kInfoHeader) {
-    Refuse("an information header of " + std::to_string(headers.biSize) + " bytes", file);
+    RefuseKind("an information header of " + std::to_string(headers.biSize) + " bytes", file);
   }
   if (headers.biCompression != 0) {
-    Refuse("compression " + std::to_string(headers.biCompression), file);
+    RefuseKind("compression " + std::to_string(headers.biCompression), file);
   }
   const std::uint16_t bits = headers.biBitCount;
   if (bits != 1 && bits != 4 && bits != 8 && bits != 24) {
-    Refuse(std::to_string(bits) + " bits a pixel", file);
+    RefuseKind(std::to_string(bits) + " bits a pixel", file);
   }
   if (headers.biWidth <= 0 || headers.biHeight <= 0) {
-    Refuse(std::to_string(headers.biWidth) + " by " + std::to_string(headers.biHeight) + " pixels",
-           file);
+    RefuseKind(
+        std::to_string(headers.biWidth) + " by " + std::to_string(headers.biHeight) + " pixels",
+        file);
   }
 }
 

@@ -50,7 +50,12 @@ std::string ErrorFor(std::string_view bytes) {
 }
 
 std::string Refusal(std::string_view reason) {
-  return "-2147220504 Unknown BMP format (" + std::string(reason) +
+  return "-2147220504 Unknown BMP format (" + std::string(reason) + ", in file 'a.bmp')";
+}
+
+// Of a bitmap that others can read.
+std::string RefusalOfKind(std::string_view kind) {
+  return "-2147220504 Unknown BMP format (" + std::string(kind) +
          ", in file 'a.bmp'; JPEG and uncompressed BMP files can be read: convert it to one of "
          "them)";
 }
@@ -193,32 +198,36 @@ TEST(BMPInfo, FieldsWithoutUseMayHoldAnything) {
 
 TEST(BMPInfo, UnknownKindsAreRefused) {
   EXPECT_EQ(ErrorFor(BmpFile{.pixels = "....", .headerSize = 12}.Bytes()),
-            Refusal("an information header of 12 bytes"));
+            RefusalOfKind("an information header of 12 bytes"));
   for (const std::uint32_t size : {0U, 39U, 41U, 108U, 124U, 0x28000000U}) {
     EXPECT_TRUE(
         ErrorFor(BmpFile{.pixels = "....", .headerSize = size}.Bytes()).starts_with("-2147220504"));
   }
   for (const std::uint32_t compression : {1U, 2U, 3U, 4U, 5U, 0x10000U}) {
     EXPECT_EQ(ErrorFor(BmpFile{.pixels = "....", .compression = compression}.Bytes()),
-              Refusal("compression " + std::to_string(compression)));
+              RefusalOfKind("compression " + std::to_string(compression)));
   }
   BmpFile bmp{.palette = Palette(256, Grey), .pixels = "...."};
   for (std::uint16_t bits = 0; bits < 300; ++bits) {
     bmp.bits = bits;
     const bool isKnown = bits == 1 || bits == 4 || bits == 8 || bits == 24;
     EXPECT_EQ(ErrorFor(bmp.Bytes()),
-              isKnown ? "0 " : Refusal(std::to_string(bits) + " bits a pixel"));
+              isKnown ? "0 " : RefusalOfKind(std::to_string(bits) + " bits a pixel"));
   }
 }
 
 TEST(BMPInfo, SizesOf0AndBelowAreRefused) {
-  EXPECT_EQ(ErrorFor(BmpFile{.width = 0, .pixels = "...."}.Bytes()), Refusal("0 by 1 pixels"));
-  EXPECT_EQ(ErrorFor(BmpFile{.width = -1, .pixels = "...."}.Bytes()), Refusal("-1 by 1 pixels"));
-  EXPECT_EQ(ErrorFor(BmpFile{.height = 0, .pixels = "...."}.Bytes()), Refusal("1 by 0 pixels"));
+  EXPECT_EQ(ErrorFor(BmpFile{.width = 0, .pixels = "...."}.Bytes()),
+            RefusalOfKind("0 by 1 pixels"));
+  EXPECT_EQ(ErrorFor(BmpFile{.width = -1, .pixels = "...."}.Bytes()),
+            RefusalOfKind("-1 by 1 pixels"));
+  EXPECT_EQ(ErrorFor(BmpFile{.height = 0, .pixels = "...."}.Bytes()),
+            RefusalOfKind("1 by 0 pixels"));
   // Stored from the top down.
-  EXPECT_EQ(ErrorFor(BmpFile{.height = -1, .pixels = "...."}.Bytes()), Refusal("1 by -1 pixels"));
+  EXPECT_EQ(ErrorFor(BmpFile{.height = -1, .pixels = "...."}.Bytes()),
+            RefusalOfKind("1 by -1 pixels"));
   EXPECT_EQ(ErrorFor(BmpFile{.width = INT32_MIN, .height = INT32_MIN, .pixels = "...."}.Bytes()),
-            Refusal("-2147483648 by -2147483648 pixels"));
+            RefusalOfKind("-2147483648 by -2147483648 pixels"));
 }
 
 TEST(BMPInfo, SizesBeyond32BitsAreRefused) {
@@ -274,6 +283,19 @@ TEST(BMPInfo, FileCutShortIsRefused) {
         << size;
   }
   EXPECT_EQ(ErrorFor(whole.substr(0, 53)), Refusal("the headers are cut short"));
+}
+
+TEST(BMPInfo, ARefusalIsAboutTheFile) {
+  for (const BmpFile& bmp : {BmpFile{.bits = 2}, BmpFile{.width = 1, .height = 1, .pixels = ""}}) {
+    try {
+      BMPInfo reader;
+      Load(reader, bmp.Bytes());
+      FAIL() << "it was read";
+    } catch (const Error& error) {
+      EXPECT_EQ(error.Object(), "file 'a.bmp'");
+      EXPECT_STREQ(error.Description(), "Unknown BMP format");
+    }
+  }
 }
 
 // The rules as the plainest program that keeps them: pixel by pixel, bit by bit.
