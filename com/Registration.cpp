@@ -74,6 +74,7 @@ class Classes {
     DWORD size = sizeof version;
     const LSTATUS status = RegGetValueW(root_, Full(path).c_str(), name, RRF_RT_REG_SZ, nullptr,
                                         version.data(), &size);
+    if (status == ERROR_MORE_DATA) return true;  // ours is short
     return status == ERROR_SUCCESS && std::wstring_view(version.data()) != kVersion;
   }
 

@@ -36,7 +36,7 @@ struct FileStamp {
   std::uint64_t size;
   std::int64_t time;     // when it was last written, as programs may set it
   std::int64_t changed;  // the same as the system alone sets it; on Windows when it was made
-  FileId id{};           // not told on Windows, which would have to open the file
+  FileId id{};           // 0 each where the system does not tell
 
   friend auto operator<=>(const FileStamp&, const FileStamp&) = default;
 };

@@ -64,15 +64,8 @@ FileKind KindOf(std::FILE* file) {
 std::optional<FileStamp> StampOf(const Text& name) {
   struct stat file = {};
   if (stat(name.Utf8().c_str(), &file) != 0 || !S_ISREG(file.st_mode)) return std::nullopt;
-#ifdef __APPLE__
-  const timespec& written = file.st_mtimespec;
-  const timespec& changed = file.st_ctimespec;
-#else
-  const timespec& written = file.st_mtim;
-  const timespec& changed = file.st_ctim;
-#endif
-  return FileStamp{static_cast<std::uint64_t>(file.st_size), Nanoseconds(written),
-                   Nanoseconds(changed), IdOf(file)};
+  return FileStamp{static_cast<std::uint64_t>(file.st_size), Nanoseconds(file.st_mtim),
+                   Nanoseconds(file.st_ctim), IdOf(file)};
 }
 
 std::optional<FileId> FileIdOf(const Text& name) {

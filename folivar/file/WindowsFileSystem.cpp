@@ -47,18 +47,6 @@ FileKind KindOf(std::FILE* file) {
   return GetFileType(handle) == FILE_TYPE_DISK ? FileKind::kFile : FileKind::kOther;
 }
 
-std::optional<FileStamp> StampOf(const Text& name) {
-  WIN32_FILE_ATTRIBUTE_DATA data;
-  if (!GetFileAttributesExW(WideFrom(name).c_str(), GetFileExInfoStandard, &data)) {
-    return std::nullopt;
-  }
-  const auto time = [](const FILETIME& value) {
-    return static_cast<std::int64_t>(Joined(value.dwHighDateTime, value.dwLowDateTime));
-  };
-  return FileStamp{Joined(data.nFileSizeHigh, data.nFileSizeLow), time(data.ftLastWriteTime),
-                   time(data.ftCreationTime)};
-}
-
 // Opened without any right, so that it does not matter who else has the file open.
 std::optional<FileId> FileIdOf(const Text& name) {
   constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
@@ -70,6 +58,19 @@ std::optional<FileId> FileIdOf(const Text& name) {
   CloseHandle(file);
   if (!isTold) return std::nullopt;
   return FileId{told.dwVolumeSerialNumber, Joined(told.nFileIndexHigh, told.nFileIndexLow)};
+}
+
+std::optional<FileStamp> StampOf(const Text& name) {
+  WIN32_FILE_ATTRIBUTE_DATA data;
+  if (!GetFileAttributesExW(WideFrom(name).c_str(), GetFileExInfoStandard, &data)) {
+    return std::nullopt;
+  }
+  if ((data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return std::nullopt;
+  const auto time = [](const FILETIME& value) {
+    return static_cast<std::int64_t>(Joined(value.dwHighDateTime, value.dwLowDateTime));
+  };
+  return FileStamp{Joined(data.nFileSizeHigh, data.nFileSizeLow), time(data.ftLastWriteTime),
+                   time(data.ftCreationTime), FileIdOf(name).value_or(FileId{})};
 }
 
 Text AbsoluteName(const Text& name) {
