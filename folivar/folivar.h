@@ -15,7 +15,9 @@
 // windows.h comes after them, "#undef DrawText" does; its own functions are DrawTextA and
 // DrawTextW.
 
-#if __cplusplus > 201703L || (defined(_MSVC_LANG) && _MSVC_LANG > 201703L)
+#include "folivar/base/Api.h"
+
+#ifndef FOLIVAR_NEEDS_A_NEWER_STANDARD
 
 #include "folivar/base/Error.h"
 #include "folivar/base/Event.h"
@@ -46,6 +48,4 @@
 #include "folivar/textbox/PDFTextBox.h"
 #include "folivar/textbox/PDFTextBoxes.h"
 
-#else
-#error "Folivar is for C++20: compile with -std=c++20, or /std:c++20"
 #endif
