@@ -120,7 +120,7 @@ void RichText::SetSelText(TextView text) {
   std::u16string& units = text_.Units(Internal());
   const std::size_t size = units.size() - removed + inserted.Utf16().size();
   LengthOf(size);
-  // Nothing may fail any more once the runs are changed.
+  // The text must not fail any more once the runs are changed.
   if (size > units.capacity()) units.reserve(std::max(size, 2 * units.capacity()));
   ResizeSelectedRuns(length);
   units.replace(static_cast<std::size_t>(selStart_), removed, inserted.Utf16());
