@@ -1,5 +1,6 @@
 #include "folivar/fonts/FontPrograms.h"
 
+#include <cstddef>
 #include <map>
 #include <mutex>
 
@@ -19,7 +20,12 @@ class Programs {
     const std::lock_guard lock(mutex_);
     const auto found = programs_.find(identity);
     if (found != programs_.end()) return found->second;
-    std::erase_if(programs_, [](const auto& entry) { return IsGone(entry.second); });
+    // Those that are gone leave a little behind; looking for them is put off until they may be
+    // half.
+    if (programs_.size() >= enough_) {
+      std::erase_if(programs_, [](const auto& entry) { return IsGone(entry.second); });
+      enough_ = 2 * programs_.size() + 16;
+    }
     return programs_.try_emplace(identity, std::make_shared<Shared>()).first->second;
   }
 
@@ -33,6 +39,7 @@ class Programs {
 
   std::mutex mutex_;
   std::map<std::string, std::shared_ptr<Shared>> programs_;
+  std::size_t enough_ = 16;
 };
 
 }  // namespace
