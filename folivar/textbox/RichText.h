@@ -40,7 +40,8 @@ class RichText {
   // Deliberate: when several runs are touched, the first keeps its length, so that the lengths no
   // longer add up to the text; and when nothing is left of the last one, the run that now has the
   // number that the last one had is removed: not itself if runs between were removed. Raises 9 when
-  // there is no run of that number, with the runs between removed and the text as it was.
+  // there is no run of that number, with the runs between removed and the text as it was; so it may
+  // be too when memory runs out.
   void SetSelText(TextView text);
 
   // Setters split runs so that some of them exactly cover the selection; for a caret it is an empty
