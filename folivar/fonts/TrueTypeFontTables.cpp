@@ -27,9 +27,8 @@ constexpr std::size_t kCollectionHeader = 12;  // tag, version, count; then an o
 // Limits that no sound font meets, so that a file's numbers cannot make us work for long.
 constexpr std::uint32_t kMostFonts = 0xFFFF;
 constexpr std::uint64_t kLargestProgram = std::uint64_t{1} << 30;
-constexpr std::uint32_t kLargestNames = 3 * 0xFFFF;        // it counts in 16 bits
-constexpr std::uint32_t kLargestWidths = 4 * 0xFFFF;       // so does this
-constexpr std::uint32_t kLargestMap = 16 + 12 * 0x110000;  // a group for each of all characters
+constexpr std::uint32_t kLargestNames = 3 * 0xFFFF;   // it counts in 16 bits
+constexpr std::uint32_t kLargestWidths = 4 * 0xFFFF;  // so does this
 constexpr std::uint32_t kLargestMapList = 4 + 8 * 0xFFFF;
 constexpr std::size_t kMostMapsTried = 16;
 
@@ -62,118 +61,6 @@ Bytes ReadBytes(ByteSource& file, const std::string& name, std::uint64_t offset,
     RefuseFile(name, "it is cut short");
   }
   return bytes;
-}
-
-// The glyph of a character, 0 for none, in the formats that fonts for Windows use. Where a map ends
-// early, so do its characters.
-std::uint32_t GlyphInSegments(const Bytes& map, std::uint32_t character) {
-  // Format 4: segment count * 2 at 6; from 14 on the segments' ends, two bytes, then their starts,
-  // deltas, and offsets into the glyphs.
-  if (map.size() < 16 || character > 0xFFFF) return 0;
-  const std::size_t column = U16At(map, 6) & 0xFFFEU;
-  const std::size_t starts = 14 + column + 2;
-  if (starts + 3 * column > map.size()) return 0;
-  for (std::size_t segment = 0; segment < column; segment += 2) {
-    if (U16At(map, 14 + segment) < character) continue;
-    const std::uint32_t start = U16At(map, starts + segment);
-    if (start > character) return 0;
-    const std::uint32_t delta = U16At(map, starts + column + segment);
-    const std::size_t place = starts + 2 * column + segment;
-    const std::size_t offset = U16At(map, place);
-    if (offset == 0) return (character + delta) & 0xFFFF;
-    const std::size_t glyph = place + offset + 2 * (character - start);
-    if (glyph + 2 > map.size() || U16At(map, glyph) == 0) return 0;
-    return (U16At(map, glyph) + delta) & 0xFFFF;
-  }
-  return 0;
-}
-
-std::uint32_t GlyphInArray(const Bytes& map, std::uint32_t character) {
-  // Format 6: the first character at 6, their number at 8, a glyph for each from 10 on.
-  if (map.size() < 10) return 0;
-  const std::uint32_t first = U16At(map, 6);
-  if (character < first || character - first >= U16At(map, 8)) return 0;
-  const std::size_t glyph = 10 + 2 * std::size_t{character - first};
-  return glyph + 2 <= map.size() ? U16At(map, glyph) : 0;
-}
-
-std::uint32_t GlyphInGroups(const Bytes& map, std::uint32_t character) {
-  // Format 12: the number of groups at 12; from 16 on their first and last character and the glyph
-  // of the first.
-  constexpr std::size_t kGroup = 12;
-  if (map.size() < 16) return 0;
-  std::size_t begin = 0;
-  std::size_t end = std::min<std::size_t>(U32At(map, 12), (map.size() - 16) / kGroup);
-  while (begin < end) {
-    const std::size_t middle = begin + (end - begin) / 2;
-    const std::size_t group = 16 + kGroup * middle;
-    if (character < U32At(map, group)) {
-      end = middle;
-    } else if (character > U32At(map, group + 4)) {
-      begin = middle + 1;
-    } else {
-      return U32At(map, group + 8) + (character - U32At(map, group));
-    }
-  }
-  return 0;
-}
-
-std::uint32_t GlyphInBytes(const Bytes& map, std::uint32_t character) {
-  // Format 0: a glyph, one byte, for each of 256 codes from 6 on.
-  return character < 256 && 6 + character < map.size() ? map[6 + character] : 0;
-}
-
-std::uint32_t GlyphInSubheaders(const Bytes& map, std::uint32_t character) {
-  // Format 2: from 6 on, for each of 256 bytes, what it begins; 0 for one that stands alone. Those
-  // are in the first subheader, at 518: the first code, their number, a delta, and the offset of
-  // the glyphs from its own place.
-  constexpr std::size_t kSubheader = 6 + 2 * 256;
-  if (map.size() < kSubheader + 8 || character > 0xFF || U16At(map, 6 + 2 * character) != 0) {
-    return 0;
-  }
-  const std::uint32_t first = U16At(map, kSubheader);
-  if (character < first || character - first >= U16At(map, kSubheader + 2)) return 0;
-  const std::size_t place = kSubheader + 6;
-  const std::size_t glyph = place + U16At(map, place) + 2 * std::size_t{character - first};
-  if (glyph + 2 > map.size() || U16At(map, glyph) == 0) return 0;
-  return (U16At(map, glyph) + U16At(map, kSubheader + 4)) & 0xFFFF;
-}
-
-// The start of a map tells whether it has a form that is read here, and claims characters.
-constexpr std::uint32_t kStartOfMap = 16;
-bool ClaimsCharacters(Bytes start) {
-  start.resize(kStartOfMap);
-  switch (U16At(start, 0)) {
-    case 0:
-    case 2:
-      return true;
-    case 4:
-      return U16At(start, 6) > 1;
-    case 6:
-      return U16At(start, 8) != 0;
-    case 12:
-      return U32At(start, 12) != 0;
-    default:
-      return false;
-  }
-}
-
-std::uint32_t GlyphOf(const Bytes& map, std::uint32_t character) {
-  if (map.size() < 2) return 0;
-  switch (U16At(map, 0)) {
-    case 0:
-      return GlyphInBytes(map, character);
-    case 2:
-      return GlyphInSubheaders(map, character);
-    case 4:
-      return GlyphInSegments(map, character);
-    case 6:
-      return GlyphInArray(map, character);
-    case 12:
-      return GlyphInGroups(map, character);
-    default:
-      return 0;
-  }
 }
 
 // The better one is the larger: all of Unicode, then its basic plane, then a symbol font's own
@@ -394,7 +281,7 @@ std::array<std::int32_t, 256> TrueTypeFontTables::Widths() const {
   if (widthCount == 0) return widths;
 
   const std::uint16_t glyphCount = TableOf<MaxpTable>(*this).GlyphCount();
-  const CharacterMap map = FindCharacterMap();
+  const RankedMap map = FindCharacterMap();
   for (std::size_t code = 0; code < widths.size(); ++code) {
     std::uint32_t glyph = GlyphOfCode(map, static_cast<unsigned char>(code));
     if (glyph >= glyphCount) glyph = 0;
@@ -404,21 +291,21 @@ std::array<std::int32_t, 256> TrueTypeFontTables::Widths() const {
   return widths;
 }
 
-std::uint32_t TrueTypeFontTables::GlyphOfCode(const CharacterMap& map, unsigned char code) const {
+std::uint32_t TrueTypeFontTables::GlyphOfCode(const RankedMap& map, unsigned char code) const {
   if (map.rank == kSymbolRank || (os2_.HasSymbolCharacterSet() && map.rank > kSymbolRank)) {
     constexpr std::uint32_t kSymbols = 0xF000;
-    const std::uint32_t glyph = GlyphOf(map.bytes, kSymbols + code);
-    return glyph == 0 && map.rank == kSymbolRank ? GlyphOf(map.bytes, code) : glyph;
+    const std::uint32_t glyph = map.characters.GlyphOf(kSymbols + code);
+    return glyph == 0 && map.rank == kSymbolRank ? map.characters.GlyphOf(code) : glyph;
   }
-  if (os2_.HasSymbolCharacterSet()) return GlyphOf(map.bytes, code);
+  if (os2_.HasSymbolCharacterSet()) return map.characters.GlyphOf(code);
   const char16_t character = AnsiCharacter(static_cast<char>(code));
   if (map.rank == kMacintoshRank) {
     const auto macCode = MacRomanCode(character);
-    return macCode ? GlyphOf(map.bytes, *macCode) : 0;
+    return macCode ? map.characters.GlyphOf(*macCode) : 0;
   }
   // The old codes have ASCII in common with Unicode.
   if (map.rank == kEastAsianRank && code >= 0x80) return 0;
-  return GlyphOf(map.bytes, character);
+  return map.characters.GlyphOf(character);
 }
 
 std::string TrueTypeFontTables::Program() const {
@@ -499,20 +386,20 @@ bool TrueTypeFontTables::HasSymbols() const {
 
 // The best one of those that can be read.
 // The best one that gives a glyph to some code.
-TrueTypeFontTables::CharacterMap TrueTypeFontTables::FindCharacterMap() const {
+TrueTypeFontTables::RankedMap TrueTypeFontTables::FindCharacterMap() const {
   std::size_t tried = 0;
   for (const MapPlace& place : ListCharacterMaps()) {
     const Table& table = *Find("cmap");
-    if (!ClaimsCharacters(Read(table, place.offset, kStartOfMap))) continue;
+    if (!CharacterMap(Read(table, place.offset, CharacterMap::kStart)).ClaimsCharacters()) continue;
     if (++tried > kMostMapsTried) break;
     // As far as the table goes, whatever length the map gives itself.
-    CharacterMap map{place.rank, Read(table, place.offset, kLargestMap)};
+    RankedMap map{place.rank, CharacterMap(Read(table, place.offset, CharacterMap::kLargest))};
     if (HasGlyphs(map)) return map;
   }
   return {};
 }
 
-bool TrueTypeFontTables::HasGlyphs(const CharacterMap& map) const {
+bool TrueTypeFontTables::HasGlyphs(const RankedMap& map) const {
   for (int code = 0xFF; code >= 0; --code) {
     if (GlyphOfCode(map, static_cast<unsigned char>(code)) != 0) return true;
   }

@@ -9,6 +9,7 @@
 
 #include "folivar/base/Text.h"
 #include "folivar/file/ByteSource.h"
+#include "folivar/fonts/CharacterMap.h"
 #include "folivar/fonts/FontTableFields.h"
 #include "folivar/fonts/SystemFonts.h"
 
@@ -74,9 +75,9 @@ class TrueTypeFontTables {
     std::uint32_t offset;  // in table "cmap"
   };
 
-  struct CharacterMap {
+  struct RankedMap {
     int rank = 0;  // none
-    Bytes bytes = {};
+    CharacterMap characters{};
   };
 
   // The parts of the constructor, in their order.
@@ -93,10 +94,10 @@ class TrueTypeFontTables {
   Bytes Read(std::string_view tag, std::uint32_t limit) const;
   std::vector<MapPlace> ListCharacterMaps() const;
   bool HasSymbols() const;
-  CharacterMap FindCharacterMap() const;
-  bool HasGlyphs(const CharacterMap& map) const;
+  RankedMap FindCharacterMap() const;
+  bool HasGlyphs(const RankedMap& map) const;
   // 0 for none.
-  std::uint32_t GlyphOfCode(const CharacterMap& map, unsigned char code) const;
+  std::uint32_t GlyphOfCode(const RankedMap& map, unsigned char code) const;
   std::int32_t InThousandths(std::int32_t units) const;
   std::string ProgramOfCollectionMember() const;
   [[noreturn]] void Refuse(std::string_view what) const;
