@@ -120,7 +120,7 @@ TEST_F(PDFBookmarkTest, NoObjectIsFoundInsideAPlainTitle) {
   bookmark_->SetPlainTitle("a\n99 0 obj\n<< /Hidden true >>\nendobj\n");
   std::string bytes = Save(*document_, "bookmark.pdf").bytes;
   bytes.replace(bytes.find("startxref\n") + 10, 1, "9");
-  const auto path = OutputPath("broken.pdf");
+  const auto path = OutputPath("broken");
   WriteBytes(path, bytes);
   const ToolResult shown = test::Run({"qpdf", "--show-object=99", path.string()});
   EXPECT_NE(shown.err.find("reconstruct"), std::string::npos) << shown.err;
