@@ -38,10 +38,10 @@
 #endif
 
 #ifdef __cplusplus
-#define FOLIVAR_POINTER(type, pointer) static_cast<type*>(pointer)
+#define FOLIVAR_CAST(type, value) static_cast<type>(value)
 extern "C" {
 #else
-#define FOLIVAR_POINTER(type, pointer) ((type*)(pointer))
+#define FOLIVAR_CAST(type, value) ((type)(value))
 #endif
 
 // An object of any class. The same object is always the same pointer, as long as it is held.
@@ -295,9 +295,19 @@ static inline folivar_value folivar_of(void* object) {
   folivar_value value = folivar_null();
   if (object) {
     value.kind = FOLIVAR_OBJECT;
-    value.as.object = FOLIVAR_POINTER(folivar_object, object);
+    value.as.object = FOLIVAR_CAST(folivar_object*, object);
   }
   return value;
+}
+
+// The object of a result; null for none.
+static inline void* folivar_object_in(folivar_value value) {
+  return value.kind == FOLIVAR_OBJECT ? value.as.object : NULL;
+}
+
+// An object of some class as one of any.
+static inline folivar_object* folivar_any(void* object) {
+  return FOLIVAR_CAST(folivar_object*, object);
 }
 
 #ifdef __cplusplus

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <any>
+#include <memory>
+
+#include "folivar/base/Value.h"
+#include "hosts/c/folivar.h"
+
+namespace folivar::hosts {
+
+// A pointer of the host's in a tag, whose host hears when it is needed no more.
+class HostValue {
+ public:
+  // Takes the pointer over, also when it raises.
+  static Value TakeOver(const folivar_value& given) {
+    std::shared_ptr<HostValue> made;
+    try {
+      made = std::make_shared<HostValue>();
+    } catch (...) {
+      Release(given);
+      throw;
+    }
+    made->given_ = given;
+    return Value::Host(std::shared_ptr<const HostValue>(std::move(made)));
+  }
+
+  // Null for what is no pointer of a host's.
+  static const folivar_value* In(const Value& value) {
+    const auto* host = value.As<std::any>();
+    const auto* held =
+        host == nullptr ? nullptr : std::any_cast<std::shared_ptr<const HostValue>>(host);
+    return held == nullptr ? nullptr : &(*held)->given_;
+  }
+
+  HostValue() = default;
+  ~HostValue() { Release(given_); }
+  HostValue(const HostValue&) = delete;
+  HostValue& operator=(const HostValue&) = delete;
+
+ private:
+  static void Release(const folivar_value& given) {
+    if (given.with.release != nullptr) given.with.release(given.as.host);
+  }
+
+  folivar_value given_{};
+};
+
+}  // namespace folivar::hosts
