@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <tuple>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -125,9 +126,15 @@ struct Signature {
   template <class Core, class Member, std::size_t... i>
   static void CallWith(Member member, Core& core, const Arguments& arguments, Answer& answer,
                        std::index_sequence<i...>) {
+    // In braces, so that the first argument that is refused is the one that the error names.
+    std::tuple<Core&, std::remove_cvref_t<Parameters>...> taken{
+        core, Take(As<std::remove_cvref_t<Parameters>>(), arguments, kPlaces[i])...};
     const auto call = [&]() -> Result {
-      return std::invoke(member, core,
-                         Take(As<std::remove_cvref_t<Parameters>>(), arguments, kPlaces[i])...);
+      return std::apply(
+          [&](Core& self, auto&... values) -> Result {
+            return std::invoke(member, self, std::move(values)...);
+          },
+          taken);
     };
     if constexpr (std::is_void_v<Result>) {
       call();
