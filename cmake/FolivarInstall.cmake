@@ -6,6 +6,10 @@ include(GNUInstallDirs)
 list(TRANSFORM folivar_kinds PREPEND folivar_ OUTPUT_VARIABLE libraries)
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/Folivar")
 
+if(TARGET folivar_c)
+  list(APPEND libraries folivar_c)
+endif()
+
 install(
   TARGETS ${libraries}
   EXPORT FolivarTargets
@@ -40,6 +44,12 @@ list(JOIN pc_libs_private " " pc_libs_private)
 configure_file("${PROJECT_SOURCE_DIR}/cmake/folivar.pc.in" "${PROJECT_BINARY_DIR}/folivar.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/folivar.pc"
         DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+if(TARGET folivar_c)
+  configure_file("${PROJECT_SOURCE_DIR}/cmake/folivar-c.pc.in" "${PROJECT_BINARY_DIR}/folivar-c.pc"
+                 @ONLY)
+  install(FILES "${PROJECT_BINARY_DIR}/folivar-c.pc"
+          DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+endif()
 
 # The metrics travel inside the library, and their notice must travel with them.
 install(FILES "${PROJECT_SOURCE_DIR}/folivar/fonts/afm/NOTICE.txt"

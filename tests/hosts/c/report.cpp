@@ -1,0 +1,1 @@
+#include "../../../examples/hosts/report.c"  // NOLINT(bugprone-suspicious-include)
