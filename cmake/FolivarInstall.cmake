@@ -6,14 +6,17 @@ include(GNUInstallDirs)
 list(TRANSFORM folivar_kinds PREPEND folivar_ OUTPUT_VARIABLE libraries)
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/Folivar")
 
-if(TARGET folivar_c)
-  list(APPEND libraries folivar_c)
-endif()
-
 install(
   TARGETS ${libraries}
   EXPORT FolivarTargets
   FILE_SET HEADERS)
+if(TARGET folivar_c)
+  install(
+    TARGETS folivar_c
+    EXPORT FolivarTargets
+    LIBRARY COMPONENT c
+    FILE_SET HEADERS COMPONENT c)
+endif()
 install(
   EXPORT FolivarTargets
   NAMESPACE Folivar::
@@ -47,8 +50,10 @@ install(FILES "${PROJECT_BINARY_DIR}/folivar.pc"
 if(TARGET folivar_c)
   configure_file("${PROJECT_SOURCE_DIR}/cmake/folivar-c.pc.in" "${PROJECT_BINARY_DIR}/folivar-c.pc"
                  @ONLY)
-  install(FILES "${PROJECT_BINARY_DIR}/folivar-c.pc"
-          DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+  install(
+    FILES "${PROJECT_BINARY_DIR}/folivar-c.pc"
+    DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig"
+    COMPONENT c)
 endif()
 
 # The metrics travel inside the library, and their notice must travel with them.

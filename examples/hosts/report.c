@@ -1,6 +1,6 @@
 // A small report: text, a box, a picture, a link, bookmarks.
 //
-//   cc report.c $(pkg-config --cflags --libs folivar-c) -o report && ./report picture.jpg report.pdf
+//   cc report.c $(pkg-config --cflags --libs folivar-c) -o report && ./report PICTURE PDF
 
 #include <folivar.h>
 #include <stdio.h>
@@ -66,7 +66,8 @@ static void add_text_box(folivar_PDFPage* page, folivar_PDFDocument* document) {
                                   folivar_number(60)));
   require(folivar_PDFTextBox_SetMargins(box, 6, 6, 6, 6));
   require(folivar_PDFTextBox_SetText(
-      box, "Orders were up by a third. What the harbour shipped, and to whom, is on the next page."));
+      box,
+      "Orders were up by a third. What the harbour shipped, and to whom, is on the next page."));
   require(folivar_PDFTextBox_SetSelStart(box, 0));
   require(folivar_PDFTextBox_SetSelLength(box, 26));
   bold = add_font(document, "Helvetica-Bold", 10);
