@@ -19,6 +19,10 @@ SCALARS = {
     "IDispatch*": "object",
 }
 
+ATTRIBUTES = {"default", "defaultvalue", "dual", "helpstring", "hidden", "id", "in", "noncreatable",
+              "nonextensible", "object", "oleautomation", "optional", "out", "propget", "propput",
+              "propputref", "restricted", "retval", "source", "uuid", "v1_enum", "version"}
+
 
 class IdlError(Exception):
     """What the reader does not understand, with the line it stands in."""
@@ -116,6 +120,17 @@ class Library:
     enumerations: list
 
 
+class Attributes(dict):
+    """[uuid(...), hidden, helpstring("...")]; those without a value are True."""
+
+    def __init__(self, line):
+        super().__init__()
+        self.line = line
+
+    def __missing__(self, name):
+        raise IdlError(f"line {self.line}: {name!r} is missing")
+
+
 def read(path):
     with open(path, encoding="utf-8") as file:
         return Reader(file.read()).library()
@@ -174,10 +189,11 @@ class Reader:
         return Library(name, attributes["version"], classes, enumerations)
 
     def attributes(self):
-        """[uuid(...), hidden, helpstring("...")] as a dict; those without a value are True."""
-        found = {}
+        found = Attributes(self.line())
         self.expect("[")
         while True:
+            if self.peek() not in ATTRIBUTES:
+                raise self.error(f"the attribute {self.peek()!r} is not understood")
             name = self.take()
             found[name] = True
             if self.peek() == "(":
@@ -280,6 +296,8 @@ class Reader:
         written = written.removesuffix("*") if is_filled else written
         default = attributes.get("defaultvalue")
         kind = self.type_of(written)
+        if is_filled and kind.kind != "single":
+            raise self.error(f"{name!r} is filled with another type than float")
         if default is not None:
             if kind.kind == "text":
                 default = text(default)
@@ -298,6 +316,8 @@ class Reader:
 
     def link(self, enumerations, interfaces, events, classes):
         class_of = {made.members[0]: made.name for made in classes}
+        for name in class_of.keys() ^ interfaces.keys():
+            raise IdlError(f"{name} is not both an interface and that of a class")
         enumeration_names = {enumeration.name for enumeration in enumerations}
 
         def named(type):
@@ -343,9 +363,11 @@ class Reader:
             if not self.peek():
                 raise self.error(f"{token!r} is missing")
 
+    def line(self):
+        return self.tokens[min(self.next, len(self.tokens) - 1)][1]
+
     def error(self, message):
-        line = self.tokens[min(self.next, len(self.tokens) - 1)][1]
-        return IdlError(f"line {line}: {message}")
+        return IdlError(f"line {self.line()}: {message}")
 
 
 def text(token):
@@ -365,5 +387,9 @@ def members_of(functions):
         if (member.id, member.type, member.parameters, member.help) != (
                 function.id, function.type, function.parameters, function.help):
             raise IdlError(f"the sides of the property {function.name} differ")
+        if function.action in member.functions or "call" in (function.action, *member.functions):
+            raise IdlError(f"{function.name} stands twice")
         member.functions[function.action] = function
+    if len({member.id for member in members.values()}) < len(members):
+        raise IdlError(f"two of {', '.join(members)} have the same id")
     return list(members.values())
