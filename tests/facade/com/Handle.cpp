@@ -1,17 +1,18 @@
-#include "Com.h"
+#include "Handle.h"
 
+#include <memory>
 #include <new>
 
 #include "folivar/base/Error.h"
 
-namespace com {
+namespace facade {
 namespace {
 
 folivar::Text DescriptionOfError() {
   ComPtr<IErrorInfo> error;
   BSTR text = nullptr;
   if (GetErrorInfo(0, &error) == S_OK) error->GetDescription(&text);
-  return TextFrom(text);
+  return Taken<folivar::Text>::From(text);
 }
 
 }  // namespace
@@ -26,13 +27,6 @@ Bstr::Bstr(const folivar::Text& text)
     : held_(SysAllocStringLen(reinterpret_cast<const wchar_t*>(text.Utf16().data()),
                               static_cast<UINT>(text.Utf16().size()))) {
   if (held_ == nullptr) throw std::bad_alloc();
-}
-
-folivar::Text TextFrom(BSTR text) {
-  auto copied = folivar::Text::Of(
-      std::u16string(reinterpret_cast<const char16_t*>(text), SysStringLen(text)));
-  SysFreeString(text);
-  return copied;
 }
 
 Variant::Variant(const folivar::Value& value) {
@@ -57,4 +51,24 @@ Variant::Variant(const folivar::Value& value) {
   }
 }
 
-}  // namespace com
+folivar::Text Taken<folivar::Text>::From(BSTR text) {
+  const std::unique_ptr<OLECHAR, decltype(&SysFreeString)> freed(text, &SysFreeString);
+  return folivar::Text::Of(
+      std::u16string(reinterpret_cast<const char16_t*>(text), SysStringLen(text)));
+}
+
+std::vector<folivar::Text> Taken<std::vector<folivar::Text>>::From(SAFEARRAY* texts) {
+  const std::unique_ptr<SAFEARRAY, decltype(&SafeArrayDestroy)> freed(texts, &SafeArrayDestroy);
+  std::vector<folivar::Text> taken;
+  LONG last = 0;
+  RaiseIfFailed(SafeArrayGetUBound(texts, 1, &last));
+  LONG i = 0;
+  for (RaiseIfFailed(SafeArrayGetLBound(texts, 1, &i)); i <= last; ++i) {
+    BSTR text = nullptr;
+    RaiseIfFailed(SafeArrayGetElement(texts, &i, &text));
+    taken.push_back(Taken<folivar::Text>::From(text));
+  }
+  return taken;
+}
+
+}  // namespace facade

@@ -1,7 +1,7 @@
 #pragma once
 
-// The library's interface over the automation interface, for programs that include
-// <folivar/folivar.h>: the examples compile for both, unchanged. As much of it as they use.
+// The library's interface over a host, the automation component or the C library, for programs that
+// include <folivar/folivar.h>: the examples compile for all, unchanged. As much of it as they use.
 
 #include <cstdint>
 #include <memory>
@@ -9,7 +9,7 @@
 #include <stdexcept>
 #include <vector>
 
-#include "Com.h"
+#include "Object.h"
 #include "folivar/base/Error.h"
 #include "folivar/base/Text.h"
 #include "folivar/base/Value.h"
@@ -28,10 +28,10 @@ Text EscapeTitle(TextView text);
 // Apart from the library's own classes, of which the program may have some too.
 inline namespace automated {
 
-// A host of the component has no font files of its own.
+// A host has no font files of its own.
 struct FontFiles {
   std::vector<Text> AddFolder(TextView) {
-    throw std::logic_error("the component takes no folders");
+    throw std::logic_error("a host takes no folders of fonts");
   }
 };
 
@@ -39,13 +39,13 @@ struct Platform {
   std::shared_ptr<FontFiles> fontFiles;
 };
 
-class PDFFont final : public com::Object<_PDFFont> {
+class PDFFont final : public facade::Object<_PDFFont> {
  public:
   using Object::Object;
 
   std::shared_ptr<PDFFont> Clone() const { return Reach<PDFFont>("Clone", &Interface::Clone); }
   float Size() const { return Get<float>("Size", &Interface::get_Size); }
-  void SetSize(float points) const { Let("Size", &Interface::put_Size, points); }
+  void SetSize(float points) const { Set("Size", &Interface::put_Size, points); }
   Text FontFace() const { return Get<Text>("FontFace", &Interface::get_FontFace); }
   float TextWidth(TextView text) const {
     return Get<float>("TextWidth", &Interface::TextWidth, text);
@@ -57,14 +57,18 @@ class PDFFont final : public com::Object<_PDFFont> {
   float Ascender() const { return Get<float>("Ascender", &Interface::get_Ascender); }
   float Descender() const { return Get<float>("Descender", &Interface::get_Descender); }
   float Leading() const { return Get<float>("Leading", &Interface::get_Leading); }
-  void SetBold(bool bold) const { Let("Bold", &Interface::put_Bold, bold); }
-  void SetItalic(bool italic) const { Let("Italic", &Interface::put_Italic, italic); }
+  float FontBoxTop() const { return Get<float>("FontBoxTop", &Interface::get_FontBoxTop); }
+  float FontBoxLeft() const { return Get<float>("FontBoxLeft", &Interface::get_FontBoxLeft); }
+  float FontBoxRight() const { return Get<float>("FontBoxRight", &Interface::get_FontBoxRight); }
+  float FontBoxBottom() const { return Get<float>("FontBoxBottom", &Interface::get_FontBoxBottom); }
+  void SetBold(bool bold) const { Set("Bold", &Interface::put_Bold, bold); }
+  void SetItalic(bool italic) const { Set("Italic", &Interface::put_Italic, italic); }
   void SetUnderline(bool underline) const {
-    Let("Underline", &Interface::put_Underline, underline);
+    Set("Underline", &Interface::put_Underline, underline);
   }
 };
 
-class PDFFonts final : public com::Object<_PDFFonts> {
+class PDFFonts final : public facade::Object<_PDFFonts> {
  public:
   using Object::Object;
 
@@ -73,22 +77,27 @@ class PDFFonts final : public com::Object<_PDFFonts> {
     return Reach<PDFFont>("Add", &Interface::Add, faceName, fontType,
                           embedding == Embedding::kEmbed);
   }
+  std::vector<Text> AvailableFonts(PDFFontType fontType,
+                                   Embedding embedding = Embedding::kNone) const {
+    return Get<std::vector<Text>>("AvailableFonts", &Interface::AvailableFonts, fontType,
+                                  embedding == Embedding::kEmbed);
+  }
 };
 
-class PDFImage final : public com::Object<_PDFImage> {
+class PDFImage final : public facade::Object<_PDFImage> {
  public:
   using Object::Object;
 
-  void SetFileName(TextView fileName) const { Let("FileName", &Interface::put_FileName, fileName); }
+  void SetFileName(TextView fileName) const { Set("FileName", &Interface::put_FileName, fileName); }
   std::int32_t Width() const { return Get<std::int32_t>("Width", &Interface::get_Width); }
   std::int32_t Height() const { return Get<std::int32_t>("Height", &Interface::get_Height); }
 };
 
 // A collection. Walking it takes the members by their positions.
 template <class Member, class Itf>
-class Members : public com::Object<Itf> {
+class Members : public facade::Object<Itf> {
  public:
-  using com::Object<Itf>::Object;
+  using facade::Object<Itf>::Object;
 
   std::shared_ptr<Member> Add(TextView key = {}, const Value& before = {},
                               const Value& after = {}) const {
@@ -118,24 +127,24 @@ class Members : public com::Object<Itf> {
   Iterator end() const { return {*this, count() + 1}; }
 };
 
-class PDFGraphicsState final : public com::Object<_PDFGraphicsState> {
+class PDFGraphicsState final : public facade::Object<_PDFGraphicsState> {
  public:
   using Object::Object;
 
   void SetFillColor(std::int32_t color) const {
-    Let("FillColor", &Interface::put_FillColor, color);
+    Set("FillColor", &Interface::put_FillColor, color);
   }
   void SetStrokeColor(std::int32_t color) const {
-    Let("StrokeColor", &Interface::put_StrokeColor, color);
+    Set("StrokeColor", &Interface::put_StrokeColor, color);
   }
-  void SetLineWidth(float width) const { Let("LineWidth", &Interface::put_LineWidth, width); }
+  void SetLineWidth(float width) const { Set("LineWidth", &Interface::put_LineWidth, width); }
   void Push() const { Call("Push", &Interface::Push); }
   bool Pop() const { return Get<bool>("Pop", &Interface::Pop); }
   void Translate(float tx, float ty) const { Call("Translate", &Interface::Translate, tx, ty); }
   void Rotate(float angle) const { Call("Rotate", &Interface::Rotate, angle); }
 };
 
-class PDFTextBox final : public com::Object<_PDFTextBox> {
+class PDFTextBox final : public facade::Object<_PDFTextBox> {
  public:
   using Object::Object;
 
@@ -144,8 +153,8 @@ class PDFTextBox final : public com::Object<_PDFTextBox> {
   float Width() const { return Get<float>("Width", &Interface::get_Width); }
   float Height() const { return Get<float>("Height", &Interface::get_Height); }
   float Bottom() const { return Get<float>("Bottom", &Interface::get_Bottom); }
-  void SetTop(float top) const { Let("Top", &Interface::put_Top, top); }
-  void SetHeight(float height) const { Let("Height", &Interface::put_Height, height); }
+  void SetTop(float top) const { Set("Top", &Interface::put_Top, top); }
+  void SetHeight(float height) const { Set("Height", &Interface::put_Height, height); }
   void Move(float left, const Value& top = {}, const Value& width = {},
             const Value& height = {}) const {
     Call("Move", &Interface::Move, left, top, width, height);
@@ -154,18 +163,21 @@ class PDFTextBox final : public com::Object<_PDFTextBox> {
   void SetMargins(float left, float top, float right, float bottom) const {
     Call("SetMargins", &Interface::SetMargins, left, top, right, bottom);
   }
-  void SetBorderWidth(float width) const { Let("BorderWidth", &Interface::put_BorderWidth, width); }
-  void SetText(TextView text) const { Let("Text", &Interface::put_Text, text); }
-  void SetSelStart(std::int32_t start) const { Let("SelStart", &Interface::put_SelStart, start); }
+  void SetBorderColor(std::int32_t color) const {
+    Set("BorderColor", &Interface::put_BorderColor, color);
+  }
+  void SetBorderWidth(float width) const { Set("BorderWidth", &Interface::put_BorderWidth, width); }
+  void SetText(TextView text) const { Set("Text", &Interface::put_Text, text); }
+  void SetSelStart(std::int32_t start) const { Set("SelStart", &Interface::put_SelStart, start); }
   void SetSelLength(std::int32_t length) const {
-    Let("SelLength", &Interface::put_SelLength, length);
+    Set("SelLength", &Interface::put_SelLength, length);
   }
   void SetSelFont(const std::shared_ptr<PDFFont>& font) const {
     Set("SelFont", &Interface::putref_SelFont, font);
   }
-  void SetSelColor(const Value& color) const { Let("SelColor", &Interface::put_SelColor, color); }
+  void SetSelColor(const Value& color) const { Set("SelColor", &Interface::put_SelColor, color); }
   void SetSelAlignment(PDFParaAlignment alignment) const {
-    Let("SelAlignment", &Interface::put_SelAlignment, alignment);
+    Set("SelAlignment", &Interface::put_SelAlignment, alignment);
   }
 };
 
@@ -199,9 +211,9 @@ class Canvas {
 
 // The same members of an interface.
 template <class Itf>
-class Drawn : public com::Object<Itf>, public Canvas {
+class Drawn : public facade::Object<Itf>, public Canvas {
  public:
-  using com::Object<Itf>::Object;
+  using facade::Object<Itf>::Object;
 
   std::shared_ptr<PDFFont> Font() const override {
     return this->template Reach<PDFFont>("Font", &Itf::get_Font);
@@ -249,24 +261,24 @@ class PDFTemplate final : public Drawn<_PDFTemplate> {
   using Drawn::Drawn;
 
   void SetAutoSizeClipBox(bool autoSize) const {
-    Let("AutoSizeClipBox", &Interface::put_AutoSizeClipBox, autoSize);
+    Set("AutoSizeClipBox", &Interface::put_AutoSizeClipBox, autoSize);
   }
 };
 
 class PDFPage;
 
-class PDFLinkDestination final : public com::Object<_PDFLinkDestination> {
+class PDFLinkDestination final : public facade::Object<_PDFLinkDestination> {
  public:
   using Object::Object;
 
   void SetPage(const std::shared_ptr<PDFPage>& page) const;
-  void SetTop(float top) const { Let("Top", &Interface::put_Top, top); }
+  void SetTop(float top) const { Set("Top", &Interface::put_Top, top); }
   void SetDestinationMode(PDFDestinationStyle mode) const {
-    Let("DestinationMode", &Interface::put_DestinationMode, mode);
+    Set("DestinationMode", &Interface::put_DestinationMode, mode);
   }
 };
 
-class PDFHyperLink final : public com::Object<_PDFHyperLink> {
+class PDFHyperLink final : public facade::Object<_PDFHyperLink> {
  public:
   using Object::Object;
 
@@ -276,7 +288,7 @@ class PDFHyperLink final : public com::Object<_PDFHyperLink> {
   void SetRegion(float left, float bottom, float width, float height) const {
     Call("SetRegion", &Interface::SetRegion, left, bottom, width, height);
   }
-  void SetBorderWidth(float width) const { Let("BorderWidth", &Interface::put_BorderWidth, width); }
+  void SetBorderWidth(float width) const { Set("BorderWidth", &Interface::put_BorderWidth, width); }
 };
 
 using PDFHyperLinks = Members<PDFHyperLink, _PDFHyperLinks>;
@@ -288,12 +300,12 @@ class PDFBookmarks final : public Members<PDFBookmark, _PDFBookmarks> {
   using Members::Members;
 };
 
-class PDFBookmark final : public com::Object<_PDFBookmark> {
+class PDFBookmark final : public facade::Object<_PDFBookmark> {
  public:
   using Object::Object;
 
-  void SetTitle(TextView title) const { Let("Title", &Interface::put_Title, title); }
-  void SetExpanded(bool expanded) const { Let("Expanded", &Interface::put_Expanded, expanded); }
+  void SetTitle(TextView title) const { Set("Title", &Interface::put_Title, title); }
+  void SetExpanded(bool expanded) const { Set("Expanded", &Interface::put_Expanded, expanded); }
   std::shared_ptr<PDFBookmarks> SubBookmarks() const {
     return Reach<PDFBookmarks>("SubBookmarks", &Interface::get_SubBookmarks);
   }
@@ -331,25 +343,28 @@ using PDFPages = Members<PDFPage, _PDFPages>;
 using PDFTemplates = Members<PDFTemplate, _PDFTemplates>;
 using PDFImages = Members<PDFImage, _PDFImages>;
 
-class PDFViewerPreferences final : public com::Object<_PDFViewerPreferences> {
+class PDFViewerPreferences final : public facade::Object<_PDFViewerPreferences> {
  public:
   using Object::Object;
 
   void SetPageLayout(PDFPageLayoutStyle layout) const {
-    Let("PageLayout", &Interface::put_PageLayout, layout);
+    Set("PageLayout", &Interface::put_PageLayout, layout);
   }
-  void SetPageMode(PDFPageModeStyle mode) const { Let("PageMode", &Interface::put_PageMode, mode); }
+  void SetPageMode(PDFPageModeStyle mode) const { Set("PageMode", &Interface::put_PageMode, mode); }
   void SetFitWindow(bool fitWindow) const {
-    Let("FitWindow", &Interface::put_FitWindow, fitWindow);
+    Set("FitWindow", &Interface::put_FitWindow, fitWindow);
   }
 };
 
-class PDFDocument final : public com::Object<_PDFDocument> {
+class PDFDocument final : public facade::Object<_PDFDocument> {
  public:
   using Object::Object;
 
   static std::shared_ptr<PDFDocument> Create(const Platform& platform = {});
 
+  std::shared_ptr<automated::FontFiles> FontFiles() const {
+    return std::make_shared<automated::FontFiles>();
+  }
   void SavePDFFile(TextView fileName) const {
     Call("SavePDFFile", &Interface::SavePDFFile, fileName);
   }
