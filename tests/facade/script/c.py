@@ -8,18 +8,18 @@ PRELUDE = '''\
 #include <stdio.h>
 #include <stdlib.h>
 
-#define CALL(call)                                                            \\
-  do {                                                                        \\
-    if ((call) != 0) Fail(__LINE__, folivar_last_error()->text);              \\
-  } while (0)
+#define CALL(call) RequireCall(__LINE__, call)
+#define EXPECT(holds) RequireValue(__LINE__, holds)
 
-#define EXPECT(holds)                                                         \\
-  do {                                                                        \\
-    if (!(holds)) Fail(__LINE__, "not " #holds);                              \\
-  } while (0)
+static void RequireCall(int line, int32_t error) {
+  if (error == 0) return;
+  fprintf(stderr, "line %d: %s\\n", line, folivar_last_error()->text);
+  exit(1);
+}
 
-static void Fail(int line, const char* text) {
-  fprintf(stderr, "line %d: %s\\n", line, text);
+static inline void RequireValue(int line, bool holds) {
+  if (holds) return;
+  fprintf(stderr, "line %d: another value\\n", line);
   exit(1);
 }
 
@@ -39,16 +39,20 @@ def script(steps):
     lines = [LINES[step.action](step) for step in steps]
     parts = [lines[start:start + LONGEST_FUNCTION]
              for start in range(0, len(lines), LONGEST_FUNCTION)]
-    objects = sorted({(step.object.of, variable(step.object)) for step in steps} |
-                     {(step.value.of, variable(step.value)) for step in steps
-                      if step.action == "reach"})
-    text = PRELUDE
-    text += "".join(f"static folivar_{of}* {name};\n" for of, name in objects)
+    text = PRELUDE + "".join(f"static {type} {name};\n" for type, name in variables(steps))
     for number, part in enumerate(parts):
         text += f"\nstatic void Part{number}(void) {{\n" + "".join(
             f"  {line}\n" for line in part) + "}\n"
     calls = "".join(f"  Part{number}();\n" for number in range(len(parts)))
     return text + f'\nint main(void) {{\n{calls}  puts("DONE");\n  return 0;\n}}\n'
+
+
+def variables(steps):
+    """What is found and what is reached, each with its type."""
+    found = {(RESULTS.get(step.member.type.kind, "folivar_value"), result(step))
+             for step in steps if step.action == "get"}
+    objects = {step.object for step in steps}
+    return sorted(found | {(f"folivar_{made.of}*", variable(made)) for made in objects})
 
 
 def create(step):
@@ -70,19 +74,18 @@ def assign(step):
 
 
 def get(step):
-    kind = step.member.type.kind
-    found = f"CALL({expression(step, '&found')});"
-    if kind in RESULTS:
-        return f"{{ {RESULTS[kind]} found; {found} EXPECT(found == {literal(step.value)}); }}"
-    return f"{{ folivar_value found; {found} {expectation(step)} folivar_clear(&found); }}"
+    lines = [f"CALL({expression(step, '&' + result(step))});"]
+    if step.member.type.kind in RESULTS:
+        return "\n  ".join(lines + [f"EXPECT({result(step)} == {literal(step.value)});"])
+    return "\n  ".join(lines + expectations(step) + [f"folivar_clear(&{result(step)});"])
 
 
-def expectation(step):
+def expectations(step):
     if step.member.type.kind == "text":
-        return f"EXPECT(IsText(found, {literal(step.value)}));"
-    checks = [f"EXPECT(IsText(found.as.values[{place}], {literal(text)}));"
-              for place, text in enumerate(step.value)]
-    return " ".join([f"EXPECT(found.with.length == {len(checks)});"] + checks)
+        return [f"EXPECT(IsText({result(step)}, {literal(step.value)}));"]
+    count = f"EXPECT({result(step)}.with.length == {len(step.value)});"
+    return [count] + [f"EXPECT(IsText({result(step)}.as.values[{place}], {literal(text)}));"
+                      for place, text in enumerate(step.value)]
 
 
 def release(step):
@@ -93,16 +96,21 @@ LINES = {"create": create, "reach": reach, "call": call, "set": assign, "get": g
          "release": release}
 
 
-def expression(step, result=None):
+def expression(step, *target):
     given = [variable(step.object)]
     given += [passed(argument.value, argument.parameter.type) for argument in step.arguments]
-    given += [result] if result else []
+    given += target
     return f"folivar_{step.object.of}_{step.member.name}({', '.join(given)})"
 
 
 def variable(made):
     """Names are used again for objects of other classes, variables are not."""
     return f"{made.of}_{made.name}"
+
+
+def result(step):
+    """The variable that gets what a member gives."""
+    return f"found_{step.member.type.kind}"
 
 
 def passed(value, type):

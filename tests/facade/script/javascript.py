@@ -41,14 +41,13 @@ def release(step):
 
 def expression(step):
     """Names after the first argument that is left out."""
-    given, named, listed = [], [], None
-    listed = given
+    given, named = [], []
+    listed, prefix = given, ""
     for argument in step.arguments:
         if argument.is_left_out:
-            listed = named
+            listed, prefix = named, "{}: "
         else:
-            prefix = f"{argument.parameter.name}: " if listed is named else ""
-            listed.append(prefix + literal(argument.value))
+            listed.append(prefix.format(argument.parameter.name) + literal(argument.value))
     if named:
         given.append(f"{{ {', '.join(named)} }}")
     called = f"({', '.join(given)})" if step.member.is_method or step.arguments else ""

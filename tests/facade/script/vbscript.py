@@ -35,6 +35,8 @@ def assign(step):
 
 
 def get(step):
+    if isinstance(step.value, list):  # an array of texts, into which VBScript cannot look
+        return f"Expect VarType({expression(step)}), vbArray + vbString"
     return f"Expect {expression(step)}, {literal(step.value)}"
 
 
@@ -68,7 +70,7 @@ def literal(value):
         return str(value)
     if isinstance(value, recording.Single):
         return f"CSng({value.digits.removesuffix('.0')})"
-    return f"CLng({value.value if isinstance(value, recording.Constant) else value})"
+    return f"CLng({value.value if isinstance(value, recording.Constant) else value:d})"
 
 
 def text(value):
