@@ -103,6 +103,10 @@ class Class:
     is_creatable: bool
     members: list  # in the order of the interface
     events: list
+    # Of the class, its interface and the interface of its events; "" for none.
+    uuid: str
+    interface_uuid: str = ""
+    events_uuid: str = ""
 
 
 @dataclasses.dataclass
@@ -162,7 +166,7 @@ class Reader:
         self.expect("library")
         name = self.take()
         self.expect("{")
-        enumerations, interfaces, events, classes = [], {}, {}, []
+        enumerations, interfaces, events, classes, uuids = [], {}, {}, [], {}
         while self.peek() != "}":
             if self.peek() in ("importlib", "interface"):  # a forward declaration
                 self.until(";")
@@ -173,10 +177,12 @@ class Reader:
                 enumerations.append(self.enumeration(described))
             elif word == "interface":
                 owner = self.take()
+                uuids[owner] = described["uuid"]
                 self.until("{")
                 interfaces[owner] = self.functions()
             elif word == "dispinterface":
                 owner = self.take()
+                uuids[owner] = described["uuid"]
                 self.expect("{")
                 events[owner] = self.events()
             elif word == "coclass":
@@ -185,7 +191,7 @@ class Reader:
                 raise self.error(f"{word!r} is not understood")
         self.expect("}")
         self.expect(";")
-        self.link(enumerations, interfaces, events, classes)
+        self.link(enumerations, interfaces, events, classes, uuids)
         return Library(name, attributes["version"], classes, enumerations)
 
     def attributes(self):
@@ -257,7 +263,7 @@ class Reader:
     def coclass(self, described):
         """With the names of its interfaces in place of members and events."""
         made = Class(self.take(), text(described["helpstring"]), "noncreatable" not in described,
-                     [], [])
+                     [], [], described["uuid"])
         self.expect("{")
         while self.peek() != "}":
             attributes = self.attributes()
@@ -314,7 +320,7 @@ class Reader:
 
     # What belongs together
 
-    def link(self, enumerations, interfaces, events, classes):
+    def link(self, enumerations, interfaces, events, classes, uuids):
         class_of = {made.members[0]: made.name for made in classes}
         for name in class_of.keys() ^ interfaces.keys():
             raise IdlError(f"{name} is not both an interface and that of a class")
@@ -336,6 +342,8 @@ class Reader:
             return dataclasses.replace(function, parameters=parameters, type=named(function.type))
 
         for made in classes:
+            made.interface_uuid = uuids[made.members[0]]
+            made.events_uuid = "".join(uuids[name] for name in made.events)
             made.members = members_of(known(function) for function in interfaces[made.members[0]])
             made.events = members_of(known(function) for name in made.events
                                      for function in events[name])

@@ -18,7 +18,7 @@ def library(members="", before="", classes=CLASS):
     return idl.Reader(f'''[version(1.0)] library Sample {{
 {ENUMERATION}
 {before}
-[object, helpstring("Things")] interface _Thing : IDispatch {{
+[object, uuid(3), helpstring("Things")] interface _Thing : IDispatch {{
 {members}
 }};
 {classes}
@@ -74,11 +74,12 @@ class ReaderTest(unittest.TestCase):
                 self.assertEqual(member.type, idl.Type(kind))
 
     def test_events_and_creatable_classes(self):
-        made, = library(before='''[helpstring("Events")] dispinterface __Thing {
+        made, = library(before='''[uuid(4), helpstring("Events")] dispinterface __Thing {
             properties: methods: [id(1), helpstring("It ends")] void Ended([in] _Thing* thing); };''',
                         classes='''[uuid(2), helpstring("A thing")] coclass Thing {
             [default] interface _Thing; [default, source] dispinterface __Thing; };''').classes
         self.assertTrue(made.is_creatable)
+        self.assertEqual((made.uuid, made.interface_uuid, made.events_uuid), ("2", "3", "4"))
         event, = made.events
         self.assertEqual(event.parameters,
                          (idl.Parameter("thing", idl.Type("object", "Thing")),))
@@ -141,12 +142,12 @@ class RefusalTest(unittest.TestCase):
                                                   [id(1), helpstring("H")] HRESULT Do();''')
 
     def test_interface_without_class(self):
-        self.assert_refused("^_Other is not both an interface and that of a class$", before='''[helpstring("O")]
+        self.assert_refused("^_Other is not both an interface and that of a class$", before='''[uuid(5), helpstring("O")]
             interface _Other : IDispatch { [id(1), helpstring("H")] HRESULT Do(); };''')
 
     def test_class_without_its_interface(self):
         self.assert_refused("^_Other is not both an interface and that of a class$", classes=CLASS + '''
-            [helpstring("O")] coclass Other { [default] interface _Other; };''')
+            [uuid(6), helpstring("O")] coclass Other { [default] interface _Other; };''')
 
     def test_enumeration_of_two_names(self):
         self.assert_refused("'Other' stands where Mode is expected",
@@ -157,7 +158,7 @@ class RefusalTest(unittest.TestCase):
             idl.Reader('[version(1.0)] library Sample {\n[helpstring("E")] typedef enum Mode {'
                        ).library()
         with self.assertRaisesRegex(idl.IdlError, "'{' is missing"):
-            idl.Reader('[version(1.0)] library Sample {\n[helpstring("E")] interface _Thing'
+            idl.Reader('[version(1.0)] library Sample {\n[uuid(3), helpstring("E")] interface _Thing'
                        ).library()
 
 
