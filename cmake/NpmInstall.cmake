@@ -1,7 +1,7 @@
 # Lets npm install what package-lock.json in the folder names. What npm says goes into npm.log there,
 # for the tests to show; only once it has succeeded is there a file "installed".
 #
-#   cmake -DNPM=<npm> -DFOLDER=<folder> -P Install.cmake
+#   cmake -DNPM=<npm> -DFOLDER=<folder> -P NpmInstall.cmake
 
 file(REMOVE_RECURSE "${FOLDER}/installed" "${FOLDER}/node_modules")
 execute_process(
