@@ -27,9 +27,17 @@ class Keeper extends class { constructor(object) { return object; } } {
 }
 
 function make(type, kept) {
-  const object = type.item ? makeCallable(type) : Object.create(type.prototype);
+  const object = type.item ? makeCallable(type) : type.makePlain();
   new Keeper(object, kept);
   return object;
+}
+
+// Makes what is no collection: generators that never run. They are the plainest objects that can
+// be sent to no other thread; a copy there would stand for nothing.
+function plainMaker(prototype) {
+  const make = function* () {};
+  make.prototype = prototype;
+  return make;
 }
 
 // A collection: a function that gives a member, pages('a'), and knows its keys, 'a' in pages.
@@ -157,6 +165,7 @@ function classOf(type) {
     return native.create(name, showWarning);
   } }[name];
   Object.defineProperty(constructor, 'prototype', { value: prototype, writable: false });
+  type.makePlain = plainMaker(prototype);
   addEvents(type);
   Object.setPrototypeOf(prototype, unknownMembers(type));
   protectMembers(type);
