@@ -16,5 +16,5 @@ function(folivar_npm_install target folder)
     DEPENDS "${script}" ${files}
     COMMENT "Installing the packages of ${target}"
     VERBATIM)
-  add_custom_target(${target} DEPENDS "${folder}/installed")
+  add_custom_target(${target} ALL DEPENDS "${folder}/installed")
 endfunction()

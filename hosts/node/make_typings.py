@@ -86,7 +86,7 @@ def class_of(made):
     for member in made.members:
         body += member_of(made, member)
     for event in made.events:
-        parameters = list_of(event.parameters)
+        parameters = ", ".join(f"{each.name}: {type_of(each.type)}" for each in event.parameters)
         body += [comment(f"{event.help}. The function that it returns unsubscribes", "  "),
                  f"  {event.name}(handler: ({parameters}) => void): () => void;"]
     creation = f"{{ new (): {made.name}; (): {made.name} }} & " if made.is_creatable else ""
