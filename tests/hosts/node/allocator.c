@@ -1,7 +1,9 @@
 // For the test of leaks: what is allocated, as the sanitizer counts it.
 
 #include <node_api.h>
-#include <sanitizer/allocator_interface.h>
+
+// The sanitizer's own; not every compiler comes with the header.
+extern size_t __sanitizer_get_current_allocated_bytes(void);
 
 static napi_value AllocatedBytes(napi_env env, napi_callback_info info) {
   (void)info;

@@ -1,0 +1,28 @@
+'use strict';
+
+// The package that npm makes of the module's folder.
+
+const assert = require('node:assert/strict');
+const { execFileSync } = require('node:child_process');
+const fs = require('node:fs');
+const path = require('node:path');
+const { test } = require('node:test');
+const { folivar, moduleFolder, newFile } = require('./support');
+
+test('is installed and loaded', () => {
+  const project = newFile('project');
+  fs.mkdirSync(project);
+  const npm = (...words) => execFileSync(process.env.FOLIVAR_NPM, words, {
+    cwd: project, encoding: 'utf8', stdio: ['ignore', 'pipe', 'pipe'],
+    env: { ...process.env, npm_config_cache: path.join(project, 'cache') },
+  });
+  const [{ filename, files }] = JSON.parse(npm('pack', '--json', moduleFolder));
+  assert.deepEqual(files.map((file) => file.path).sort(),
+    ['folivar.node', 'index.d.ts', 'index.js', 'package.json']);
+
+  fs.writeFileSync(path.join(project, 'package.json'), '{"private": true}');
+  npm('install', '--offline', '--no-audit', '--no-fund', `./${filename}`);
+  const said = execFileSync(process.execPath, ['-p', "require('folivar').version"],
+    { cwd: project, encoding: 'utf8' });
+  assert.equal(said.trim(), folivar.version);
+});
