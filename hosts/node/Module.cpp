@@ -28,9 +28,8 @@ void DefineFunctions(Environment& environment, napi_value exports) {
 
 napi_value Load(napi_env env, napi_value exports) {
   const auto environment = std::make_shared<Environment>(env);
-  auto shared = std::make_unique<Shared>(environment);
-  Check(env, napi_set_instance_data(env, shared.get(), LetGo, nullptr));
-  shared.release();
+  Check(env, napi_set_instance_data(env, std::make_unique<Shared>(environment).release(), LetGo,
+                                    nullptr));
   napi_value version = nullptr;
   Check(env, napi_create_string_utf8(env, folivar_describe()->version, NAPI_AUTO_LENGTH, &version));
   Check(env, napi_set_named_property(env, exports, "version", version));

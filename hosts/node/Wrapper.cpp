@@ -29,10 +29,10 @@ napi_value Wrapper::Make(std::shared_ptr<HostValues> values, Held held, napi_val
   napi_env env = environment.Env();
   napi_value value = environment.Make(*folivar_class_of(held.get()), kept);
   std::unique_ptr<Wrapper> made(new Wrapper(std::move(values), std::move(held)));
-  Check(env, napi_wrap(env, value, made.get(), End, nullptr, &made->value_));
   environment.AddWrapper(made.get());
-  *folivar_slot(made->Object()) = made.get();
-  made.release();
+  void*& known = *folivar_slot(made->Object());
+  Check(env, napi_wrap(env, value, made.get(), End, nullptr, &made->value_));
+  known = made.release();
   Check(env, napi_object_seal(env, value));
   return value;
 }
