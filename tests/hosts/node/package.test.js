@@ -18,11 +18,18 @@ test('is installed and loaded', () => {
   });
   const [{ filename, files }] = JSON.parse(npm('pack', '--json', moduleFolder));
   assert.deepEqual(files.map((file) => file.path).sort(),
-    ['folivar.node', 'index.d.ts', 'index.js', 'package.json']);
+    ['NOTICE.txt', 'folivar.node', 'index.d.ts', 'index.js', 'package.json']);
 
   fs.writeFileSync(path.join(project, 'package.json'), '{"private": true}');
   npm('install', '--offline', '--no-audit', '--no-fund', `./${filename}`);
   const said = execFileSync(process.execPath, ['-p', "require('folivar').version"],
     { cwd: project, encoding: 'utf8' });
   assert.equal(said.trim(), folivar.version);
+});
+
+test('exports nothing but what Node asks for', () => {
+  const symbols = execFileSync('nm', ['-D', '--defined-only', path.join(moduleFolder, 'folivar.node')],
+    { encoding: 'utf8' });
+  assert.deepEqual(symbols.match(/\w+$/gm),
+    ['napi_register_module_v1', 'node_api_module_get_api_version_v1']);
 });
