@@ -48,6 +48,16 @@ test('identity', async () => {
   await collect();
   assert.equal(first.deref(), undefined);
   assert.equal(page.TextBoxes('box').Tag, tag);
+
+  // Fetched anew before the end of the first one has been noticed.
+  await collect();
+  const before = new WeakRef(page.TextBoxes('box'));
+  await new Promise((resolve) => setImmediate(resolve));
+  globalThis.gc();
+  assert.equal(before.deref(), undefined);
+  const box = page.TextBoxes('box');
+  await collect();
+  assert.equal(page.TextBoxes('box'), box);
 });
 
 test('ownership', async () => {

@@ -1,6 +1,7 @@
-"""Writes index.d.ts, what TypeScript and editors know of the module for Node.
+"""Writes what the package for Node has of the table: index.d.ts, what TypeScript and editors know of
+it, and index.mjs, in which `import` finds its names before it runs.
 
-make_typings.py Folivar.idl index.d.ts
+    make_package.py IDL OUTPUT_FOLDER
 """
 
 import pathlib
@@ -11,7 +12,7 @@ sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "table"))
 import idl  # noqa: E402
 
 HEAD = """\
-// Types of the module folivar; made from the description of the object model.
+// Types of the package folivar; made from the description of the object model.
 
 /** What is wrong with a call. */
 export class Error extends globalThis.Error {
@@ -59,13 +60,27 @@ DEFAULT, MEMBERS = 0, -4
 
 def main(source, output):
     library = idl.read(source)
+    output = pathlib.Path(output)
+    (output / "index.d.ts").write_text(typings(library), encoding="utf-8")
+    (output / "index.mjs").write_text(names_for_import(library), encoding="utf-8")
+
+
+def names_for_import(library):
+    names = ["Error", "version", "warnings", *(made.name for made in library.classes)]
+    for enumeration in library.enumerations:
+        names += [enumeration.name, *enumeration.constants]
+    return "\n".join(["import folivar from './index.js';", "", "export default folivar;",
+                      "export const {", *(f"  {name}," for name in names), "} = folivar;", ""])
+
+
+def typings(library):
     lines = [HEAD]
     for enumeration in library.enumerations:
         lines += constants_of(enumeration)
     lines.append(CLASS)
     for made in library.classes:
         lines += class_of(made)
-    pathlib.Path(output).write_text("\n".join(lines), encoding="utf-8")
+    return "\n".join(lines)
 
 
 def comment(text, indent=""):
