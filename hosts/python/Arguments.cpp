@@ -30,8 +30,8 @@ void PutNumber(folivar_value& value, double number) {
   value.as.number = number;
 }
 
-// A whole number of any size; what 64 bits cannot hold is the nearest number that the library
-// knows, so that the library says that it is too large.
+// A whole number of any size; what 64 bits cannot hold is the nearest number that there is, so that
+// the library says that it is too large.
 bool ConvertWhole(PyObject* whole, folivar_value& value) {
   int beyond = 0;
   const long long integer = PyLong_AsLongLongAndOverflow(whole, &beyond);
@@ -42,7 +42,7 @@ bool ConvertWhole(PyObject* whole, folivar_value& value) {
   PutNumber(value, PyLong_AsDouble(whole));
   if (value.as.number != -1 || PyErr_Occurred() == nullptr) return true;
   PyErr_Clear();
-  PutNumber(value, beyond * std::numeric_limits<double>::infinity());
+  PutNumber(value, beyond * std::numeric_limits<double>::max());
   return true;
 }
 
@@ -144,7 +144,9 @@ bool Arguments::ConvertOther(PyObject* object, std::int32_t type, folivar_value&
     const Owned whole(PyNumber_Index(object));
     return whole && ConvertWhole(whole.Get(), value);
   } else if (HasMethod(object, "__float__")) {
-    return ConvertNumber(object, value);
+    if (ConvertNumber(object, value)) return true;
+    if (PyErr_ExceptionMatches(PyExc_TypeError) == 0) return false;
+    PyErr_Clear();  // no number, after all: a complex one
   }
   // Anything else is for the library to refuse, as what no argument is.
   value = folivar_missing();
