@@ -494,29 +494,6 @@ class Semantics(unittest.TestCase):
             self.assertIsNone(one.Tag)
             self.assertIsNone(watched())
 
-    def test_tag_is_let_go_of_outside_the_library(self):
-        """A finalizer that uses the document finds it at rest; a long chain takes no stack."""
-        page, = self.pages("a")
-        found = []
-
-        class Finalized:
-            def __del__(self):
-                page.Tag = "of the finalizer"
-                found.append(page.Tag)
-
-        page.Tag = Finalized()
-        page.Tag = "next"
-        self.assertEqual(found, ["of the finalizer"])
-        self.assertEqual(page.Tag, "of the finalizer")
-        chain = None
-        for _ in range(20_000):
-            doc = folivar.PDFDocument()
-            doc.Tag = chain
-            chain = doc
-        watched = weakref.ref(doc)
-        del doc, chain
-        self.assertIsNone(watched())
-
     # Events and warnings
 
     def test_page_removed(self):

@@ -1,0 +1,132 @@
+"""What Python gives the library goes away at the right time, and at the end of a program too."""
+
+import subprocess
+import sys
+import unittest
+import weakref
+
+import folivar
+
+
+class Lifetime(unittest.TestCase):
+    def test_finalizer_finds_the_document_at_rest(self):
+        page = folivar.PDFDocument().Pages.Add()
+        found = []
+
+        class Finalized:
+            def __del__(self):
+                page.Tag = "of the finalizer"
+                found.append(page.Tag)
+
+        page.Tag = Finalized()
+        page.Tag = "next"
+        self.assertEqual(found, ["of the finalizer"])
+        self.assertEqual(page.Tag, "of the finalizer")
+
+    def test_finalizer_does_not_touch_an_error(self):
+        class Finalized:
+            def __del__(self):
+                try:
+                    folivar.PDFDocument().Pages(1)
+                except folivar.Error:
+                    pass
+
+        page = folivar.PDFDocument().Pages.Add()
+        page.PageRemoved(print)
+        page.Tag = Finalized()
+        with self.assertRaises(folivar.Error) as caught:
+            page.ParentDocument.Pages.Add(Finalized())
+        self.assertEqual(caught.exception.number, 13)
+
+    def test_long_chain_takes_no_stack(self):
+        chain = None
+        for _ in range(20_000):
+            doc = folivar.PDFDocument()
+            doc.Tag = chain
+            chain = doc
+        watched = weakref.ref(doc)
+        del doc, chain
+        self.assertIsNone(watched())
+
+    def test_handler_that_unsubscribes_itself_may_go_away(self):
+        doc = folivar.PDFDocument()
+        page = doc.Pages.Add("a")
+        heard = []
+
+        def handle(removed):
+            nonlocal stop
+            stop()
+            stop = None
+            heard.append(removed)
+
+        watched = weakref.ref(handle)
+        stop = page.PageRemoved(handle)
+        del handle
+        doc.Pages.Remove("a")
+        self.assertEqual(heard, [page])
+        self.assertIsNone(watched())
+
+    def test_weak_reference_that_fetches_the_object_anew(self):
+        doc = folivar.PDFDocument()
+        fetched = []
+        page = doc.Pages.Add("a")
+        watched = weakref.ref(page, lambda gone: fetched.append(doc.Pages("a")))
+        del page
+        self.assertIsNone(watched())
+        self.assertIs(fetched[0], doc.Pages("a"))
+
+    def test_second_import_is_a_module_of_its_own(self):
+        first = sys.modules.pop("folivar")
+        try:
+            import folivar as second
+            self.assertIsNot(first, second)
+            page = second.PDFDocument().Pages.Add("a")
+            self.assertIs(type(page), second.PDFPage)
+            with self.assertRaises(first.Error):
+                first.PDFDocument().Pages(page)
+        finally:
+            sys.modules["folivar"] = first
+
+    def assert_ends_well(self, script):
+        ran = subprocess.run([sys.executable, "-c", script], capture_output=True, text=True,
+                             check=False)
+        self.assertEqual((ran.returncode, ran.stderr), (0, ""))
+
+    def test_program_that_ends_with_documents(self):
+        self.assert_ends_well("""
+import folivar
+class Value:
+    def __del__(self):
+        doc.Pages.Add()
+doc = folivar.PDFDocument()
+page = doc.Pages.Add("a")
+page.Tag = [doc, Value()]
+stop = page.PageRemoved(lambda page: doc)
+folivar.warnings(lambda text: page)
+builtin = __import__("builtins")
+builtin.kept = doc.Pages
+""")
+
+    def test_program_that_ends_while_others_save(self):
+        self.assert_ends_well("""
+import os, threading, time
+import folivar
+started = threading.Semaphore(0)
+def save():
+    doc = folivar.PDFDocument()
+    page = doc.Pages.Add()
+    for y in range(20000):
+        page.DrawText("some text", 72, y)
+    started.release()
+    while True:
+        doc.SavePDFFile(os.devnull)
+for _ in range(4):
+    threading.Thread(target=save, daemon=True).start()
+for _ in range(4):
+    started.acquire()
+time.sleep(0.05)
+""")
+
+
+if __name__ == "__main__":
+    unittest.main()
