@@ -11,13 +11,12 @@ namespace folivar::python {
 // it again.
 class InterpreterLock {
  public:
-  // What the work gives, while which other threads run Python code. (No destructor takes the lock:
-  // Python may end the thread that waits for it, when the program ends.)
+  // What the work gives, while which other threads run Python code.
   template <class Work>
   static auto Without(const Work& work) {
     released_ = PyEval_SaveThread();
     const auto result = work();
-    PyEval_RestoreThread(std::exchange(released_, nullptr));
+    Take(std::exchange(released_, nullptr));
     return result;
   }
 
@@ -26,13 +25,16 @@ class InterpreterLock {
   static auto With(const Work& work) {
     PyThreadState* const released = std::exchange(released_, nullptr);
     if (released == nullptr) return work();
-    PyEval_RestoreThread(released);
+    Take(released);
     const auto result = work();
     released_ = PyEval_SaveThread();
     return result;
   }
 
  private:
+  // Does not come back once the program ends.
+  static void Take(PyThreadState* released);
+
   // Of a thread that has let go of the lock, what it takes it with.
   static inline constinit thread_local PyThreadState* released_ = nullptr;
 };

@@ -13,7 +13,7 @@ import folivar
 
 DOCUMENTS = 10_000
 # Until the caches of Python and malloc are full.
-WARM_UP = 3_000
+WARM_UP = 5_000
 # Caches still come and go; but no block of malloc's is as small as this for each document.
 TOLERATED_BYTES = 8 * DOCUMENTS
 
