@@ -22,8 +22,7 @@ class Arguments {
  public:
   static constexpr std::size_t kMost = 16;
 
-  // Not one of them is touched before it is needed.
-  explicit Arguments(const State& state) : state_(state) {}  // NOLINT
+  explicit Arguments(const State& state) : state_(state) {}
   Arguments(const Arguments&) = delete;
   Arguments& operator=(const Arguments&) = delete;
 
@@ -44,7 +43,7 @@ class Arguments {
 
   const State& state_;
   std::size_t count_ = 0;
-  folivar_value values_[kMost];
+  folivar_value values_[kMost];  // not touched before they are needed, nor is what texts need
   Texts texts_;
 };
 

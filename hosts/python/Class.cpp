@@ -23,8 +23,8 @@ namespace {
 constexpr std::int32_t kItem = 0;
 constexpr std::int32_t kElements = -4;
 
-// Where a type has its Class.
-constexpr char kClass[] = "__description__";
+// Where a type whose objects can be created has its Class.
+constexpr char kClass[] = "_class";
 
 PyMemberDef weakReferences[] = {
     {"__weaklistoffset__", T_PYSSIZET, offsetof(Wrapper, weakReferences), READONLY, nullptr},
@@ -92,9 +92,13 @@ bool Class::AddTo(PyObject* module) {
                              Py_TPFLAGS_DEFAULT | Py_TPFLAGS_HAVE_GC, slots.data()};
   PyObject* const type = PyType_FromSpec(&description);
   type_ = reinterpret_cast<PyTypeObject*>(type);
-  const Owned capsule(type == nullptr ? nullptr : PyCapsule_New(this, nullptr, nullptr));
-  return capsule && PyObject_SetAttrString(type, kClass, capsule.Get()) == 0 &&
+  return type != nullptr && (!description_.is_creatable || LinkFrom(type)) &&
          PyObject_SetAttrString(module, Name(), type) == 0;
+}
+
+bool Class::LinkFrom(PyObject* type) {
+  const Owned capsule(PyCapsule_New(this, nullptr, nullptr));
+  return capsule && PyObject_SetAttrString(type, kClass, capsule.Get()) == 0;
 }
 
 bool Class::PrepareMembers() {

@@ -51,6 +51,7 @@ class Class {
  private:
   void Add(const folivar_member& description);
   bool IsCollection() const;
+  bool LinkFrom(PyObject* type);
   bool PrepareMembers();
   void DescribeMember(const Member& member);
   std::vector<PyType_Slot> Slots();

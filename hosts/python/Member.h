@@ -43,7 +43,7 @@ class Member {
   bool IsProperty() const { return !IsEvent() && !Does(FOLIVAR_CALL) && Parameters().empty(); }
   bool IsEvent() const { return kind_ == Kind::kEvent; }
   bool IsLong() const { return (description_.traits & FOLIVAR_LONG_CALL) != 0; }
-  // Whether it takes any value of Python's.
+  // Whether it takes any value of Python's: of the properties without a type, tags alone do.
   bool IsTag() const { return isTag_; }
 
   // The enumeration that it gives a value of; null for none.

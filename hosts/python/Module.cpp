@@ -81,7 +81,7 @@ PyModuleDef_Slot slots[] = {{Py_mod_exec, reinterpret_cast<void*>(&Execute)}, {0
 PyModuleDef definition = {PyModuleDef_HEAD_INIT,
                           "folivar",
                           "PDF documents: the object model of Folivar",
-                          sizeof(State*),
+                          sizeof(void*),  // a State
                           functions,
                           slots,
                           nullptr,

@@ -27,10 +27,10 @@ std::size_t Names::Distance(std::string_view name, std::string_view other) {
   // Of the letters of `name` so far to each beginning of `other`.
   std::array<std::size_t, kLongest + 1> distances;
   for (std::size_t i = 0; i <= other.size(); ++i) distances[i] = i;
-  for (std::size_t row = 0; row < name.size(); ++row) {
+  for (const char letter : name) {
     std::size_t across = distances[0]++;
     for (std::size_t i = 0; i < other.size(); ++i) {
-      const std::size_t changed = across + (IsSameLetter(name[row], other[i]) ? 0 : 1);
+      const std::size_t changed = across + (IsSameLetter(letter, other[i]) ? 0 : 1);
       across = distances[i + 1];
       distances[i + 1] = std::min({changed, across + 1, distances[i] + 1});
     }

@@ -24,12 +24,12 @@ bool ToAscii(const wchar_t* characters, std::size_t count, char* bytes) {
 std::size_t ToUtf16(const wchar_t* characters, std::size_t count, std::uint16_t* units) {
   std::uint16_t* next = units;
   for (std::size_t i = 0; i < count; ++i) {
-    const auto character = static_cast<std::uint32_t>(characters[i]);
+    const auto character = static_cast<char32_t>(characters[i]);
     if (character < 0x10000) {
       *next++ = static_cast<std::uint16_t>(character);
       continue;
     }
-    const std::uint32_t beyond = character - 0x10000;
+    const char32_t beyond = character - 0x10000;
     *next++ = static_cast<std::uint16_t>(0xD800 + (beyond >> 10));
     *next++ = static_cast<std::uint16_t>(0xDC00 + (beyond & 0x3FF));
   }

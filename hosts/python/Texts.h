@@ -14,7 +14,7 @@ namespace folivar::python {
 // lone surrogates are what they are. Short ones take no memory.
 class Texts {
  public:
-  Texts() {}  // NOLINT: nothing is touched before it is needed
+  Texts() = default;
   Texts(const Texts&) = delete;
   Texts& operator=(const Texts&) = delete;
 

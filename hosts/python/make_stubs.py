@@ -16,9 +16,14 @@ HEAD = '''"""PDF documents: the object model of Folivar"""
 from collections.abc import Callable, Iterator
 from enum import IntEnum
 from os import PathLike
-from typing import Any, Final, NamedTuple, NoReturn, Protocol
+from typing import Any, Final, Generic, NamedTuple, Protocol, TypeVar, final
 
 __version__: str
+
+_T = TypeVar("_T", contravariant=True)
+
+class _SetOnly(Generic[_T]):
+    def __set__(self, instance: object, newValue: _T, /) -> None: ...
 
 class _Logger(Protocol):
     def warning(self, message: str, /) -> object: ...
@@ -62,7 +67,7 @@ def enumeration_stub(enumeration):
 
 
 def class_stub(made):
-    lines = [f"class {made.name}:", f'    """{made.help}"""', ""]
+    lines = ["@final", f"class {made.name}:", f'    """{made.help}"""', ""]
     if made.is_creatable:
         lines.append("    def __init__(self) -> None: ...")
     for member in made.members:
@@ -85,8 +90,9 @@ def method(made, member, name=None):
 
 
 def attribute(member):
-    given = given_for(member.type)
-    result = result_of(member.type) if member.can_be_read else "NoReturn"
+    given, result = given_for(member.type), result_of(member.type)
+    if not member.can_be_read:
+        return [f"    {member.name}: _SetOnly[{given}]"]
     if "setref" in member.functions and member.type.of:
         given = result = f"{member.type.of} | None"
     lines = ["    @property", f"    def {member.name}(self) -> {result}:", docstring(member)]
