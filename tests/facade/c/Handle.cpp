@@ -25,6 +25,7 @@ void RaiseIfFailed(std::int32_t number) {
 void Invoke(folivar_object* object, const Member& member, const std::vector<Argument>& arguments,
             Result& result) {
   std::vector<folivar_value> borrowed;
+  borrowed.reserve(arguments.size());
   for (const Argument& argument : arguments) borrowed.push_back(argument.Borrowed());
   RaiseIfFailed(folivar_invoke(object, member.id, NumberOf(member.action), borrowed.data(),
                                borrowed.size(), result.Address()));

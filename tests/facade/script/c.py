@@ -10,6 +10,8 @@ PRELUDE = '''\
 
 #define CALL(call) RequireCall(__LINE__, call)
 #define EXPECT(holds) RequireValue(__LINE__, holds)
+// Forgotten too: what is left of it is a leak that can be found.
+#define RELEASE(object) (folivar_release(object), (object) = NULL)
 
 static void RequireCall(int line, int32_t error) {
   if (error == 0) return;
@@ -51,7 +53,7 @@ def variables(steps):
     """What is found and what is reached, each with its type."""
     found = {(RESULTS.get(step.member.type.kind, "folivar_value"), result(step))
              for step in steps if step.action == "get"}
-    objects = {step.object for step in steps}
+    objects = {step.value if step.action == "reach" else step.object for step in steps}
     return sorted(found | {(f"folivar_{made.of}*", variable(made)) for made in objects})
 
 
@@ -89,7 +91,7 @@ def expectations(step):
 
 
 def release(step):
-    return f"folivar_release({variable(step.object)});"
+    return f"RELEASE({variable(step.object)});"
 
 
 LINES = {"create": create, "reach": reach, "call": call, "set": assign, "get": get,

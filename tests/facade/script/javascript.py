@@ -13,8 +13,8 @@ const folivar = require(process.argv[2]);
 
 
 def script(steps):
-    names = sorted({step.object.name for step in steps} |
-                   {step.value.name for step in steps if step.action == "reach"})
+    names = sorted({(step.value if step.action == "reach" else step.object).name
+                    for step in steps})
     lines = [f"let {', '.join(names)};"] + [LINES[step.action](step) + ";" for step in steps]
     return PRELUDE + "".join(line + "\n" for line in lines) + 'console.log("DONE");\n'
 
