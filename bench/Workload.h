@@ -95,6 +95,8 @@ class Sequence {
 // Lines of 80 characters, like those of a ledger; one in eight has parentheses.
 class Lines {
  public:
+  static constexpr std::size_t kCount = 64;
+
   Lines() {
     static constexpr std::array<std::string_view, 12> kWords = {
         "invoice", "delivery", "transfer", "of", "the",    "monthly",
@@ -115,7 +117,7 @@ class Lines {
 
  private:
   static constexpr std::size_t kLength = 80;
-  std::array<std::string, 64> lines_;
+  std::array<std::string, kCount> lines_;
 };
 
 // What a template shows within its box: lines of text in a black frame.
