@@ -62,8 +62,9 @@ function positionOf(name) {
 
 // Names
 
-// What the language and its tools ask every object for.
-const ASKED_FOR = new Set(['then', 'toJSON', 'inspect']);
+// What the language and its tools ask every object for, to find out whether it is a promise, say,
+// or a URL.
+const ASKED_FOR = new Set(['href', 'inspect', 'then', 'toJSON']);
 const isTheLanguages = (name) =>
   typeof name === 'symbol' || name in Object.prototype || ASKED_FOR.has(name);
 

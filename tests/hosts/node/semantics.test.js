@@ -291,7 +291,7 @@ test('collections', () => {
   const keys = [];
   for (const page of Pages) keys.push(page.Key);
   assert.deepEqual(keys, ['a', 'b']);
-  assert.deepEqual([...Pages], [Pages(1), Pages(2)]);
+  assert.ok([...Pages].every((page, i) => page === Pages(i + 1)));
   assert.ok(Pages instanceof folivar.PDFPages);
 
   const { Fonts } = document;
@@ -390,6 +390,10 @@ test('what the language asks for', async () => {
   assert.equal(page[Symbol('any')], undefined);
   assert.equal(page.hasOwnProperty('Key'), false);
   assert.notDeepEqual(page, document);
+  assert.deepEqual({ page }, { page });
+  assert.throws(() => assert.equal(page, document.Pages.Add('b')), assert.AssertionError);
+  assert.throws(() => assert.deepEqual([document.Pages], [document.Templates]),
+    assert.AssertionError);
 });
 
 test('unknown_attribute', () => {
@@ -590,13 +594,13 @@ test('page_removed', () => {
   const document = documentOf('a', 'b', 'c');
   const page = document.Pages('a');
   const heard = [];
-  const unsubscribe = page.PageRemoved((removed) => heard.push(['first', removed]));
-  page.PageRemoved((removed) => heard.push(['second', removed]));
+  const unsubscribe = page.PageRemoved((removed) => heard.push(['first', removed === page]));
+  page.PageRemoved((removed) => heard.push(['second', removed === page]));
   const third = page.PageRemoved(() => heard.push(['third']));
   third();
   assert.equal(third(), undefined);
   document.Pages.Remove('a');
-  assert.deepEqual(heard, [['first', page], ['second', page]]);
+  assert.deepEqual(heard, [['first', true], ['second', true]]);
   unsubscribe();
 
   const other = document.Pages('b');
