@@ -41,8 +41,20 @@ Wrapper& ReceiverOf(const Member& member, napi_value self) {
   return *wrapper;
 }
 
+// What a call adds to a document besides texts.
+constexpr std::size_t kBytesOfACall = 64;
+
+std::size_t WeightOf(const folivar_value* arguments, std::size_t count) {
+  std::size_t weight = kBytesOfACall;
+  for (std::size_t i = 0; i < count; ++i) {
+    if (arguments[i].kind == FOLIVAR_UTF16) weight += arguments[i].with.length;
+  }
+  return weight;
+}
+
 folivar_value Invoke(const Member& member, const Wrapper& object, std::int32_t action,
                      folivar_value* arguments, std::size_t count) {
+  if (action != FOLIVAR_GET) object.Values().Memory().Add(WeightOf(arguments, count));
   Invocation invocation(member.environment);
   folivar_value result = folivar_missing();
   invocation.Finish(folivar_invoke(object.Object(), member.description.id,

@@ -5,7 +5,7 @@
 namespace folivar::node {
 
 HostValues::HostValues(std::shared_ptr<Environment> environment)
-    : environment_(std::move(environment)) {
+    : environment_(std::move(environment)), memory_(environment_->Env()) {
   napi_env env = environment_->Env();
   napi_value object = nullptr;
   Check(env, napi_create_object(env, &object));

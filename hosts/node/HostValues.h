@@ -3,10 +3,12 @@
 #include <memory>
 
 #include "hosts/node/Environment.h"
+#include "hosts/node/ExternalMemory.h"
 
 namespace folivar::node {
 
-// The values of a document that are JavaScript's own: tags, handlers, where warnings go.
+// The values of a document that are JavaScript's own: tags, handlers, where warnings go. It lasts
+// as long as the document.
 //
 // They are properties of a JavaScript object, which the document's wrapper keeps alive, and the
 // library only knows their keys. So a garbage collection sees every circle that leads through a
@@ -20,6 +22,9 @@ class HostValues : public std::enable_shared_from_this<HostValues> {
   HostValues& operator=(const HostValues&) = delete;
 
   Environment& TheEnvironment() const { return *environment_; }
+
+  // What the document weighs.
+  ExternalMemory& Memory() { return memory_; }
 
   // Null once it is gone.
   napi_value Object() const;
@@ -53,6 +58,7 @@ class HostValues : public std::enable_shared_from_this<HostValues> {
 
  private:
   std::shared_ptr<Environment> environment_;
+  ExternalMemory memory_;
   napi_ref object_ = nullptr;  // weak
 };
 
