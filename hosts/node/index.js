@@ -163,6 +163,8 @@ function classOf(type) {
   const { name, prototype } = type;
   const constructor = { [name]: function () {
     if (!type.isCreatable) throw new TypeError(`${name} cannot be created: a document makes it`);
+    // Its objects would not be of the class that extends this one.
+    if (new.target && new.target !== constructor) throw new TypeError(`${name} cannot be extended`);
     return native.create(name, showWarning);
   } }[name];
   Object.defineProperty(constructor, 'prototype', { value: prototype, writable: false });

@@ -764,6 +764,7 @@ test('creation', () => {
   const documents = [folivar.PDFDocument(), new folivar.PDFDocument()];
   for (const document of documents) assert.ok(document instanceof folivar.PDFDocument);
   assert.notEqual(documents[0], documents[1]);
+  refuses(/PDFDocument/, () => new class extends folivar.PDFDocument {}());
   for (const name of Object.keys(folivar).filter((key) => /^PDF/.test(key))) {
     if (name === 'PDFDocument' || typeof folivar[name] !== 'function') continue;
     refuses(new RegExp(name), () => folivar[name]());
