@@ -26,7 +26,8 @@ const COLUMNS = [
   { title: 'Amount', left: 454, width: 85, align: folivar.htaRight },
 ];
 
-const money = new Intl.NumberFormat('en-GB', { minimumFractionDigits: 2, maximumFractionDigits: 2 });
+const money = new Intl.NumberFormat('en-GB',
+  { minimumFractionDigits: 2, maximumFractionDigits: 2 });
 const plain = new Intl.NumberFormat('en-GB', { maximumFractionDigits: 3 });
 
 class Invoice {
@@ -106,7 +107,8 @@ class Invoice {
     this.page.GraphicsState.FillColor = color;
     this.page.Font = font;
     for (const [i, { left, width, align }] of COLUMNS.entries()) {
-      this.page.DrawTextAligned(this.fitting(cells[i], font, width), left, y + 8, width, ROW, align);
+      const text = this.fitting(cells[i], font, width);
+      this.page.DrawTextAligned(text, left, y + 8, width, ROW, align);
     }
   }
 

@@ -125,8 +125,10 @@ test('the server survives who does not wait', () => withServer(async (base, fold
 test('the server as a program', async () => {
   const server = spawn(process.execPath, [path.join(examples, 'server.js'), '0']);
   const [line] = await once(server.stdout.setEncoding('utf8'), 'data');
-  const answer = await fetch(`${line.trim()}?to=a&item=a;1;1`, { headers: { connection: 'close' } });
-  assert.equal((await answer.arrayBuffer()).byteLength, Number(answer.headers.get('content-length')));
+  const answer = await fetch(`${line.trim()}?to=a&item=a;1;1`,
+    { headers: { connection: 'close' } });
+  const { byteLength } = await answer.arrayBuffer();
+  assert.equal(byteLength, Number(answer.headers.get('content-length')));
   server.kill('SIGTERM');
   assert.deepEqual(await once(server, 'exit'), [0, null]);
 });

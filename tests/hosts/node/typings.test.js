@@ -26,8 +26,8 @@ const program = ts.createProgram([programFile], {
 const checker = program.getTypeChecker();
 
 // The exports of index.d.ts by their names.
-const exported = new Map(checker.getExportsOfModule(
-  checker.getSymbolAtLocation(program.getSourceFile(typingsFile))).map((each) => [each.name, each]));
+const typings = checker.getSymbolAtLocation(program.getSourceFile(typingsFile));
+const exported = new Map(checker.getExportsOfModule(typings).map((each) => [each.name, each]));
 
 test('a program that is right where it should be and wrong where it should be', () => {
   const wrong = ts.getPreEmitDiagnostics(program);
@@ -41,7 +41,8 @@ test('what is right runs', () => {
     compilerOptions: { module: ts.ModuleKind.CommonJS, target: ts.ScriptTarget.ES2022 },
   });
   const exports = {};
-  new Function('require', 'exports', 'console', outputText)(() => folivar, exports, { warn: ([number]) => assert.equal(number, 9) });
+  const console = { warn: ([number]) => assert.equal(number, 9) };
+  new Function('require', 'exports', 'console', outputText)(() => folivar, exports, console);
   assert.deepEqual(exports.keys, ['c', 'd', 'a', 'b', '']);
 });
 
