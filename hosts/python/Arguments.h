@@ -11,7 +11,6 @@
 
 namespace folivar::python {
 
-class HostValue;
 class Member;
 class State;
 struct Wrapper;

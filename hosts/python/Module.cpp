@@ -4,6 +4,7 @@
 
 #include <new>
 #include <span>
+#include <utility>
 
 #include "hosts/c/folivar.h"
 #include "hosts/python/Owned.h"

@@ -1,6 +1,5 @@
 #include "hosts/python/Texts.h"
 
-#include <array>
 #include <bit>
 #include <new>
 #include <utility>

@@ -8,14 +8,21 @@
 #include "hosts/python/State.h"
 
 namespace folivar::python {
+namespace {
+
+PyObject* WrapperIn(void** slot) { return Owned::Share(static_cast<PyObject*>(*slot)).Give(); }
+
+void Free(PyObject* self) {
+  const Owned type(reinterpret_cast<PyObject*>(Py_TYPE(self)));
+  PyObject_GC_UnTrack(self);
+  PyObject_GC_Del(self);
+}
+
+}  // namespace
 
 PyObject* Wrapper::Wrap(const State& state, folivar_object* handle) {
   void** const slot = folivar_slot(handle);
-  if (*slot != nullptr) {
-    auto* const known = static_cast<PyObject*>(*slot);
-    Py_INCREF(known);
-    return known;
-  }
+  if (*slot != nullptr) return WrapperIn(slot);
   folivar_object* const document = folivar_document(handle);
   Owned wrapperOfDocument(document == handle ? nullptr : Wrap(state, document));
   if (document != handle && !wrapperOfDocument) return nullptr;
@@ -23,6 +30,11 @@ PyObject* Wrapper::Wrap(const State& state, folivar_object* handle) {
   const Class& type = state.ClassOf(handle);
   PyObject* const self = PyType_GenericAlloc(type.Type(), 0);
   if (self == nullptr) return nullptr;
+  // Making it may have woken the garbage collector, and that any code.
+  if (*slot != nullptr) {
+    Free(self);
+    return WrapperIn(slot);
+  }
   Wrapper& made = Of(self);
   new (&made.values) RingLink;
   folivar_retain(handle);
@@ -45,9 +57,7 @@ void Wrapper::Deallocate(PyObject* self) {
   ReleasedValues& released = wrapper.type->TheState().released;
   auto* const document = reinterpret_cast<PyObject*>(wrapper.document);
 
-  PyTypeObject* const type = Py_TYPE(self);
-  PyObject_GC_Del(self);
-  Py_DECREF(reinterpret_cast<PyObject*>(type));
+  Free(self);
   Py_XDECREF(document);
   released.LetGo();
 }

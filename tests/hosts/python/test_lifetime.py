@@ -1,5 +1,8 @@
 """What Python gives the library goes away at the right time, and at the end of a program too."""
 
+import copy
+import gc
+import pickle
 import subprocess
 import sys
 import unittest
@@ -74,6 +77,38 @@ class Lifetime(unittest.TestCase):
         del page
         self.assertIsNone(watched())
         self.assertIs(fetched[0], doc.Pages("a"))
+
+    def test_garbage_collector_that_fetches_the_object_meanwhile(self):
+        """An object may be wrapped by a finalizer while its wrapper is being made."""
+        doc = folivar.PDFDocument()
+        doc.Pages.Add("a")
+        fetched = []
+
+        class Fetching:
+            def __init__(self):
+                self.cycle = self
+
+            def __del__(self):
+                fetched.append(doc.Pages("a"))
+
+        self.addCleanup(gc.set_threshold, *gc.get_threshold())
+        for threshold in range(1, 40):
+            gc.collect()
+            Fetching()
+            gc.set_threshold(threshold)
+            pages = [doc.Pages("a") for _ in range(40)]
+            gc.set_threshold(0)
+            self.assertEqual(len({id(page) for page in pages + fetched}), 1)
+            del pages
+            fetched.clear()
+
+    def test_objects_are_not_copied(self):
+        doc = folivar.PDFDocument()
+        for one in (doc, doc.Pages.Add("a"), doc.Pages):
+            with self.assertRaises(TypeError):
+                copy.copy(one)
+            with self.assertRaises(TypeError):
+                pickle.dumps(one)
 
     def test_second_import_is_a_module_of_its_own(self):
         first = sys.modules.pop("folivar")
