@@ -5,6 +5,7 @@ import gc
 import pickle
 import subprocess
 import sys
+import threading
 import unittest
 import weakref
 
@@ -48,7 +49,12 @@ class Lifetime(unittest.TestCase):
             doc.Tag = chain
             chain = doc
         watched = weakref.ref(doc)
-        del doc, chain
+        chain = [doc]
+        del doc
+        self.addCleanup(threading.stack_size, threading.stack_size(1 << 20))
+        thread = threading.Thread(target=chain.clear)
+        thread.start()
+        thread.join()
         self.assertIsNone(watched())
 
     def test_handler_that_unsubscribes_itself_may_go_away(self):
