@@ -57,5 +57,8 @@ if(TARGET folivar_c)
 endif()
 
 # The metrics travel inside the library, and their notice must travel with them.
-install(FILES "${PROJECT_SOURCE_DIR}/folivar/fonts/afm/NOTICE.txt"
-        DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+set(notice "${PROJECT_SOURCE_DIR}/folivar/fonts/afm/NOTICE.txt")
+install(FILES "${notice}" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+if(TARGET folivar_c)
+  install(FILES "${notice}" DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT c)
+endif()
