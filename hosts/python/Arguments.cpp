@@ -139,7 +139,7 @@ bool Arguments::ConvertOther(PyObject* object, std::int32_t type, folivar_value&
   if (type == FOLIVAR_TYPE_TEXT && HasMethod(object, "__fspath__")) {
     const Owned path(PyOS_FSPath(object));
     if (!path) return false;
-    if (PyUnicode_Check(path.Get())) return texts_.Convert(path.Get(), value);
+    if (PyUnicode_Check(path.Get())) return texts_.ConvertCopy(path.Get(), value);
   } else if (HasMethod(object, "__index__")) {
     const Owned whole(PyNumber_Index(object));
     return whole && ConvertWhole(whole.Get(), value);

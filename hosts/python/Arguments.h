@@ -42,7 +42,7 @@ class Arguments {
 
   const State& state_;
   std::size_t count_ = 0;
-  folivar_value values_[kMost];  // not touched before they are needed, nor is what texts need
+  folivar_value values_[kMost];  // not touched before they are needed
   Texts texts_;
 };
 

@@ -15,8 +15,8 @@ NM = sys.argv.pop(1)
 FILE = pathlib.Path(folivar.__file__)
 
 # All that the limited API has behind its macros of what begins so.
-UNDERSCORED = {"_Py_Dealloc", "_Py_EllipsisObject", "_Py_FalseStruct", "_Py_NoneStruct",
-               "_Py_NotImplementedStruct", "_Py_TrueStruct"}
+UNDERSCORED = {"_PyArg_Parse_SizeT", "_Py_Dealloc", "_Py_EllipsisObject", "_Py_FalseStruct",
+               "_Py_NoneStruct", "_Py_NotImplementedStruct", "_Py_TrueStruct"}
 
 
 def symbols(*options):
