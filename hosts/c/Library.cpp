@@ -29,10 +29,10 @@ constexpr std::int32_t kNoMember = 438;
 // The time for which this thread uses a document.
 class Turn {
  public:
-  explicit Turn(Usage& usage) : usage_(usage) {
-    if (!usage_.Enter()) {
-      throw Error::PermissionDenied("the document is being used by another thread");
-    }
+  Turn(Usage& usage, const folivar_class& type, const char* member) : usage_(usage) {
+    if (usage_.Enter()) return;
+    throw Error::PermissionDenied("the document is being used by another thread")
+        .WithMember(std::string(type.name) + "." + member);
   }
   ~Turn() { usage_.Leave(); }
   Turn(const Turn&) = delete;
@@ -97,19 +97,19 @@ folivar_object* Create(std::string_view name, Platform platform) {
 
 void Invoke(folivar_object& object, std::int32_t id, std::int32_t action, folivar_value* arguments,
             std::size_t count, folivar_value* result) {
-  const Turn turn(object.TheUsage());
   const Class& type = object.TheClass();
   const std::int32_t verb = action & ~FOLIVAR_GIVE_UTF16;
   const Entry* entry = type.Find(id);
   if (entry == nullptr) throw NoMember(type, "member ", id);
-  if ((entry->member->actions & verb) == 0 || (verb & (verb - 1)) != 0) {
+  const folivar_member& member = *entry->member;
+  if ((member.actions & verb) == 0 || (verb & (verb - 1)) != 0) {
     throw Error(kNoMember, "cannot be used so")
-        .WithMember(std::string(type.description->name) + "." + entry->member->name);
+        .WithMember(std::string(type.description->name) + "." + member.name);
   }
+  const Turn turn(object.TheUsage(), *type.description, member.name);
   const Run run = verb == FOLIVAR_SET ? entry->write : entry->read;
   Answer answer(object, verb != action, result);
-  run(*object.TheObject(), Arguments(*type.description, *entry->member, verb, arguments, count),
-      answer);
+  run(*object.TheObject(), Arguments(*type.description, member, verb, arguments, count), answer);
 }
 
 // A tag's pointer that nobody has taken over is given back.
@@ -176,10 +176,11 @@ int32_t folivar_subscribe(folivar_object* object, int32_t id, const folivar_call
     *subscription = 0;
     const std::shared_ptr<folivar_callback> taken = TakeOver(*handler);
     RequireObject(object);
-    const Turn turn(object->TheUsage());
     const Class& type = object->TheClass();
     for (std::size_t i = 0; i < type.events.size(); ++i) {
-      if (type.description->events[i].id != id) continue;
+      const folivar_member& event = type.description->events[i];
+      if (event.id != id) continue;
+      const Turn turn(object->TheUsage(), *type.description, event.name);
       *subscription = object->AddSubscription(type.events[i](*object, taken));
       return;
     }
@@ -190,7 +191,7 @@ int32_t folivar_subscribe(folivar_object* object, int32_t id, const folivar_call
 int32_t folivar_unsubscribe(folivar_object* object, int64_t subscription) {
   return Guarded([&] {
     RequireObject(object);
-    const Turn turn(object->TheUsage());
+    const Turn turn(object->TheUsage(), *object->TheClass().description, "folivar_unsubscribe");
     object->RemoveSubscription(subscription);
   });
 }

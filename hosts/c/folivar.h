@@ -183,9 +183,10 @@ enum folivar_type {
 };
 
 enum folivar_trait {
-  FOLIVAR_OPTIONAL = 1,  // a parameter that may be left out
-  FOLIVAR_FILLED = 2,    // a parameter that the member puts a number into
-  FOLIVAR_LONG_CALL = 4  // a member that may read or write files, and so may take its time
+  FOLIVAR_OPTIONAL = 1,   // a parameter that may be left out
+  FOLIVAR_FILLED = 2,     // a parameter that the member puts a number into
+  FOLIVAR_LONG_CALL = 4,  // a member that may read or write files, and so may take its time
+  FOLIVAR_TAG = 8         // a property that keeps any value for the host, FOLIVAR_HOST too
 };
 
 typedef struct folivar_parameter {

@@ -137,7 +137,7 @@ napi_value SetMember(napi_env env, napi_callback_info info) {
     napi_value wanted = called.arguments[0];
     GivenValues given(member.environment);
     folivar_value value = folivar_missing();
-    if (member.description.type == FOLIVAR_TYPE_VALUE && IsJavaScriptsOwn(env, wanted)) {
+    if ((member.description.traits & FOLIVAR_TAG) != 0 && IsJavaScriptsOwn(env, wanted)) {
       value = TagOf(object.Values(), wanted);
     } else {
       value = given.Of(wanted);

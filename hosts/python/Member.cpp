@@ -32,7 +32,7 @@ Member::Member(const State& state, const folivar_class& owner, const folivar_mem
       kind_(kind),
       fullName_(std::string(owner.name) + "." + description.name),
       resultEnumeration_(state.EnumerationOf(description.of)),
-      isTag_(description.type == FOLIVAR_TYPE_VALUE && Name() == std::string_view("Tag")),
+      isTag_((description.traits & FOLIVAR_TAG) != 0),
       documentation_(DocumentationOf(*this)) {
   for (const folivar_parameter& parameter : Parameters()) {
     if (!IsFilled(parameter)) ++givenCount_;

@@ -82,6 +82,11 @@ class Member:
         return "set" in self.functions or "setref" in self.functions
 
     @property
+    def is_tag(self):
+        """Whether it keeps any value for the host: it is let values and set to objects."""
+        return "set" in self.functions and "setref" in self.functions
+
+    @property
     def is_restricted(self):
         return any(function.is_restricted for function in self.functions.values())
 

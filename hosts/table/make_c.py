@@ -246,11 +246,13 @@ def default_value(parameter, constants):
 
 def member_row(made, member):
     actions = sorted({ACTIONS[action] for action in member.functions})
-    traits = "FOLIVAR_LONG_CALL" if (made.name, member.name) in core.LONG_CALLS else "0"
+    traits = [name for name, is_so in (
+        ("FOLIVAR_LONG_CALL", (made.name, member.name) in core.LONG_CALLS),
+        ("FOLIVAR_TAG", member.is_tag)) if is_so]
     parameters = (f"k{made.name}{member.name}, {len(member.parameters)}" if member.parameters
                   else "nullptr, 0")
     return (f"    {{{literal(member.name)}, {literal(member.help)}, {member.id}, "
-            f"{' | '.join(actions)}, {traits}, FOLIVAR_TYPE_{member.type.kind.upper()}, "
+            f"{' | '.join(actions)}, {' | '.join(traits) or '0'}, FOLIVAR_TYPE_{member.type.kind.upper()}, "
             f"{of(member.type)}, {parameters}}},")
 
 

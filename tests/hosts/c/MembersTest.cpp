@@ -124,6 +124,7 @@ TEST(CMembers, AreDescribedSoundly) {
       EXPECT_TRUE(members.insert(member.name).second) << member.name;
       EXPECT_TRUE(ids.insert(member.id).second) << member.name;
       EXPECT_NE(std::string(member.help), "");
+      EXPECT_EQ((member.traits & FOLIVAR_TAG) != 0, std::string(member.name) == "Tag");
       EXPECT_TRUE(member.actions == FOLIVAR_CALL ||
                   (member.actions & ~(FOLIVAR_GET | FOLIVAR_SET)) == 0);
     }

@@ -38,7 +38,7 @@ TEST(CUsage, ASecondThreadGetsError70) {
   WhileInUse(document, [&] {
     InAnotherThread([&] {
       EXPECT_EQ(folivar_PDFPage_DrawText(page, "a", 1, 2), 70);
-      EXPECT_EQ(LastText(), "the document is being used by another thread");
+      EXPECT_EQ(LastText(), "PDFPage.DrawText: the document is being used by another thread");
     });
     // This thread may call again.
     EXPECT_EQ(folivar_PDFPage_DrawText(page, "a", 1, 2), 0);

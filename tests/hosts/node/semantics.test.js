@@ -504,6 +504,9 @@ test('large_numbers', () => {
   page.Height = -(10n ** 30n);
   assert.equal(page.Height, -Math.fround(1e30));
   assert.equal(document.Pages(1n), page);
+  const box = page.TextBoxes.Add();
+  box.SelColor = 255n;
+  assert.equal(box.SelColor, 255);
 });
 
 test('whole_numbers', () => {

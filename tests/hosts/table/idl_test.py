@@ -84,6 +84,13 @@ class ReaderTest(unittest.TestCase):
         self.assertEqual(event.parameters,
                          (idl.Parameter("thing", idl.Type("object", "Thing")),))
 
+    def test_a_tag_is_let_and_set(self):
+        tag = only_member('''[propput, id(1), helpstring("H")] HRESULT Tag([in] VARIANT newValue);
+            [propputref, id(1), helpstring("H")] HRESULT Tag([in] VARIANT newValue);''')
+        self.assertTrue(tag.is_tag)
+        self.assertFalse(only_member('''[propput, id(1), helpstring("H")]
+            HRESULT Color([in] VARIANT newValue);''').is_tag)
+
     def test_enumeration(self):
         enumeration, = library().enumerations
         self.assertEqual((enumeration.name, enumeration.help, enumeration.constants),
