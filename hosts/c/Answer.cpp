@@ -57,16 +57,11 @@ void Answer::Give(const std::shared_ptr<Canvas>& canvas) {
 }
 
 void Answer::Give(const Value& value) {
-  if (const folivar_value* host = HostValue::In(value)) {
-    folivar_value lent = *host;
-    lent.with.release = nullptr;
-    Set(lent);
-  } else if (const auto* object = value.As<std::shared_ptr<Object>>()) {
-    // It came in from a host, so it has its peer.
-    auto* peer = *object ? static_cast<folivar_object*>((*object)->Peer()) : nullptr;
+  if (const folivar_value* kept = HostValue::In(value)) {
     if (result_ == nullptr) return;
-    if (peer != nullptr) peer->Hold();
-    *result_ = folivar_of(peer);
+    *result_ = *kept;
+    result_->with = {};
+    if (kept->kind == FOLIVAR_OBJECT) folivar_retain(kept->as.object);
   } else if (const auto* flag = value.As<bool>()) {
     Give(*flag);
   } else if (const auto* integer = value.As<std::int64_t>()) {

@@ -28,14 +28,18 @@ bool IsText(const folivar_value& value) {
 
 }  // namespace
 
-Arguments::Arguments(const folivar_class& type, const folivar_member& member, std::int32_t action,
-                     folivar_value* given, std::size_t count)
-    : type_(type), member_(member), given_(given), count_(count) {
+Arguments::Arguments(const folivar_object& source, const folivar_member& member,
+                     std::int32_t action, folivar_value* given, std::size_t count)
+    : source_(source), member_(member), given_(given), count_(count) {
   const std::size_t most = action == FOLIVAR_SET ? 1 : member.parameter_count;
   if (count <= most) return;
   throw Error(kWrongCount,
               "takes " + std::to_string(most) + " arguments at most, not " + std::to_string(count))
-      .WithMember(std::string(type.name) + "." + member.name);
+      .WithMember(MemberName());
+}
+
+std::string Arguments::MemberName() const {
+  return std::string(source_.TheClass().description->name) + "." + member_.name;
 }
 
 const folivar_value& Arguments::At(std::size_t place) const {
@@ -52,7 +56,7 @@ const folivar_value& Arguments::Wanted(std::size_t place) const {
 }
 
 Error Arguments::Refused(const Error& error, std::size_t place) const {
-  const std::string member = std::string(type_.name) + "." + member_.name;
+  const std::string member = MemberName();
   if (place >= member_.parameter_count) return error.WithMember(member);
   const std::string name = member_.parameters[place].name;
   return error.WithObject("argument '" + name + "'").WithMember(member);
@@ -136,22 +140,31 @@ Value Arguments::Any(std::size_t place) const {
     case FOLIVAR_TEXT:
     case FOLIVAR_UTF16:
       return TextOf(value);
-    case FOLIVAR_OBJECT:
-      return TheObject(place);
-    case FOLIVAR_HOST:
-      return HostValue::TakeOver(std::exchange(given_[place], kLeftOut));
     default:
-      throw Refused(Error::TypeMismatch("a value of this kind is not taken"), place);
+      break;
   }
+  // Neither number, text nor flag: the model refuses it, or passes it over where it never raises.
+  if ((member_.traits & FOLIVAR_TAG) == 0) return Value::Host({});
+  if (value.kind == FOLIVAR_OBJECT && value.as.object == nullptr) return Value::Null();
+  if (value.kind != FOLIVAR_OBJECT && value.kind != FOLIVAR_HOST) {
+    throw Refused(Error::TypeMismatch("a tag is of another kind"), place);
+  }
+  return HostValue::TakeOver(std::exchange(given_[place], kLeftOut));
 }
 
 std::shared_ptr<Object> Arguments::TheObject(std::size_t place) const {
   const folivar_value& value = Wanted(place);
-  if (value.kind == FOLIVAR_OBJECT && value.as.object != nullptr) {
-    return value.as.object->TheObject();
+  if (value.kind == FOLIVAR_NULL) return nullptr;
+  if (value.kind != FOLIVAR_OBJECT) {
+    throw Refused(Error::TypeMismatch("an object is wanted"), place);
   }
-  if (value.kind == FOLIVAR_OBJECT || value.kind == FOLIVAR_NULL) return nullptr;
-  throw Refused(Error::TypeMismatch("an object is wanted"), place);
+  const folivar_object* const object = value.as.object;
+  if (object == nullptr) return nullptr;
+  // What two documents shared, two threads would use.
+  if (&object->TheUsage() != &source_.TheUsage()) {
+    throw Refused(Error::InvalidArgument("belongs to another document"), place);
+  }
+  return object->TheObject();
 }
 
 void Arguments::RefuseClass(std::size_t place) const {

@@ -20,8 +20,8 @@ namespace folivar::hosts {
 // another kind; the error names the member and the argument.
 class Arguments {
  public:
-  // Raises 450 for too many.
-  Arguments(const folivar_class& type, const folivar_member& member, std::int32_t action,
+  // Of a call of `source`. Raises 450 for too many.
+  Arguments(const folivar_object& source, const folivar_member& member, std::int32_t action,
             folivar_value* given, std::size_t count);
 
   bool Flag(std::size_t place) const;
@@ -35,7 +35,7 @@ class Arguments {
   std::optional<TextView> OptionalText(std::size_t place) const;
   // Missing for one that is left out.
   Value Any(std::size_t place) const;
-  // Null for none.
+  // Null for none. Raises 5 for an object of another document.
   std::shared_ptr<Object> TheObject(std::size_t place) const;
   [[noreturn]] void RefuseClass(std::size_t place) const;
 
@@ -43,13 +43,14 @@ class Arguments {
   void Fill(std::size_t place, float number) const;
 
  private:
+  std::string MemberName() const;
   const folivar_value& At(std::size_t place) const;
   bool IsLeftOut(std::size_t place) const;
   const folivar_value& Wanted(std::size_t place) const;
   Error Refused(const Error& error, std::size_t place) const;
   double Number(std::size_t place, const char* wanted) const;
 
-  const folivar_class& type_;
+  const folivar_object& source_;
   const folivar_member& member_;
   folivar_value* given_;
   std::size_t count_;

@@ -8,23 +8,25 @@
 
 namespace folivar::hosts {
 
-// A pointer of the host's in a tag, whose host hears when it is needed no more.
+// What a tag keeps for a host: a pointer, whose host hears when it is needed no more, or an object,
+// which is held.
 class HostValue {
  public:
-  // Takes the pointer over, also when it raises.
+  // Takes a pointer over, also when it raises, and holds an object.
   static Value TakeOver(const folivar_value& given) {
     std::shared_ptr<HostValue> made;
     try {
       made = std::make_shared<HostValue>();
     } catch (...) {
-      Release(given);
+      if (given.kind == FOLIVAR_HOST) Release(given);
       throw;
     }
     made->given_ = given;
+    if (given.kind == FOLIVAR_OBJECT) folivar_retain(given.as.object);
     return Value::Host(std::shared_ptr<const HostValue>(std::move(made)));
   }
 
-  // Null for what is no pointer of a host's.
+  // Null for any other value.
   static const folivar_value* In(const Value& value) {
     const auto* host = value.As<std::any>();
     const auto* held =
@@ -39,7 +41,11 @@ class HostValue {
 
  private:
   static void Release(const folivar_value& given) {
-    if (given.with.release != nullptr) given.with.release(given.as.host);
+    if (given.kind == FOLIVAR_OBJECT) {
+      folivar_release(given.as.object);
+    } else if (given.with.release != nullptr) {
+      given.with.release(given.as.host);
+    }
   }
 
   folivar_value given_{};

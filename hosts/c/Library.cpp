@@ -109,7 +109,7 @@ void Invoke(folivar_object& object, std::int32_t id, std::int32_t action, foliva
   const Turn turn(object.TheUsage(), *type.description, member.name);
   const Run run = verb == FOLIVAR_SET ? entry->write : entry->read;
   Answer answer(object, verb != action, result);
-  run(*object.TheObject(), Arguments(*type.description, member, verb, arguments, count), answer);
+  run(*object.TheObject(), Arguments(object, member, verb, arguments, count), answer);
 }
 
 // A tag's pointer that nobody has taken over is given back.

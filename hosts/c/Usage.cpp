@@ -1,29 +1,48 @@
 #include "hosts/c/Usage.h"
 
+#include <thread>
+
 #include "hosts/c/folivar_object.h"
 
 namespace folivar::hosts {
 namespace {
 
-// An address that no other thread has.
-const void* ThisThread() {
-  static thread_local const char place = 0;
-  return &place;
+constexpr std::uintptr_t kLettingGo = 1;
+
+// An even address that no other thread has.
+std::uintptr_t ThisThread() {
+  alignas(2) static thread_local const char place = 0;
+  return reinterpret_cast<std::uintptr_t>(&place);
 }
 
 }  // namespace
 
 bool Usage::Enter() noexcept {
-  const void* const me = ThisThread();
-  const void* user = nullptr;
-  if (!user_.compare_exchange_strong(user, me) && user != me) return false;
-  ++depth_;
-  return true;
+  const std::uintptr_t me = ThisThread();
+  for (;;) {
+    std::uintptr_t user = 0;
+    if (user_.compare_exchange_strong(user, me)) {
+      depth_ = 1;
+      return true;
+    }
+    if ((user & ~kLettingGo) == me) {
+      ++depth_;
+      return true;
+    }
+    if ((user & kLettingGo) == 0) return false;
+    std::this_thread::yield();
+  }
 }
 
 void Usage::Leave() noexcept {
-  if (--depth_ > 0) return;
-  user_.store(nullptr);
+  if (depth_ > 1) {
+    --depth_;
+    return;
+  }
+  // What was called may be among those that wait, and this with it.
+  const std::shared_ptr<Usage> kept = waiting_.load() == nullptr ? nullptr : shared_from_this();
+  depth_ = 0;
+  user_.store(0);
   if (waiting_.load() != nullptr) LetGoOfWaiting();
 }
 
@@ -33,11 +52,14 @@ void Usage::LetWait(folivar_object& object) noexcept {
 }
 
 void Usage::LetGoOfWaiting() noexcept {
-  while (waiting_.load() != nullptr && Enter()) {
+  const std::shared_ptr<Usage> kept = shared_from_this();
+  const std::uintptr_t me = ThisThread() | kLettingGo;
+  std::uintptr_t user = 0;
+  while (waiting_.load() != nullptr && user_.compare_exchange_strong(user, me)) {
+    depth_ = 1;
     while (folivar_object* const object = NextWaiting()) object->StopWaiting();
-    --depth_;
-    if (depth_ > 0) return;
-    user_.store(nullptr);
+    depth_ = 0;
+    user_.store(0);
   }
 }
 

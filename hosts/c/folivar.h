@@ -20,8 +20,9 @@
 // describes. Nothing is thrown. An argument that a function only reads is borrowed for the call.
 //
 // A document, with all that belongs to it, is used by one thread at a time; a second one that calls
-// meanwhile gets error 70 (folivar_retain, folivar_release and folivar_clear may be called at any
-// time). Documents do not disturb each other.
+// meanwhile gets error 70. Documents do not disturb each other. Objects may be held and let go of
+// at any time, in whatever thread, and in the midst of a call; what ends by that ends when no
+// thread uses the document.
 
 #ifndef FOLIVAR_H
 #define FOLIVAR_H
@@ -80,7 +81,7 @@ typedef struct folivar_value {
   union {
     size_t length;
     // Of a tag that is set: called once, from whatever thread, when the library needs as.host no
-    // more, also when setting fails. May be null.
+    // more, also when setting fails. May be null. It must not wait for another thread.
     void (*release)(void* host);
   } with;
 } folivar_value;
@@ -135,9 +136,10 @@ enum folivar_action {
 // the member gives nothing. After a failure it is FOLIVAR_EMPTY.
 //
 // Besides the members' own errors raises 13 for an argument of a wrong kind or an object of another
-// class, 94 for FOLIVAR_NULL where a number, flag or text is wanted, 6 for a number that is too
-// large, 438 for a member or action that the object does not have, 450 for a wrong number of
-// arguments, 91 for a null `object`, 70 while another thread uses the document.
+// class, 5 for an object of another document, 94 for FOLIVAR_NULL where a number, flag or text is
+// wanted, 6 for a number that is too large, 438 for a member or action that the object does not
+// have, 450 for a wrong number of arguments, 91 for a null `object`, 70 while another thread uses
+// the document.
 FOLIVAR_PUBLIC int32_t folivar_invoke(folivar_object* object, int32_t id, int32_t action,
                                       folivar_value* arguments, size_t count,
                                       folivar_value* result);

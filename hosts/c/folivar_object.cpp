@@ -32,25 +32,13 @@ void folivar_object::Hold() {
 void folivar_object::LetGo() noexcept {
   // This object may end with its pins.
   const std::shared_ptr<Usage> usage = usage_;
-  const bool mayEnd = usage->Enter();
   {
-    Pins last;
     const std::lock_guard lock(usage->Holding());
-    --holders_;
-    if (holders_ == 0 && !isWaiting_) {
-      if (mayEnd) {
-        last = std::move(pins_);
-      } else {
-        usage->LetWait(*this);
-        isWaiting_ = true;
-      }
-    }
+    if (--holders_ > 0 || isWaiting_) return;
+    usage->LetWait(*this);
+    isWaiting_ = true;
   }
-  if (mayEnd) {
-    usage->Leave();
-  } else {
-    usage->LetGoOfWaiting();
-  }
+  usage->LetGoOfWaiting();
 }
 
 void folivar_object::StopWaiting() noexcept {

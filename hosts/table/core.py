@@ -17,6 +17,8 @@ LONG_CALLS = {
     ("PDFFonts", "AvailableFonts"),
     ("PDFFonts", "Item"),
     ("PDFImage", "FileName"),
+    ("PDFTextBox", "SelBold"),
+    ("PDFTextBox", "SelItalic"),
 }
 
 

@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <initializer_list>
 #include <limits>
 #include <string>
 
@@ -141,6 +142,35 @@ TEST_F(CArguments, ObjectsAreOfTheClassThatIsWanted) {
   EXPECT_EQ(LastText(), "PDFPage.Font: an object is of the wrong class");
   other = folivar_text("Helvetica");
   EXPECT_EQ(folivar_invoke(page.Any(), kFont, FOLIVAR_SET, &other, 1, nullptr), 13);
+}
+
+TEST_F(CArguments, ObjectsOfAnotherDocumentRaise5) {
+  const auto other = AddPage(NewDocument());
+  folivar_PDFBookmarks* bookmarks = nullptr;
+  folivar_PDFBookmark* bookmark = nullptr;
+  folivar_PDFLinkDestination* destination = nullptr;
+  ASSERT_EQ(folivar_PDFDocument_Bookmarks(document, &bookmarks), 0);
+  ASSERT_EQ(
+      folivar_PDFBookmarks_Add(bookmarks, "", folivar_missing(), folivar_missing(), &bookmark), 0);
+  ASSERT_EQ(folivar_PDFBookmark_Destination(bookmark, &destination), 0);
+  EXPECT_EQ(folivar_PDFLinkDestination_SetPage(destination, other), 5);
+  EXPECT_EQ(LastText(), "PDFLinkDestination.page: belongs to another document");
+  EXPECT_EQ(folivar_PDFLinkDestination_SetPage(destination, page), 0);
+  folivar_release(destination);
+  folivar_release(bookmark);
+  folivar_release(bookmarks);
+}
+
+TEST_F(CArguments, WhatIsNoKeyIsNoneAndRaisesNothingWhereNothingIsRaised) {
+  for (const int kind : std::initializer_list<int>{FOLIVAR_ARRAY, FOLIVAR_HOST, 11, -1}) {
+    folivar_value given = folivar_missing();
+    given.kind = kind;
+    bool isThere = true;
+    EXPECT_EQ(folivar_PDFPages_KeyExists(PagesOf(document), given, &isThere), 0);
+    EXPECT_FALSE(isThere);
+    EXPECT_EQ(folivar_PDFPages_Remove(PagesOf(document), given), 13);
+    EXPECT_EQ(folivar_PDFPages_ReOrder(PagesOf(document), "b", given, folivar_missing()), 0);
+  }
 }
 
 TEST_F(CArguments, TextsMayBeUtf16WithLoneSurrogatesAndNuls) {

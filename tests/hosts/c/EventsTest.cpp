@@ -111,6 +111,25 @@ TEST(CEvents, CallbacksAreReleasedOnce) {
   EXPECT_EQ(handler.released, 3);
 }
 
+TEST(CEvents, HandlersMayLetGoOfEverything) {
+  folivar_PDFDocument* document = nullptr;
+  folivar_PDFPages* pages = nullptr;
+  folivar_PDFPage* page = nullptr;
+  ASSERT_EQ(folivar_PDFDocument_new(nullptr, &document), 0);
+  ASSERT_EQ(folivar_PDFDocument_Pages(document, &pages), 0);
+  ASSERT_EQ(folivar_PDFPages_Add(pages, "a", folivar_missing(), folivar_missing(), &page), 0);
+  Handler handler{[&](folivar_PDFPage*) {
+    folivar_release(page);
+    folivar_release(pages);
+    folivar_release(document);
+    EXPECT_EQ(handler.released, 0);
+    return 0;
+  }};
+  Subscribe(page, handler);
+  EXPECT_EQ(folivar_PDFPages_Remove(pages, folivar_integer(1)), 0);
+  EXPECT_EQ(handler.released, 1);
+}
+
 TEST(CEvents, AFailureInReOrderIsDropped) {
   const auto document = NewDocument();
   const auto page = AddPage(document, "a");

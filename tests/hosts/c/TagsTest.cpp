@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 
 #include "tests/hosts/c/Held.h"
 
@@ -52,6 +53,32 @@ TEST(CTags, HoldAnyKind) {
   EXPECT_EQ(tag.as.object, other.Any());
   folivar_clear(&tag);
   ASSERT_EQ(folivar_PDFPage_SetTag(page, folivar_missing()), 450);
+  // It holds the document of both.
+  ASSERT_EQ(folivar_PDFPage_SetTag(page, folivar_null()), 0);
+}
+
+TEST(CTags, ObjectsAreHeldWithTheirDocument) {
+  const auto document = NewDocument();
+  ASSERT_EQ(folivar_PDFDocument_SetTag(document, folivar_of(AddPage(NewDocument(), "other"))), 0);
+  folivar_value tag;
+  ASSERT_EQ(folivar_PDFDocument_Tag(document, &tag), 0);
+  ASSERT_EQ(tag.kind, FOLIVAR_OBJECT);
+  auto* page = static_cast<folivar_PDFPage*>(folivar_object_in(tag));
+  EXPECT_EQ(KeyOf(page), "other");
+  folivar_PDFDocument* parent = nullptr;
+  EXPECT_EQ(folivar_PDFPage_ParentDocument(page, &parent), 0) << LastText();
+  EXPECT_NE(parent, document);
+  folivar_release(parent);
+  folivar_clear(&tag);
+}
+
+TEST(CTags, AChainOfDocumentsOfAnyLengthMayEnd) {
+  auto last = NewDocument();
+  for (int i = 0; i < 50000; ++i) {
+    auto next = NewDocument();
+    ASSERT_EQ(folivar_PDFDocument_SetTag(next, folivar_of(last)), 0);
+    last = std::move(next);
+  }
 }
 
 TEST(CTags, PointersAreReleasedOnceWhenTheyAreNeededNoMore) {

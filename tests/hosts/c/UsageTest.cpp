@@ -52,6 +52,36 @@ TEST(CUsage, OtherDocumentsAreNotDisturbed) {
   WhileInUse(document, [&] { InAnotherThread([&] { AddPage(other); }); });
 }
 
+TEST(CUsage, LettingGoDisturbsNobody) {
+  const auto document = NewDocument();
+  const auto page = AddPage(document);
+  std::atomic<bool> isDone = false;
+  std::thread other([&] {
+    while (!isDone) {
+      folivar_retain(page);
+      folivar_release(page);
+    }
+  });
+  for (int i = 0; i < 20000; ++i) {
+    AddTextBox(page);  // let go of at once
+    ASSERT_EQ(folivar_PDFPage_SetWidth(page, 100), 0) << LastText();
+  }
+  isDone = true;
+  other.join();
+}
+
+TEST(CUsage, TheLastHoldMayGoInAnotherThread) {
+  const auto document = NewDocument();
+  const auto page = AddPage(document);
+  for (int round = 0; round < 200; ++round) {
+    std::vector<Held<folivar_PDFTextBox>> boxes;
+    for (int i = 0; i < 20; ++i) boxes.push_back(AddTextBox(page));
+    std::thread other([&] { boxes.clear(); });
+    for (int i = 0; i < 50; ++i) ASSERT_EQ(folivar_PDFPage_SetWidth(page, 100), 0) << LastText();
+    other.join();
+  }
+}
+
 void CountRelease(void* count) { ++*static_cast<std::atomic<int>*>(count); }
 
 TEST(CUsage, WhatASecondThreadLetsGoOfEndsWhenTheFirstIsDone) {
