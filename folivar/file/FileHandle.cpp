@@ -6,8 +6,10 @@
 #endif
 
 #include <cerrno>
+#include <cstddef>
 #include <cstdint>
 #include <new>
+#include <string_view>
 #include <system_error>
 
 namespace folivar {
@@ -64,12 +66,31 @@ std::int32_t NumberOf(FileAction action, int reason) {
   }
 }
 
+#ifdef _WIN32
+bool CanBeNamed(std::u16string_view) { return true; }
+#else
+// Names are UTF-8, which cannot say a lone surrogate.
+bool CanBeNamed(std::u16string_view name) {
+  for (std::size_t i = 0; i < name.size(); ++i) {
+    if (name[i] < 0xD800 || name[i] > 0xDFFF) continue;
+    const bool isPair =
+        name[i] < 0xDC00 && i + 1 < name.size() && name[i + 1] >= 0xDC00 && name[i + 1] <= 0xDFFF;
+    if (!isPair) return false;
+    ++i;
+  }
+  return true;
+}
+#endif
+
 }  // namespace
 
 void CheckFileName(const Text& name) {
   if (name.IsEmpty()) throw Error::BadFileName("a file name is wanted: it is empty");
   if (name.Utf16().find(u'\0') != std::u16string::npos) {
     throw Error::BadFileName("its name holds a NUL character").WithObject(FileNamed(name.Utf8()));
+  }
+  if (!CanBeNamed(name.Utf16())) {
+    throw Error::BadFileName("its name holds a lone surrogate").WithObject(FileNamed(name.Utf8()));
   }
 }
 

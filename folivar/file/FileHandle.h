@@ -9,7 +9,8 @@
 
 namespace folivar {
 
-// Raises 52 for an empty name and for one that holds a NUL character.
+// Raises 52 for an empty name, for one that holds a NUL character and, where names are UTF-8, for
+// one that holds a lone surrogate.
 void CheckFileName(const Text& name);
 
 struct FileCloser {

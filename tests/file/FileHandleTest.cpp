@@ -33,6 +33,18 @@ TEST(FileHandle, ANameIsNeitherEmptyNorDoesItHoldANul) {
   EXPECT_EQ(numberFor("a\0"sv), Error::kBadFileName);
 }
 
+TEST(FileHandle, ANameIsWholeCharacters) {
+  const auto numberFor = [](std::u16string_view name) {
+    return ErrorNumberOf([&] { CheckFileName(Text(name)); });
+  };
+  EXPECT_EQ(numberFor(u"\xD83D\xDE00.pdf"), 0);
+  EXPECT_EQ(numberFor(u"\xE000"), 0);
+  for (const std::u16string_view name :
+       {u"\xD83D", u"\xDE00", u"a\xD83Dz", u"\xD83D\xD83D\xDE00", u"\xDE00\xD83D"}) {
+    EXPECT_EQ(numberFor(name), Error::kBadFileName);
+  }
+}
+
 TEST(FileHandle, AFileIsCalledByItsName) { EXPECT_EQ(FileNamed("a.pdf"), "file 'a.pdf'"); }
 
 TEST(FileHandle, AFileToReadIsReadFromItsBeginning) {
