@@ -742,6 +742,20 @@ test('other_threads', async () => {
   for (const other of files) assert.deepEqual(fs.readFileSync(other), fs.readFileSync(file));
 });
 
+test('other_document', () => {
+  const document = documentOf('own');
+  const other = documentOf('other');
+  const page = other.Pages('other');
+  const destination = document.Bookmarks.Add().Destination;
+  const message = 'PDFLinkDestination.page: belongs to another document';
+  assert.throws(() => { destination.page = page; }, { number: 5, message });
+  assert.equal(destination.page, null);
+  const own = document.Pages('own');
+  raises(5, () => own.DrawTemplate(other.Templates.Add()));
+  own.Tag = page;
+  assert.equal(own.Tag, page);
+});
+
 test('two_threads', () => {
   const { port1, port2 } = new MessageChannel();
   const document = documentOf('a');

@@ -642,6 +642,21 @@ class Semantics(unittest.TestCase):
             self.assertTrue(read[0].startswith(b"%PDF-"))
             self.assertTrue(read[0].rstrip().endswith(b"%%EOF"))
 
+    def test_other_document(self):
+        other = folivar.PDFDocument()
+        page = other.Pages.Add("other")
+        destination = self.doc.Bookmarks.Add().Destination
+        with self.assertRaises(folivar.Error) as caught:
+            destination.page = page
+        self.assertEqual(caught.exception.number, 5)
+        self.assertEqual(str(caught.exception),
+                         "PDFLinkDestination.page: belongs to another document")
+        self.assertIsNone(destination.page)
+        own = self.doc.Pages.Add("own")
+        self.assertRaisesNumber(5, own.DrawTemplate, other.Templates.Add())
+        own.Tag = page
+        self.assertIs(own.Tag, page)
+
     def test_two_threads(self):
         """While one thread saves into a pipe that nobody reads yet, another uses the document."""
         self.fill(self.doc)
