@@ -23,9 +23,6 @@ namespace {
 constexpr std::int32_t kItem = 0;
 constexpr std::int32_t kElements = -4;
 
-// Where a type whose objects can be created has its Class.
-constexpr char kClass[] = "_class";
-
 PyMemberDef weakReferences[] = {
     {"__weaklistoffset__", T_PYSSIZET, offsetof(Wrapper, weakReferences), READONLY, nullptr},
     {nullptr, 0, 0, 0, nullptr}};
@@ -64,11 +61,6 @@ void Class::Add(const folivar_member& description) {
   if (description.id == kItem) item_ = &members.back();
 }
 
-const Class& Class::Of(PyTypeObject* type) {
-  const Owned capsule(PyObject_GetAttrString(reinterpret_cast<PyObject*>(type), kClass));
-  return *static_cast<const Class*>(PyCapsule_GetPointer(capsule.Get(), nullptr));
-}
-
 const Member* Class::Find(std::string_view name) const {
   const auto is = [&](const Member& member) { return member.Name() == name; };
   auto found = std::find_if(members_.begin(), members_.end(), is);
@@ -92,13 +84,7 @@ bool Class::AddTo(PyObject* module) {
                              Py_TPFLAGS_DEFAULT | Py_TPFLAGS_HAVE_GC, slots.data()};
   PyObject* const type = PyType_FromSpec(&description);
   type_ = reinterpret_cast<PyTypeObject*>(type);
-  return type != nullptr && (!description_.is_creatable || LinkFrom(type)) &&
-         PyObject_SetAttrString(module, Name(), type) == 0;
-}
-
-bool Class::LinkFrom(PyObject* type) {
-  const Owned capsule(PyCapsule_New(this, nullptr, nullptr));
-  return capsule && PyObject_SetAttrString(type, kClass, capsule.Get()) == 0;
+  return type != nullptr && PyObject_SetAttrString(module, Name(), type) == 0;
 }
 
 bool Class::PrepareMembers() {

@@ -24,9 +24,6 @@ class Class {
   // Makes the type and adds it to the module. False with Python's error set.
   bool AddTo(PyObject* module);
 
-  // Of a type that can be created.
-  static const Class& Of(PyTypeObject* type);
-
   State& TheState() const { return state_; }
   PyTypeObject* Type() const { return type_; }
   // "PDFPage", "folivar.PDFPage"
@@ -51,7 +48,6 @@ class Class {
  private:
   void Add(const folivar_member& description);
   bool IsCollection() const;
-  bool LinkFrom(PyObject* type);
   bool PrepareMembers();
   void DescribeMember(const Member& member);
   std::vector<PyType_Slot> Slots();

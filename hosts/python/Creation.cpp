@@ -11,7 +11,7 @@
 namespace folivar::python {
 
 PyObject* Creation::Create(PyTypeObject* type, PyObject* positional, PyObject* names) {
-  const Class& wanted = Class::Of(type);
+  const Class& wanted = State::ClassOfAny(type);
   if (PyTuple_Size(positional) != 0 || (names != nullptr && PyDict_Size(names) != 0)) {
     return PyErr_Format(PyExc_TypeError, "%s takes no arguments", wanted.Name());
   }

@@ -11,6 +11,12 @@ const Class* State::ClassOf(const PyTypeObject* type) const {
   return found == classes.end() ? nullptr : &*found;
 }
 
+const Class& State::ClassOfAny(const PyTypeObject* type) {
+  const State* state = newest_;
+  while (state->ClassOf(type) == nullptr) state = state->earlier_;
+  return *state->ClassOf(type);
+}
+
 const Enumeration* State::EnumerationOf(const char* name) const {
   if (name == nullptr) return nullptr;
   const auto found =

@@ -3,6 +3,7 @@
 #include <Python.h>
 
 #include <deque>
+#include <utility>
 
 #include "hosts/c/folivar.h"
 #include "hosts/python/Class.h"
@@ -24,6 +25,8 @@ class State {
   }
   // Null for types of others.
   const Class* ClassOf(const PyTypeObject* type) const;
+  // Of a type of any import of the module.
+  static const Class& ClassOfAny(const PyTypeObject* type);
   // Null for a name that no enumeration has.
   const Enumeration* EnumerationOf(const char* name) const;
 
@@ -35,6 +38,11 @@ class State {
   // environment says.
   PyObject* warnings = nullptr;
   ReleasedValues released;
+
+ private:
+  static inline constinit const State* newest_ = nullptr;
+
+  const State* const earlier_ = std::exchange(newest_, this);  // of an earlier import
 };
 
 }  // namespace folivar::python

@@ -38,6 +38,13 @@ class Module(unittest.TestCase):
         self.assertLessEqual({name for name in used if name.startswith("_Py")}, UNDERSCORED)
         self.assertTrue(any(name.startswith("Py") for name in used))
 
+    def test_leans_on_no_attribute_that_a_program_can_set(self):
+        self.assertEqual([name for name in vars(folivar.PDFDocument)
+                          if name.startswith("_") and not name.startswith("__")], [])
+        script = "import folivar; folivar.PDFDocument._class = 5; folivar.PDFDocument()"
+        ran = subprocess.run([sys.executable, "-c", script], capture_output=True, check=False)
+        self.assertEqual((ran.returncode, ran.stderr), (0, b""))
+
 
 class Stubs(unittest.TestCase):
     def setUp(self):
