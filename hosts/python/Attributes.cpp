@@ -41,7 +41,7 @@ Owned Spelled(const Class& type, PyObject* name) {
   KeptError own;
   const Owned utf8(PyUnicode_AsUTF8String(name));
   PyErr_Clear();  // lone surrogates are in no name
-  const std::string_view text = utf8 ? PyBytes_AsString(utf8.Get()) : "";
+  const std::string_view text = Names::TextIn(utf8);
   if (text.starts_with("__")) return {};
   const Member* const member = type.Find(text);
   if (member != nullptr && member->Name() == text) return {};

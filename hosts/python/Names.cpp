@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "hosts/python/Owned.h"
-
 namespace folivar::python {
 namespace {
 
@@ -19,6 +17,11 @@ bool IsSameLetter(char letter, char other) { return Lower(letter) == Lower(other
 
 bool Names::IsSameWithoutCase(std::string_view name, std::string_view other) {
   return std::equal(name.begin(), name.end(), other.begin(), other.end(), IsSameLetter);
+}
+
+std::string_view Names::TextIn(const Owned& bytes) {
+  if (!bytes) return {};
+  return {PyBytes_AsString(bytes.Get()), static_cast<std::size_t>(PyBytes_Size(bytes.Get()))};
 }
 
 std::size_t Names::Distance(std::string_view name, std::string_view other) {
@@ -45,8 +48,7 @@ std::size_t Names::Find(std::span<const folivar_parameter> parameters, PyObject*
   const Owned utf8(PyUnicode_AsUTF8String(name));
   PyErr_Clear();  // lone surrogates are in no name
   if (!utf8) return parameters.size();
-  const std::string_view wanted(PyBytes_AsString(utf8.Get()),
-                                static_cast<std::size_t>(PyBytes_Size(utf8.Get())));
+  const std::string_view wanted = TextIn(utf8);
   const auto found =
       std::find_if(parameters.begin(), parameters.end(), [&](const folivar_parameter& parameter) {
         return IsSameWithoutCase(wanted, parameter.name);

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "hosts/c/folivar.h"
+#include "hosts/python/Owned.h"
 
 namespace folivar::python {
 
@@ -14,6 +15,9 @@ namespace folivar::python {
 class Names {
  public:
   static bool IsSameWithoutCase(std::string_view name, std::string_view other);
+
+  // The UTF-8 of a name; of none, nothing.
+  static std::string_view TextIn(const Owned& bytes);
 
   // How many letters are to be changed, put in or left out to make one of the other, whatever their
   // case.

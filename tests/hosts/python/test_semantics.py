@@ -324,6 +324,11 @@ class Semantics(unittest.TestCase):
         self.assertIs(self.doc.bookmarks.Add().destination.PAGE, None)
         with self.assertRaises(AttributeError):
             folivar.HtaLeft
+        for name in ("drawtext\0zzz", "width\0", "\0"):
+            self.assertFalse(hasattr(page, name))
+            with self.assertRaises(AttributeError):
+                setattr(page, name, 7)
+        self.assertEqual(page.Width, 5)
 
     def test_unknown_member(self):
         page, = self.pages("a")
