@@ -87,11 +87,9 @@ class Semantics(unittest.TestCase):
             self.assertIs(boxes("box").Parent.Tag, tag)
 
     def test_release_order(self):
-        seed = random.randrange(2 ** 32)
-        chance = random.Random(seed)
-        for _ in range(100):
+        for seed in range(100):
             with self.subTest(seed=seed):
-                self.let_go_in_any_order(chance)
+                self.let_go_in_any_order(random.Random(seed))
 
     def let_go_in_any_order(self, chance):
         doc = folivar.PDFDocument()
