@@ -1,11 +1,11 @@
 #include "hosts/python/Call.h"
 
-#include <cstdint>
 #include <cstring>
 #include <utility>
 
 #include "hosts/python/Arguments.h"
 #include "hosts/python/InterpreterLock.h"
+#include "hosts/python/KeptError.h"
 #include "hosts/python/Member.h"
 #include "hosts/python/Owned.h"
 #include "hosts/python/Results.h"
@@ -27,6 +27,20 @@ PyObject* Result(const State& state, const Member& member, const folivar_value* 
                           member.Parameters().size() - member.GivenCount());
 }
 
+// What the library tells of the call that failed last.
+void RaiseLastError(const State& state) {
+  const folivar_error& last = *folivar_last_error();
+  const Owned text(Texts::FromUtf8(last.text, std::strlen(last.text)));
+  const Owned member(Texts::FromUtf8(last.member, std::strlen(last.member)));
+  const Owned number(PyLong_FromLong(last.number));
+  if (!text || !member || !number) return;
+  const Owned error(PyObject_CallFunctionObjArgs(state.error, text.Get(), nullptr));
+  if (error && PyObject_SetAttrString(error.Get(), "number", number.Get()) == 0 &&
+      PyObject_SetAttrString(error.Get(), "member", member.Get()) == 0) {
+    PyErr_SetObject(state.error, error.Get());
+  }
+}
+
 }  // namespace
 
 PyObject* Invoke(PyObject* self, const Member& member, folivar_action action,
@@ -38,18 +52,10 @@ PyObject* Invoke(PyObject* self, const Member& member, folivar_action action,
     return folivar_invoke(wrapper.handle, member.Description().id, action | FOLIVAR_GIVE_UTF16,
                           arguments, count, &result);
   };
-  const std::int32_t failure = member.IsLong() ? InterpreterLock::Without(invoke) : invoke();
+  const std::int32_t number = member.IsLong() ? InterpreterLock::Without(invoke) : invoke();
 
-  PyObject* const thrown = std::exchange(Thrown::Waiting(), nullptr);
   PyObject* given = nullptr;
-  if (failure != 0) {
-    if (thrown != nullptr) {
-      Thrown::Raise(thrown);
-    } else {
-      RaiseLastError(state);
-    }
-  } else {
-    if (thrown != nullptr) Thrown::Report(thrown);
+  if (Succeeded(state, number)) {
     given = Result(state, member, arguments, result);
     folivar_clear(&result);
   }
@@ -80,18 +86,18 @@ int Set(PyObject* self, const Member& property, PyObject* newValue) {
   return nothing ? 0 : -1;
 }
 
-PyObject* RaiseLastError(const State& state) {
-  const folivar_error& last = *folivar_last_error();
-  const Owned text(Texts::FromUtf8(last.text, std::strlen(last.text)));
-  const Owned member(Texts::FromUtf8(last.member, std::strlen(last.member)));
-  const Owned number(PyLong_FromLong(last.number));
-  if (!text || !member || !number) return nullptr;
-  const Owned error(PyObject_CallFunctionObjArgs(state.error, text.Get(), nullptr));
-  if (error && PyObject_SetAttrString(error.Get(), "number", number.Get()) == 0 &&
-      PyObject_SetAttrString(error.Get(), "member", member.Get()) == 0) {
-    PyErr_SetObject(state.error, error.Get());
+bool Succeeded(const State& state, std::int32_t number) {
+  PyObject* const thrown = std::exchange(Thrown::Waiting(), nullptr);
+  if (number == Thrown::kNumber) {
+    Thrown::Raise(thrown);
+    return false;
   }
-  return nullptr;
+  if (number != 0) RaiseLastError(state);
+  if (thrown != nullptr) {
+    const KeptError own;
+    Thrown::Report(thrown);
+  }
+  return number == 0;
 }
 
 }  // namespace folivar::python

@@ -3,6 +3,7 @@
 #include <Python.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <span>
 
 #include "hosts/c/folivar.h"
@@ -29,7 +30,9 @@ PyObject* Call(PyObject* self, const Member& member, std::span<PyObject* const> 
 // set.
 int Set(PyObject* self, const Member& property, PyObject* newValue);
 
-// What the library tells of the call that failed last, as a folivar.Error. Returns null.
-PyObject* RaiseLastError(const State& state);
+// After a function of the library has returned `number`: whether it has done its work. If not,
+// Python's error is set: what a function threw that it called, or a folivar.Error. What a function
+// threw and the library dropped is told to sys.unraisablehook.
+bool Succeeded(const State& state, std::int32_t number);
 
 }  // namespace folivar::python

@@ -13,9 +13,6 @@
 namespace folivar::python {
 namespace {
 
-// What the library is told when a function has thrown. Nobody sees it.
-constexpr std::int32_t kThrown = 440;
-
 Owned TupleOf(const State& state, const folivar_value* values, std::size_t count) {
   Owned tuple(PyTuple_New(static_cast<Py_ssize_t>(count)));
   for (std::size_t i = 0; tuple && i < count; ++i) {
@@ -39,7 +36,7 @@ std::int32_t CallWithLock(const HostValue& host, const folivar_value* arguments,
   PyObject* const thrown = result ? nullptr : Thrown::Take();
   if (earlier != nullptr && thrown != nullptr) Thrown::Report(thrown);
   Thrown::Waiting() = earlier != nullptr ? earlier : thrown;
-  return result ? 0 : kThrown;
+  return result ? 0 : Thrown::kNumber;
 }
 
 std::int32_t CallFunction(void* context, const folivar_value* arguments, std::size_t count) {

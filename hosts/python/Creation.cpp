@@ -25,12 +25,11 @@ PyObject* Creation::Create(PyTypeObject* type, PyObject* positional, PyObject* n
   }
   folivar_object* handle = nullptr;
   PyObject* made = nullptr;
-  if (folivar_create(wanted.Name(), warnings != nullptr ? &callback : nullptr, &handle) == 0) {
+  if (Succeeded(state, folivar_create(wanted.Name(), warnings != nullptr ? &callback : nullptr,
+                                      &handle))) {
     made = Wrapper::Wrap(state, handle);
     if (made != nullptr && warnings != nullptr) warnings->JoinBehind(Wrapper::Of(made).values);
     folivar_release(handle);
-  } else {
-    RaiseLastError(state);
   }
   state.released.LetGo();
   return made;

@@ -19,8 +19,7 @@ PyObject* Unsubscribe(PyObject* subscription, PyObject* /*nothing*/) {
   Wrapper& wrapper = Wrapper::Of(PyTuple_GetItem(subscription, 0));
   State& state = wrapper.type->TheState();
   const std::int64_t number = PyLong_AsLongLong(PyTuple_GetItem(subscription, 1));
-  const bool isDone = folivar_unsubscribe(wrapper.handle, number) == 0;
-  if (!isDone) RaiseLastError(state);
+  const bool isDone = Succeeded(state, folivar_unsubscribe(wrapper.handle, number));
   state.released.LetGo();
   return isDone ? Owned::Share(Py_None).Give() : nullptr;
 }
@@ -52,10 +51,10 @@ PyObject* Subscribe(PyObject* self, const Member& event, std::span<PyObject* con
   function->JoinBehind(Wrapper::DocumentOf(self).values);
   const folivar_callback callback = CallbackTo(*function);
   std::int64_t subscription = 0;
-  if (folivar_subscribe(wrapper.handle, event.Description().id, &callback, &subscription) == 0) {
+  if (Succeeded(state, folivar_subscribe(wrapper.handle, event.Description().id, &callback,
+                                         &subscription))) {
     return Unsubscriber(self, subscription);
   }
-  RaiseLastError(state);
   state.released.LetGo();
   return nullptr;
 }
