@@ -69,7 +69,7 @@ def enumeration_stub(enumeration):
 def class_stub(made):
     lines = ["@final", f"class {made.name}:", f'    """{made.help}"""', ""]
     if made.is_creatable:
-        lines.append("    def __init__(self) -> None: ...")
+        lines.append(f"    def __new__(cls) -> {made.name}: ...")
     for member in made.members:
         if member.id != -4:
             lines += method(made, member) if is_method(member) else attribute(member)

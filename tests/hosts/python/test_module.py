@@ -77,6 +77,12 @@ class Stubs(unittest.TestCase):
             self.assertEqual(shown(self.names_in(node.body)), shown(names), name)
             self.assertEqual(ast.get_docstring(node), made.__doc__)
 
+    def test_name_special_methods_that_the_classes_have(self):
+        for name, node in self.classes.items():
+            if name.startswith("PDF"):
+                special = self.names_in(node.body) - shown(self.names_in(node.body))
+                self.assertLessEqual(special, vars(getattr(folivar, name)).keys(), name)
+
     def test_tell_the_same_help(self):
         for name, node in self.classes.items():
             for member in node.body:
