@@ -1,9 +1,18 @@
 #include "hosts/python/Signature.h"
 
+#include <array>
+#include <charconv>
 #include <span>
 
 namespace folivar::python {
 namespace {
+
+// The shortest there is, whatever the locale is.
+std::string NumberText(double number) {
+  std::array<char, 32> text;
+  const auto written = std::to_chars(text.data(), text.data() + text.size(), number);
+  return {text.data(), written.ptr};
+}
 
 std::string DefaultOf(const folivar_parameter& parameter) {
   switch (parameter.value.kind) {
@@ -12,7 +21,7 @@ std::string DefaultOf(const folivar_parameter& parameter) {
     case FOLIVAR_INTEGER:
       return std::to_string(parameter.value.as.integer);
     case FOLIVAR_NUMBER:
-      return std::to_string(parameter.value.as.number);
+      return NumberText(parameter.value.as.number);
     case FOLIVAR_TEXT:
       return "'" + std::string(parameter.value.as.text, parameter.value.with.length) + "'";
     default:
