@@ -78,7 +78,7 @@ bool Class::IsCollection() const {
 }
 
 bool Class::AddTo(PyObject* module) {
-  if (!PrepareMembers()) return false;
+  if (!PrepareMembers(module)) return false;
   std::vector<PyType_Slot> slots = Slots();
   PyType_Spec description = {fullName_.c_str(), sizeof(Wrapper), 0,
                              Py_TPFLAGS_DEFAULT | Py_TPFLAGS_HAVE_GC, slots.data()};
@@ -87,9 +87,9 @@ bool Class::AddTo(PyObject* module) {
   return type != nullptr && PyObject_SetAttrString(module, Name(), type) == 0;
 }
 
-bool Class::PrepareMembers() {
+bool Class::PrepareMembers(PyObject* module) {
   const bool arePrepared = std::all_of(members_.begin(), members_.end(),
-                                       [](Member& member) { return member.Prepare(); });
+                                       [&](Member& member) { return member.Prepare(module); });
   if (!arePrepared) return false;
   for (const Member& member : members_) DescribeMember(member);
   methodTable_.push_back({});

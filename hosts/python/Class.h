@@ -48,7 +48,7 @@ class Class {
  private:
   void Add(const folivar_member& description);
   bool IsCollection() const;
-  bool PrepareMembers();
+  bool PrepareMembers(PyObject* module);
   void DescribeMember(const Member& member);
   std::vector<PyType_Slot> Slots();
 

@@ -21,8 +21,8 @@ class Member {
   Member(const State& state, const folivar_class& owner, const folivar_member& description,
          Kind kind);
 
-  // Makes what can fail. False with Python's error set.
-  bool Prepare();
+  // Makes what can fail, and adds to the module what it has to find. False with Python's error set.
+  bool Prepare(PyObject* module);
 
   const folivar_member& Description() const { return description_; }
   const char* Name() const { return description_.name; }
@@ -48,7 +48,8 @@ class Member {
 
   // The enumeration that it gives a value of; null for none.
   const Enumeration* ResultEnumeration() const { return resultEnumeration_; }
-  // The type of the tuple that it fills; null for none.
+  // The type of the tuple that it fills, which pickle finds as folivar._PDFPage_GetCurPos; null for
+  // none.
   PyTypeObject* FilledType() const { return filledType_; }
 
  private:
@@ -60,7 +61,7 @@ class Member {
   std::size_t givenCount_ = 0;
   std::size_t requiredCount_ = 0;
   std::string documentation_;
-  std::string filledName_;
+  const std::string filledName_;
   PyTypeObject* filledType_ = nullptr;
 };
 

@@ -116,6 +116,14 @@ class Lifetime(unittest.TestCase):
             with self.assertRaises(TypeError):
                 pickle.dumps(one)
 
+    def test_filled_tuples_are_copied(self):
+        page = folivar.PDFDocument().Pages.Add()
+        page.SetCurPos(3, 4)
+        for filled in (page.GetCurPos(), page.GetClipBox(), page.Font.GetTextExtents("text")):
+            for back in (pickle.loads(pickle.dumps(filled)), copy.deepcopy(filled)):
+                self.assertEqual(back, filled)
+                self.assertIs(type(back), type(filled))
+
     def test_second_import_is_a_module_of_its_own(self):
         first = sys.modules.pop("folivar")
         try:
