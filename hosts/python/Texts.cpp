@@ -12,7 +12,9 @@ constexpr bool kIsLittleEndian = std::endian::native == std::endian::little;
 }  // namespace
 
 bool Texts::Convert(PyObject* text, folivar_value& value) {
-  // Gives the bytes of the text itself, if it is ASCII, or the UTF-8 that Python keeps with it.
+  // Gives the bytes of the text itself, if it is ASCII. With any other text Python keeps its UTF-8
+  // from then on: memory for as long as the text lives, but the text is encoded only once.
+  // PyUnicode_AsUTF8AndSize does the same; the limited API has it from 3.10 on.
   const char* utf8 = nullptr;
   Py_ssize_t length = 0;
   if (PyArg_Parse(text, "s#", &utf8, &length) != 0) {
