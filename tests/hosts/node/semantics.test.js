@@ -287,6 +287,7 @@ test('collections', () => {
   }
   assert.equal(Pages.count, 2);
   assert.ok('a' in Pages && 'A' in Pages && !('c' in Pages));
+  assert.ok('Add' in Pages && !Pages.KeyExists('Add'));
   assert.ok(1 in Pages && 2 in Pages && !(0 in Pages) && !(3 in Pages));
   const keys = [];
   for (const page of Pages) keys.push(page.Key);
@@ -481,6 +482,15 @@ test('wrong_kind', () => {
   const box = page.TextBoxes.Add();
   raises(13, () => { box.SelColor = {}; });
   raises(13, () => { box.SelColor = page; });
+  // What never raises finds nothing.
+  for (const wrong of [[], new Date(), Symbol('a'), () => 1, page, true, null, Buffer.from('a')]) {
+    assert.equal(document.Pages.KeyExists(wrong), false);
+  }
+  document.Pages.Add('b');
+  document.Pages.ReOrder('a', undefined, 'b');
+  assert.deepEqual([...document.Pages].map(({ Key }) => Key), ['b', 'a']);
+  document.Pages.ReOrder('a', []);
+  assert.deepEqual([...document.Pages].map(({ Key }) => Key), ['b']);
   page.Font.Underline = 1;
   assert.equal(page.Font.Underline, true);
   page.Font.Underline = 0;

@@ -412,6 +412,15 @@ class Semantics(unittest.TestCase):
         for wrong in ([], object(), page, True, slice(1, 2)):
             self.assertRaisesNumber(13, self.doc.Pages, wrong)
         self.assertRaisesNumber(13, lambda: self.doc.Pages[1:2])
+        # What never raises finds nothing.
+        for wrong in ([], object(), page, True, None, b"a", 1j):
+            self.assertIs(self.doc.Pages.KeyExists(wrong), False)
+            self.assertNotIn(wrong, self.doc.Pages)
+        other, = self.pages("b")
+        self.doc.Pages.ReOrder("a", After="b")
+        self.assertEqual(list(self.doc.Pages), [other, page])
+        self.assertIsNone(self.doc.Pages.ReOrder("a", Before=[]))
+        self.assertEqual(list(self.doc.Pages), [other])
         self.assertRaisesNumber(13, page.DrawRect, 0, 0, 1, 1, "yes")
         for number in (0, 1, 2, -1, 0.5):
             self.doc.ViewerPreferences.FitWindow = number
