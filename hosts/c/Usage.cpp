@@ -40,7 +40,8 @@ void Usage::Leave() noexcept {
     return;
   }
   // What was called may be among those that wait, and this with it.
-  const std::shared_ptr<Usage> kept = waiting_.load() == nullptr ? nullptr : shared_from_this();
+  const std::shared_ptr<Usage> kept =
+      waiting_.load() == nullptr ? nullptr : weak_from_this().lock();
   depth_ = 0;
   user_.store(0);
   if (waiting_.load() != nullptr) LetGoOfWaiting();
@@ -52,7 +53,7 @@ void Usage::LetWait(folivar_object& object) noexcept {
 }
 
 void Usage::LetGoOfWaiting() noexcept {
-  const std::shared_ptr<Usage> kept = shared_from_this();
+  const std::shared_ptr<Usage> kept = weak_from_this().lock();
   const std::uintptr_t me = ThisThread() | kLettingGo;
   std::uintptr_t user = 0;
   while (waiting_.load() != nullptr && user_.compare_exchange_strong(user, me)) {

@@ -27,6 +27,8 @@
 #ifndef FOLIVAR_H
 #define FOLIVAR_H
 
+// NOLINTBEGIN: this is C.
+
 #include <stdbool.h>
 #include <stddef.h>
 #include <stdint.h>
@@ -316,6 +318,8 @@ static inline folivar_object* folivar_any(void* object) {
 #ifdef __cplusplus
 }
 #endif
+
+// NOLINTEND
 
 #include "folivar_members.h"
 
