@@ -110,7 +110,7 @@ bool Arguments::TakeValue(const Member& member, Wrapper& document, PyObject* new
   }
   HostValue* const made = HostValue::Make(document.type->TheState(), newValue);
   if (made == nullptr) return false;
-  made->JoinBehind(document.values);
+  made->JoinBefore(document.values);
   values_[0].kind = FOLIVAR_HOST;
   values_[0].as.host = made;
   values_[0].with.release = &HostValue::Release;

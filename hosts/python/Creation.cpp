@@ -28,7 +28,7 @@ PyObject* Creation::Create(PyTypeObject* type, PyObject* positional, PyObject* n
   if (Succeeded(state, folivar_create(wanted.Name(), warnings != nullptr ? &callback : nullptr,
                                       &handle))) {
     made = Wrapper::Wrap(state, handle);
-    if (made != nullptr && warnings != nullptr) warnings->JoinBehind(Wrapper::Of(made).values);
+    if (made != nullptr && warnings != nullptr) warnings->JoinBefore(Wrapper::Of(made).values);
     folivar_release(handle);
   }
   state.released.LetGo();

@@ -48,7 +48,7 @@ PyObject* Subscribe(PyObject* self, const Member& event, std::span<PyObject* con
   State& state = wrapper.type->TheState();
   HostValue* const function = HostValue::Make(state, handler);
   if (function == nullptr) return nullptr;
-  function->JoinBehind(Wrapper::DocumentOf(self).values);
+  function->JoinBefore(Wrapper::DocumentOf(self).values);
   const folivar_callback callback = CallbackTo(*function);
   std::int64_t subscription = 0;
   if (Succeeded(state, folivar_subscribe(wrapper.handle, event.Description().id, &callback,

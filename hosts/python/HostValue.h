@@ -4,8 +4,8 @@
 
 #include <utility>
 
+#include "folivar/base/RingLink.h"
 #include "hosts/python/ReleasedValues.h"
-#include "hosts/python/RingLink.h"
 
 namespace folivar::python {
 
@@ -36,6 +36,7 @@ class HostValue : public RingLink {
   friend class ReleasedValues;
 
   HostValue(State& state, PyObject* object) : state_(state), object_(object) { Py_INCREF(object); }
+  ~HostValue() { Leave(); }
 
   State& state_;
   PyObject* object_;

@@ -52,7 +52,7 @@ void Wrapper::Deallocate(PyObject* self) {
   *folivar_slot(wrapper.handle) = nullptr;
   if (wrapper.weakReferences != nullptr) PyObject_ClearWeakRefs(self);
   // Where the library keeps values of a document that is gone here, they stay without it.
-  wrapper.values.~RingLink();
+  wrapper.values.Leave();
   folivar_release(wrapper.handle);
   ReleasedValues& released = wrapper.type->TheState().released;
   auto* const document = reinterpret_cast<PyObject*>(wrapper.document);

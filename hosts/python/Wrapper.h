@@ -2,8 +2,8 @@
 
 #include <Python.h>
 
+#include "folivar/base/RingLink.h"
 #include "hosts/c/folivar.h"
-#include "hosts/python/RingLink.h"
 
 namespace folivar::python {
 
