@@ -50,7 +50,7 @@ bool AddError(State& state, PyObject* module) {
 }
 
 bool Fill(State& state, PyObject* module) {
-  const folivar_library& library = state.library;
+  const folivar_library& library = state.description;
   for (const auto& one : std::span(library.enumerations, library.enumeration_count)) {
     if (!state.enumerations.emplace_back(one).AddTo(module)) return false;
   }

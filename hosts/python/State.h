@@ -16,12 +16,12 @@ namespace folivar::python {
 // program ends, since objects may outlive their module.
 class State {
  public:
-  explicit State(const folivar_library& described) : library(described) {}
+  explicit State(const folivar_library& described) : description(described) {}
 
   static State& Of(PyObject* module) { return **static_cast<State**>(PyModule_GetState(module)); }
 
   const Class& ClassOf(const folivar_object* handle) const {
-    return classes[static_cast<std::size_t>(folivar_class_of(handle) - library.classes)];
+    return classes[static_cast<std::size_t>(folivar_class_of(handle) - description.classes)];
   }
   // Null for types of others.
   const Class* ClassOf(const PyTypeObject* type) const;
@@ -30,7 +30,7 @@ class State {
   // Null for a name that no enumeration has.
   const Enumeration* EnumerationOf(const char* name) const;
 
-  const folivar_library& library;
+  const folivar_library& description;
   std::deque<Enumeration> enumerations;
   std::deque<Class> classes;  // in the order of the description
   PyObject* error = nullptr;  // folivar.Error

@@ -142,7 +142,7 @@ class Attributes(dict):
 
 def read(path):
     with open(path, encoding="utf-8") as file:
-        return Reader(file.read()).library()
+        return Reader(file.read()).read()
 
 
 class Reader:
@@ -164,7 +164,7 @@ class Reader:
 
     # The pieces of the language
 
-    def library(self):
+    def read(self):
         while self.peek() == "import":
             self.until(";")
         attributes = self.attributes()

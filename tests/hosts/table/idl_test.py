@@ -22,7 +22,7 @@ def library(members="", before="", classes=CLASS):
 {members}
 }};
 {classes}
-}};''').library()
+}};''').read()
 
 
 def only_member(members):
@@ -163,10 +163,10 @@ class RefusalTest(unittest.TestCase):
     def test_end_in_the_midst(self):
         with self.assertRaisesRegex(idl.IdlError, "^line 2: "):
             idl.Reader('[version(1.0)] library Sample {\n[helpstring("E")] typedef enum Mode {'
-                       ).library()
+                       ).read()
         with self.assertRaisesRegex(idl.IdlError, "'{' is missing"):
             idl.Reader('[version(1.0)] library Sample {\n[uuid(3), helpstring("E")] interface _Thing'
-                       ).library()
+                       ).read()
 
 
 if __name__ == "__main__":
